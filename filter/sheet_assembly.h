@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// From converted pages to sheets: most sizes print each page, one size joins two pages in a sheet.
+#ifndef TQR7_FILTER_SHEET_ASSEMBLY_H
+#define TQR7_FILTER_SHEET_ASSEMBLY_H
+
+#include "filter/print_setting.h"
+#include "image/band_image.h"
+
+/// Prints the converted page (48 bits a pixel), or parks the first page of a joined sheet in
+/// gImageCache. False when printing failed or the sheet cache could not be made.
+bool print_page(const tagPRINTSETTING* settings, tagMVBandImageParams* image);
+
+/// Prints the joined sheet that still waits for its second page when the job ends. True when none
+/// waits, else print_image's result.
+bool print_last_page(const tagPRINTSETTING* settings);
+
+#endif  // TQR7_FILTER_SHEET_ASSEMBLY_H

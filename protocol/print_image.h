@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// One sheet from end to end: the checks, the headers, the pixels, the pause.
+#ifndef TQR7_PROTOCOL_PRINT_IMAGE_H
+#define TQR7_PROTOCOL_PRINT_IMAGE_H
+
+#include "filter/print_setting.h"
+#include "image/band_image.h"
+
+/// Prints one 48-bit band as a sheet (with gMatteImage for a matte finish). False when the printer
+/// is not good or does not take the sheet; nothing of the image was sent then.
+bool print_image(const tagPRINTSETTING* settings, tagMVBandImageParams* image);
+
+#endif  // TQR7_PROTOCOL_PRINT_IMAGE_H

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// What is known of the printer's condition, as one small value.
+#ifndef TQR7_STATUS_PRINTER_STATE_H
+#define TQR7_STATUS_PRINTER_STATE_H
+
+#include <cstdint>
+#include <string>
+
+/// Nothing usable from the printer, or its 16-bit error number (0: all is well), or a wildcard.
+class PrinterState {
+ public:
+  enum class Type : std::int32_t {
+    Unavailable = 0,  ///< no usable reply
+    Available = 1,    ///< the printer answered with error_number
+    Any = 2,          ///< equals every state
+  };
+
+  explicit PrinterState(Type state_type) : type(state_type), error_number(0) {}
+  PrinterState(Type state_type, unsigned short number) : type(state_type), error_number(number) {}
+
+  static PrinterState Unavailable();
+  static PrinterState Good();
+  /// With number 0 the same value as Good().
+  static PrinterState Error(unsigned short number);
+  static PrinterState Any();
+
+  /// The wildcard equals all; available states equal by number; unavailable ones equal each other.
+  bool operator==(const PrinterState& other) const;
+  bool operator!=(const PrinterState& other) const;
+
+  /// "UNAVAILABLE", "GOOD", the number as 0x2110, "ANY" or, outside the enumeration, "UNKNOWN".
+  std::string to_string() const;
+
+  Type type;
+  std::uint16_t error_number;  ///< high byte: group, low byte: detail
+};
+
+#endif  // TQR7_STATUS_PRINTER_STATE_H
