@@ -1,0 +1,12 @@
+# SPDX-License-Identifier: Apache-2.0
+#
+# The filter's five folders but for its main. MVChangeImage stays undefined here: whoever links this
+# library brings a conversion library, or a test's stand-in.
+add_library(tqr7_core STATIC
+  image/band_image.cpp
+  image/rect.cpp)
+target_include_directories(tqr7_core PUBLIC "${PROJECT_SOURCE_DIR}")
+target_link_libraries(tqr7_core PUBLIC Cups::Cups "${CUPSIMAGE_LIBRARY}")
+# The driver interface of CUPS (PPD files, raster version 1) is marked deprecated in its headers, and
+# is what a filter is given to work with.
+target_compile_options(tqr7_core PRIVATE -Wno-deprecated-declarations)

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "image/band_image.h"
+
+#include <cstring>
+#include <limits>
+#include <new>
+
+namespace {
+
+using MV_TYPEDEF::tagRECT;
+
+// Rectangles come with any edges: arithmetic on them wraps instead of being undefined.
+std::int64_t difference(std::int64_t a, std::int64_t b) {
+  return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) - static_cast<std::uint64_t>(b));
+}
+
+std::int64_t product(std::int64_t a, std::int64_t b) {
+  return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) * static_cast<std::uint64_t>(b));
+}
+
+// Bytes of a buffer of width × height pixels. An inverted rectangle, and one beyond the number
+// range, asks for more than any allocator has, never for a small buffer.
+std::size_t buffer_size(std::int64_t width, std::int64_t height, std::int64_t bytes_per_pixel) {
+  std::int64_t pixels = 0;
+  std::int64_t size = 0;
+  if (__builtin_mul_overflow(width, height, &pixels) ||
+      __builtin_mul_overflow(pixels, bytes_per_pixel, &size) || size < 0) {
+    return std::numeric_limits<std::size_t>::max();
+  }
+  return static_cast<std::size_t>(size);
+}
+
+}  // namespace
+
+bool CImageUtility::CreateBandImage(tagMVBandImageParams* image, const tagRECT& rect,
+                                    int bitsPerPixel, int direction) {
+  const std::int64_t bytes_per_pixel = bitsPerPixel / 8;
+  const std::int64_t width = difference(rect.right, rect.left);
+  const std::int64_t height = difference(rect.bottom, rect.top);
+  const std::size_t size = buffer_size(width, height, bytes_per_pixel);
+
+  const std::int64_t line = product(width, bytes_per_pixel);
+  image->lStride = direction < 0 ? difference(0, line) : line;
+  image->rcBand = rect;
+  image->pBits = new (std::nothrow) unsigned char[size];
+  if (image->pBits == nullptr) {
+    return false;
+  }
+  std::memset(image->pBits, 0xFF, size);
+  return true;
+}
+
+void CImageUtility::DeleteBandImage(tagMVBandImageParams* image) {
+  if (image != nullptr && image->pBits != nullptr) {
+    delete[] image->pBits;
+    image->pBits = nullptr;
+  }
+}
+
+bool CImageUtility::CopyBandImage(tagMVBandImageParams* dest, const tagMVBandImageParams* src,
+                                  int bitsPerPixel) {
+  const std::int64_t bytes_per_pixel = bitsPerPixel / 8;
+  tagRECT shared{};
+  if (IntersectRect(&shared, &dest->rcBand, &src->rcBand) == 0) {
+    return true;
+  }
+
+  const unsigned char* from = src->pBits;
+  unsigned char* to = dest->pBits;
+  // The source alone decides: callers pass two bands of one line order.
+  if (src->lStride >= 0) {
+    const auto source_height = static_cast<std::int32_t>(src->rcBand.bottom - src->rcBand.top);
+    const auto dest_height = static_cast<std::int32_t>(dest->rcBand.bottom - dest->rcBand.top);
+    from += src->lStride * (source_height - 1);
+    to += dest->lStride * (dest_height - 1);
+  }
+  from -= src->lStride * (shared.top - src->rcBand.top);
+  to -= dest->lStride * (shared.top - dest->rcBand.top);
+
+  const std::int64_t from_column = (shared.left - src->rcBand.left) * bytes_per_pixel;
+  const std::int64_t to_column = (shared.left - dest->rcBand.left) * bytes_per_pixel;
+  const auto count = static_cast<std::size_t>((shared.right - shared.left) * bytes_per_pixel);
+  for (std::int64_t row = shared.top; row < shared.bottom; ++row) {
+    std::memcpy(to + to_column, from + from_column, count);
+    if (row + 1 < shared.bottom) {
+      from -= src->lStride;
+      to -= dest->lStride;
+    }
+  }
+  return true;
+}
+
+bool CImageUtility::FillBandImage(tagMVBandImageParams* image, int bitsPerPixel, void* pattern) {
+  if (image->pBits == nullptr) {
+    return false;
+  }
+  const std::int64_t bytes_per_pixel = bitsPerPixel / 8;
+  if (bytes_per_pixel <= 0) {
+    return true;  // a pixel without bytes leaves nothing to write
+  }
+  const std::int64_t height = difference(image->rcBand.bottom, image->rcBand.top);
+  const std::int64_t stride = image->lStride;
+  const std::int64_t whole_pixels = (stride < 0 ? -stride : stride) / bytes_per_pixel;
+  unsigned char* line = image->pBits;
+  if (stride >= 0 && height > 0) {
+    line += stride * (height - 1);
+  }
+  for (std::int64_t row = 0; row < height; ++row) {
+    for (std::int64_t i = 0; i < whole_pixels; ++i) {
+      std::memcpy(line + i * bytes_per_pixel, pattern, static_cast<std::size_t>(bytes_per_pixel));
+    }
+    if (row + 1 < height) {
+      line -= stride;
+    }
+  }
+  return true;
+}
