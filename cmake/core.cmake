@@ -3,6 +3,10 @@
 # The filter's five folders but for its main. MVChangeImage stays undefined here: whoever links this
 # library brings a conversion library, or a test's stand-in.
 add_library(tqr7_core STATIC
+  diag/csv_values.cpp
+  diag/dump.cpp
+  diag/enum_names.cpp
+  diag/image_files.cpp
   image/band_image.cpp
   image/rect.cpp)
 target_include_directories(tqr7_core PUBLIC "${PROJECT_SOURCE_DIR}")
