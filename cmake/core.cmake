@@ -7,8 +7,15 @@ add_library(tqr7_core STATIC
   diag/dump.cpp
   diag/enum_names.cpp
   diag/image_files.cpp
+  filter/job_state.cpp
   image/band_image.cpp
-  image/rect.cpp)
+  image/rect.cpp
+  status/printer_check.cpp
+  status/printer_exchange.cpp
+  status/printer_state.cpp
+  status/reason_table.cpp
+  status/state_reasons.cpp
+  status/status_query.cpp)
 target_include_directories(tqr7_core PUBLIC "${PROJECT_SOURCE_DIR}")
 target_link_libraries(tqr7_core PUBLIC Cups::Cups "${CUPSIMAGE_LIBRARY}")
 # The driver interface of CUPS (PPD files, raster version 1) is marked deprecated in its headers, and

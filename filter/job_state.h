@@ -20,4 +20,17 @@ extern std::uint8_t gRgbRate;             ///< the sheet's rates, from its conve
 extern std::uint8_t gOpRate;
 extern int curLine;
 
+/// Calls on the printer's stream that are under way: a signal handler that finds one must leave the
+/// stream alone, whose buffer is then half changed.
+extern volatile std::sig_atomic_t gOutputCalls;
+
+/// Stands around each call on the printer's stream.
+class OutputCall {
+ public:
+  OutputCall() { gOutputCalls = gOutputCalls + 1; }
+  ~OutputCall() { gOutputCalls = gOutputCalls - 1; }
+  OutputCall(const OutputCall&) = delete;
+  OutputCall& operator=(const OutputCall&) = delete;
+};
+
 #endif  // TQR7_FILTER_JOB_STATE_H

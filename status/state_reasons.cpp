@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "status/state_reasons.h"
+
+#include <cups/cups.h>
+
+#include <cstdio>
+#include <set>
+#include <string>
+
+#include "status/reason_table.h"
+
+namespace {
+
+constexpr unsigned int kHighestDetail = 0xFF;
+constexpr char kCatchAllReason[] = "com.corvantiel-error0004";
+
+// The table's keywords that have not been raised, in the byte order in which they are withdrawn.
+using ClearSet = std::set<std::string>;
+
+ClearSet every_reason() {
+  ClearSet keywords;
+  for (const PrinterStateReason& row : PRINTER_STATE_REASONS) {
+    for (const char* keyword : row.reasons) {
+      if (keyword == nullptr) {
+        break;
+      }
+      keywords.insert(keyword);
+    }
+  }
+  return keywords;
+}
+
+bool matches(const PrinterStateReason& row, const PrinterState& state) {
+  unsigned int first = row.error_low;
+  unsigned int last = row.error_low;
+  if (row.error_low > kHighestDetail) {
+    first = row.error_low & kHighestDetail;
+    last = row.error_low >> 8U;
+  }
+  for (unsigned int detail = first; detail <= last; ++detail) {
+    const auto number = static_cast<unsigned short>(row.error_high * 256U + detail);
+    if (state == PrinterState::Error(number)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+void raise(const char* keyword, const PrinterState& state, ClearSet& to_clear) {
+  to_clear.erase(keyword);
+  std::fprintf(stderr, "STATE: +%s\n", keyword);
+  std::fprintf(stderr, "DEBUG: %s %s\n", keyword, state.to_string().c_str());
+}
+
+}  // namespace
+
+void update_printer_state(const PrinterState& state) {
+  ClearSet to_clear = every_reason();
+  bool matched = false;
+  for (const PrinterStateReason& row : PRINTER_STATE_REASONS) {
+    if (!matches(row, state)) {
+      continue;
+    }
+    matched = true;
+    for (const char* keyword : row.reasons) {
+      if (keyword == nullptr) {
+        break;
+      }
+      raise(keyword, state, to_clear);
+    }
+  }
+  if (!matched) {
+    raise(kCatchAllReason, state, to_clear);
+    std::fprintf(stderr, "DEBUG: error_number part mismatch processing \n");
+  }
+  for (const std::string& keyword : to_clear) {
+    std::fprintf(stderr, "STATE: -%s\n", keyword.c_str());
+  }
+}
+
+namespace {
+
+// A text without a keyword still gives its one line, which then names none.
+void withdraw_each(std::string reasons) {
+  char* rest = nullptr;
+  const char* keyword = strtok_r(reasons.data(), ",", &rest);
+  std::fprintf(stderr, "STATE: -%s\n", keyword != nullptr ? keyword : "(null)");
+  while (keyword != nullptr && (keyword = strtok_r(nullptr, ",", &rest)) != nullptr) {
+    std::fprintf(stderr, "STATE: -%s\n", keyword);
+  }
+}
+
+}  // namespace
+
+void clean_printer_state() {
+  std::fprintf(stderr, "clean_printer_state() START\n");
+  cups_dest_t* destinations = nullptr;
+  const int count = cupsGetDests(&destinations);
+  // The default destination, not the job's own queue: under the scheduler they are the same.
+  const cups_dest_t* destination = cupsGetDest(nullptr, nullptr, count, destinations);
+  if (destination == nullptr) {
+    std::fprintf(stderr, "DEBUG: Not found default(destination) printer.\n");
+  } else {
+    const char* reasons =
+        cupsGetOption("printer-state-reasons", destination->num_options, destination->options);
+    withdraw_each(reasons != nullptr ? reasons : "");
+  }
+  cupsFreeDests(count, destinations);
+  std::fprintf(stderr, "clean_printer_state() END\n");
+}
