@@ -7,9 +7,21 @@ add_library(tqr7_core STATIC
   diag/dump.cpp
   diag/enum_names.cpp
   diag/image_files.cpp
+  filter/descriptors.cpp
+  filter/filter_hooks.cpp
   filter/job_state.cpp
+  filter/module_path.cpp
+  filter/page_conversion.cpp
+  filter/paper_table.cpp
+  filter/ppd_options.cpp
+  filter/sheet_assembly.cpp
   image/band_image.cpp
   image/rect.cpp
+  protocol/image_header.cpp
+  protocol/job_header.cpp
+  protocol/plane_transfer.cpp
+  protocol/print_image.cpp
+  protocol/readiness_check.cpp
   status/printer_check.cpp
   status/printer_exchange.cpp
   status/printer_state.cpp

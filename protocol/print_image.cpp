@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "protocol/print_image.h"
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <exception>
+#include <string>
+
+#include "filter/job_state.h"
+#include "protocol/image_header.h"
+#include "protocol/job_header.h"
+#include "protocol/plane_transfer.h"
+#include "protocol/readiness_check.h"
+#include "status/printer_check.h"
+
+namespace {
+
+constexpr unsigned char kImageFlag = 0x01;
+constexpr unsigned int kPauseAfterRefusal = 1;  // seconds
+constexpr unsigned int kPauseAfterImage = 5;
+
+bool printer_takes_sheet(const tagPRINTSETTING* settings) {
+  std::string refusal = "ExaminePage() Error";
+  try {
+    refusal = ExaminePage(settings);
+  } catch (const std::exception&) {
+    // Out of memory: the text above stands, and the sheet is not sent.
+  }
+  if (refusal.empty()) {
+    return true;
+  }
+  std::fprintf(stderr, "DEBUG: %s\n", refusal.c_str());
+  sleep(kPauseAfterRefusal);
+  return false;
+}
+
+// Writes that fail are not looked at here: the next exchange with the printer finds out.
+void send_sheet(const tagPRINTSETTING* settings, tagMVBandImageParams* image) {
+  wr_esc_SP(fpOut, settings);
+  wr_esc_ZT(fpOut, settings, image, kImageFlag);
+  send_image_data(fpOut, image);
+  if (settings->byPrintFinish == kFinishMatte) {
+    send_matte_data(fpOut, &gMatteImage);
+  }
+}
+
+}  // namespace
+
+bool print_image(const tagPRINTSETTING* settings, tagMVBandImageParams* image) {
+  if (!printer_is_good() || !printer_takes_sheet(settings)) {
+    return false;
+  }
+  send_sheet(settings, image);
+  std::fprintf(stderr, "INFO: Printing page %d, %d%% complete...\n", page, 100);
+  // The pause comes before the flush: the tail of the image must reach the printer after it.
+  sleep(kPauseAfterImage);
+  const OutputCall call;
+  static_cast<void>(std::fflush(fpOut));
+  return true;
+}

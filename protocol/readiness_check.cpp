@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "protocol/readiness_check.h"
+
+#include <cups/sidechannel.h>
+#include <unistd.h>
+
+#include "diag/dump.h"
+#include "filter/job_state.h"
+#include "protocol/command_block.h"
+#include "protocol/job_header.h"
+#include "status/printer_exchange.h"
+
+namespace {
+
+constexpr int kExchangeFailed = -1;
+constexpr int kReady = 0x0000;
+constexpr int kBusy = 0x0100;
+
+constexpr std::size_t kReplyMin = 6;
+constexpr std::size_t kOffsetCodeHigh = 4;
+constexpr std::size_t kOffsetCodeLow = 5;
+
+constexpr unsigned int kBusyStep = 2;     // seconds between two queries of a busy printer
+constexpr unsigned int kBusyLimit = 180;  // seconds
+
+// Bytes of the reply, 6 or more, or −1. An empty read is not the end: the answer may still be on
+// its way.
+int read_reply(char* buffer) {
+  std::size_t total = 0;
+  while (total < kReplyMin) {
+    const ssize_t count =
+        cupsBackChannelRead(buffer + total, kReplyBufferSize - total, kReplyTimeout);
+    if (count < 0) {
+      std::fprintf(stderr, "DEBUG: cupsBackChannelRead() failed. ret=%zd\n", count);
+      return -1;
+    }
+    total += static_cast<std::size_t>(count);
+  }
+  return static_cast<int>(total);
+}
+
+// What the printer's answer means to the operator. A mismatch of paper and ribbon that is found
+// before the sheet (0x0001) leaves the queue running; every other refusal pauses it.
+struct Refusal {
+  int code;
+  bool pauses;
+  const char* error;  // of the "ERROR: " line
+};
+
+constexpr Refusal kRefusals[] = {
+    {0x0001, false, "pagesize-inkribbon-unmuch"},
+    {0x0101, true, "pagesize-inkribbon-unmuch"},
+    {0x0200, true, "driver-setting-unmuch"},
+    {0x0201, true, "pagesize-inkribbon-unmuch"},
+    {0xFFFF, true, "out-of-range"},
+};
+
+constexpr Refusal kUnknownAnswer = {0, true, "protocol-error"};
+constexpr Refusal kStillBusy = {kBusy, true, "memory-timeout"};
+
+void report(const Refusal& refusal, int code) {
+  if (refusal.pauses) {
+    std::fprintf(stderr, "STATE: +paused\n");
+  }
+  std::fprintf(stderr, "ERROR: %s %#06x\n", refusal.error, static_cast<unsigned int>(code));
+}
+
+std::string code_name(int code) {
+  char name[32];
+  const auto bits = static_cast<unsigned int>(code);
+  std::snprintf(name, sizeof name, "CMD_GET_ENABLE[%02X + %02X]", (bits >> 8U) & 0xFFU,
+                bits & 0xFFU);
+  return name;
+}
+
+// Any answer but busy: writes its lines, returns the check's result.
+std::string classify(int code) {
+  if (code == kReady) {
+    std::fprintf(stderr, "DEBUG: %s\n", code_name(code).c_str());
+    return "";
+  }
+  for (const Refusal& refusal : kRefusals) {
+    if (refusal.code == code) {
+      std::fprintf(stderr, "DEBUG: %s\n", code_name(code).c_str());
+      report(refusal, code);
+      return "ERROR " + code_name(code);
+    }
+  }
+  std::fprintf(stderr, "DEBUG: PROTOCOL ERROR\n");
+  report(kUnknownAnswer, code);
+  return kUnknownAnswer.error;
+}
+
+}  // namespace
+
+int wr_esc_enable(std::FILE* /*out*/, const tagPRINTSETTING* settings) {
+  unsigned char query[kCommandBlockSize] = {0x1B, 'G', 'D', '3'};
+  std::fprintf(stderr, "DEBUG: buf cmd{0x1B, 'G', 'D', '3'}\n");
+  std::fprintf(stderr, "DEBUG: buf wr_esc_enable() START\n");
+  create_header_sp(query, settings);
+  dump_mem("[CMD]", query, static_cast<int>(sizeof query));
+  if (!send_request(query, sizeof query)) {
+    return kExchangeFailed;
+  }
+  char reply[kReplyBufferSize] = {};
+  drain_output(reply);
+  const int total = read_reply(reply);
+  if (total < 0) {
+    return kExchangeFailed;
+  }
+  dump_mem("[STS]CMD_GET_ENABLE", reply, total);
+  std::fprintf(stderr, "DEBUG: buf wr_esc_enable() END\n");
+  const auto high = static_cast<unsigned char>(reply[kOffsetCodeHigh]);
+  const auto low = static_cast<unsigned char>(reply[kOffsetCodeLow]);
+  return high * 256 + low;
+}
+
+std::string ExaminePage(const tagPRINTSETTING* settings) {
+  std::fprintf(stderr, "DEBUG: ExaminePage() START\n");
+  int code = wr_esc_enable(fpOut, settings);
+  if (code == kExchangeFailed) {
+    return "wr_esc_enable() Error";
+  }
+  for (unsigned int waited = 0; code == kBusy; waited += kBusyStep) {
+    std::fprintf(stderr, "DEBUG: %s\n", code_name(code).c_str());
+    sleep(kBusyStep);
+    code = wr_esc_enable(fpOut, settings);
+    if (code == kBusy && waited == kBusyLimit) {
+      report(kStillBusy, code);
+      return "Timeout Error";
+    }
+  }
+  return classify(code);
+}
