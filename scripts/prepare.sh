@@ -1,0 +1,47 @@
+# SPDX-License-Identifier: Apache-2.0
+# shellcheck shell=bash
+# Shell functions that make a fresh Debian 12 ready: packages, and a build of this tree. Source it.
+
+# What the build needs, then what printing through a scheduler needs.
+TQR7_PACKAGES=(
+  g++ cmake ninja-build libcups2-dev libcupsimage2-dev libpng-dev libjpeg-dev libcli11-dev
+  libgtest-dev libgmock-dev cups-ppdc
+  cups cups-client cups-filters ghostscript
+)
+
+# Prints those of the named packages that are not installed.
+missing_packages() {
+  local package
+  for package in "$@"; do
+    case $(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) in
+      installed) ;;
+      *) printf '%s\n' "$package" ;;
+    esac
+  done
+}
+
+# Installs those of the named packages that are missing. Elsewhere than on Debian it leaves the
+# choice of packages to the person, and the build says what it cannot find.
+install_packages() {
+  command -v dpkg-query >/dev/null && command -v apt-get >/dev/null || return 0
+  local missing as_root=()
+  mapfile -t missing < <(missing_packages "$@")
+  [ ${#missing[@]} -gt 0 ] || return 0
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+      echo "These packages are missing, and there is no sudo to install them: ${missing[*]}" >&2
+      return 1
+    fi
+    as_root=(sudo)
+  fi
+  as_root+=(env DEBIAN_FRONTEND=noninteractive)
+  echo "Installing: ${missing[*]}"
+  local install=("${as_root[@]}" apt-get install -y --no-install-recommends "${missing[@]}")
+  # A fresh system has no lists of packages yet, or stale ones.
+  "${install[@]}" >/dev/null 2>&1 || { "${as_root[@]}" apt-get update && "${install[@]}"; }
+}
+
+# Builds the preset named $1 in the source folder $2.
+build_preset() {
+  (cd "$2" && cmake --preset "$1" && cmake --build --preset "$1" --parallel)
+}
