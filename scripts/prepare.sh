@@ -2,6 +2,7 @@
 # shellcheck shell=bash
 # Shell functions that make a fresh Debian 12 ready: packages, and a build of this tree. Source it.
 
+# shellcheck disable=SC2034  # used by those who source this
 # What the build needs, then what printing through a scheduler needs.
 TQR7_PACKAGES=(
   g++ cmake ninja-build libcups2-dev libcupsimage2-dev libpng-dev libjpeg-dev libcli11-dev

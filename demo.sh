@@ -1,0 +1,205 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: Apache-2.0
+# Prints a photo on a simulated TQR7: a real scheduler, this filter, and a PNG of the sheet.
+set -uo pipefail
+
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+# shellcheck source=scripts/prepare.sh
+. "$here/scripts/prepare.sh"
+# shellcheck source=scripts/private-scheduler.sh
+. "$here/scripts/private-scheduler.sh"
+# shellcheck source=scripts/simulated-printer.sh
+. "$here/scripts/simulated-printer.sh"
+
+photo='' size=RQ_10x15 finish=Gloss output=$PWD/prints
+lp_options=() printer_options=()
+
+size_names() {
+  sed -n 's/^\*\{0,1\}CustomMedia "\(RQ_[^/]*\)\/.*/\1/p' "$here/ppd/tqr7.drv"
+}
+
+usage() {
+  cat <<HELP
+usage: ./demo.sh [photo] [options]
+
+Installs what is missing, builds, and prints the photo (JPEG, PNG, TIFF, GIF or PDF; the sample
+when there is none) through a private CUPS scheduler on a simulated TQR7. Nothing of the system's
+own printing is touched.
+
+  --size NAME            paper size, with or without "RQ_" (10x15)
+  --finish gloss|matte   finish (gloss)
+  -o NAME=VALUE          any option of lp or of the printer, as often as you like
+  --output DIR           folder for the PNG of the sheet (./prints)
+  --printer WORDS        options for the simulated printer, such as '--status 0x2665'
+  --help                 this text
+
+Sizes: $(size_names | sed 's/^RQ_//' | tr '\n' ' ')
+A picture fills the sheet; -o print-scaling=fit shows all of it instead.
+HELP
+}
+
+fail() {
+  echo "demo.sh: $*" >&2
+  exit 1
+}
+
+use_size() {
+  local name
+  while read -r name; do
+    # In any case of letters, with or without RQ_.
+    if [[ ${1,,} == "${name,,}" || rq_${1,,} == "${name,,}" ]]; then
+      size=$name
+      return
+    fi
+  done < <(size_names)
+  fail "no paper size \"$1\"; there are: $(size_names | sed 's/^RQ_//' | tr '\n' ' ')"
+}
+
+use_finish() {
+  case ${1,,} in
+    gloss) finish=Gloss ;;
+    matte) finish=Matte ;;
+    *) fail "no finish \"$1\": gloss or matte" ;;
+  esac
+}
+
+read_arguments() {
+  while [ $# -gt 0 ]; do
+    case $1 in
+      --help | -h) usage && exit 0 ;;
+      --size | --finish | --output | --printer | -o)
+        [ $# -ge 2 ] || fail "$1 needs a value (--help shows how)"
+        case $1 in
+          --size) use_size "$2" ;;
+          --finish) use_finish "$2" ;;
+          --output) output=$2 ;;
+          --printer) read -ra printer_options <<<"$2" ;;
+          -o) lp_options+=(-o "$2") ;;
+        esac
+        shift
+        ;;
+      -*) fail "no option \"$1\" (--help shows those there are)" ;;
+      *)
+        [ -z "$photo" ] || fail "one photo at a time: $photo, $1"
+        photo=$1
+        [ -n "$photo" ] || fail "the photo's name is empty"
+        ;;
+    esac
+    shift
+  done
+}
+
+# By the first bytes, as the scheduler does.
+check_photo() {
+  [ -e "$photo" ] || fail "there is no file $photo"
+  if [ ! -f "$photo" ] || [ ! -r "$photo" ]; then
+    fail "$photo cannot be read"
+  fi
+  case $(head -c 4 "$photo" | od -An -tx1 | tr -d ' \n') in
+    ffd8ff* | 89504e47 | 25504446 | 47494638 | 49492a00 | 4d4d002a) ;;
+    *) fail "$photo is not a JPEG, PNG, TIFF, GIF or PDF file" ;;
+  esac
+}
+
+# A photo fills the sheet unless the person has said how large it is to be.
+add_scaling() {
+  local words=" ${lp_options[*]} "
+  case $words in
+    *' print-scaling='* | *fit-to-page* | *fitplot* | *' fill '* | *' fill='* | *crop-to-fit* | \
+      *' scaling='* | *natural-scaling=* | *' ppi='*) ;;
+    *) lp_options=(-o print-scaling=fill "${lp_options[@]}") ;;
+  esac
+}
+
+build() {
+  install_packages "${TQR7_PACKAGES[@]}" || fail "packages are missing"
+  echo "Building (the first time takes a minute or two) ..."
+  mkdir -p "$here/build"
+  local log="$here/build/demo-build.log"
+  if ! build_preset release "$here" >"$log" 2>&1; then
+    tail -n 30 "$log" >&2
+    fail "the build failed; all it said is in $log"
+  fi
+}
+
+stop_all() {
+  scheduler_stop
+  printers_stop
+  [ -z "${sheets:-}" ] || rm -rf "$sheets"
+}
+
+# Shows the filter's progress until the job has ended, and sets $alerts to how it ended.
+follow_job() {
+  local job=$1 shown='' line tries
+  for ((tries = 0; tries < 1800; ++tries)); do
+    line=$(grep -ao 'Printing page [0-9]*, [0-9]*% complete' "$SCHEDULER_DIR/log/error_log" |
+      tail -n 1)
+    if [ "$line" != "$shown" ]; then
+      echo "  $line"
+      shown=$line
+    fi
+    alerts=$(scheduler_job_alerts "$job")
+    case $alerts in
+      *completed* | *cancel* | *abort* | *stopped* | *error*) return ;;
+    esac
+    sleep 0.2
+  done
+  alerts='no end within six minutes'
+}
+
+explain_failure() {
+  echo "The job failed: ${alerts:-unknown}" >&2
+  echo "The queue says:" >&2
+  lpstat -l -p TQR7 >&2
+  echo "The last lines of the scheduler's log:" >&2
+  grep -a '\[Job ' "$SCHEDULER_DIR/log/error_log" | grep -av 'STATE: -\|envp\|argv' |
+    tail -n 25 >&2
+}
+
+# Moves the sheets to where the person wants them, under names that tell them apart.
+keep_sheets() {
+  local name number=0 sheet target
+  name=$(basename "$photo")
+  name="${name%.*}-${size#RQ_}"
+  mkdir -p "$output" || fail "the folder $output cannot be made"
+  for sheet in "$sheets"/sheet-*.png; do
+    [ -f "$sheet" ] || continue
+    number=$((number + 1))
+    target="$output/$name$([ $number -eq 1 ] || echo "-$number").png"
+    mv -f "$sheet" "$target" || fail "$target cannot be written"
+    echo "The sheet is in $target"
+  done
+  [ $number -gt 0 ]
+}
+
+print_photo() {
+  local request job
+  sheets=$(mktemp -d /tmp/tqr7-sheets.XXXXXX) || fail "no room for the sheet in /tmp"
+  printer_start "$here/build/release" "$sheets" "${printer_options[@]}" ||
+    fail "no simulated printer"
+  scheduler_start "$here/build/release" || fail "no private scheduler"
+  scheduler_add_queue TQR7 "$(printer_uri "$PRINTER_PORT")" || fail "no queue"
+  echo "Printing $photo on $size, ${finish,,} ..."
+  request=$(lp -d TQR7 -o "PageSize=$size" -o "RQPrintFinish=$finish" "${lp_options[@]}" \
+    -- "$photo") || fail "lp did not take the job"
+  job=$(sed -n 's/^request id is \([^ ]*\) .*/\1/p' <<<"$request")
+  follow_job "$job"
+  case $alerts in
+    *job-completed-successfully*) ;;
+    *) explain_failure && return 1 ;;
+  esac
+  keep_sheets || {
+    explain_failure
+    fail "the printer printed no sheet"
+  }
+}
+
+read_arguments "$@"
+[ -z "$photo" ] || check_photo
+add_scaling
+build
+photo=${photo:-$here/build/release/sample-photo.jpg}
+trap stop_all EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM HUP
+print_photo
