@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// The one place where a caller's arguments are doubted; everything behind it relies on them.
+#ifndef TQR7_CONVERSION_REQUEST_CHECK_H
+#define TQR7_CONVERSION_REQUEST_CHECK_H
+
+#include <cstdint>
+
+#include "conversion/change_codes.h"
+#include "image/mv_change_image.h"
+
+/// Most bytes that a band may span, lines with their padding: 16 GiB. The largest sheet (1852 ×
+/// 2434 dots, 6 bytes each) takes 27 MB, so a larger number is a damaged record, not a page.
+inline constexpr std::uint64_t kLargestBand = std::uint64_t{1} << 34;
+
+inline constexpr std::uint64_t kSourceBytesPerPixel = 3;
+inline constexpr std::uint64_t kDestinationBytesPerPixel = 6;
+inline constexpr std::uint64_t kMatteBytesPerPixel = 1;
+
+/// kChangeDone when a page can be converted from and to what the arguments describe, else the code
+/// of the first fault. Takes MVChangeImage's arguments as they come; reads no pixel and writes
+/// nothing. Whether the buffers are as long as their records say cannot be seen from here.
+ChangeCode check_request(const tagMVBandImageParams* source, const tagMVChangeParams* params,
+                         const tagMVBandImageParams* destination, const tagMVBandImageParams* matte,
+                         const unsigned char* rgbRate, const unsigned char* opRate);
+
+#endif  // TQR7_CONVERSION_REQUEST_CHECK_H
