@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// What the decoder tells: one call for each command, each row of pixels and each error, in the
+// order of the stream. The sequence does not depend on the pieces in which the bytes came.
+#ifndef TQR7_DECODER_COMMAND_LISTENER_H
+#define TQR7_DECODER_COMMAND_LISTENER_H
+
+#include <cstdint>
+#include <span>
+
+#include "decoder/command_blocks.h"
+#include "decoder/stream_error.h"
+
+namespace decoder {
+
+/// A sheet whose sizes have passed every check and whose planes follow.
+struct Sheet {
+  JobHeader job;
+  ImageHeader image;
+};
+
+/// What there is to say of a sheet when its last byte is in.
+struct SheetEnd {
+  std::uint64_t offset;      ///< of the byte behind the sheet
+  std::uint64_t badSamples;  ///< samples above 14 bits; the first one was reported as an error
+};
+
+/// Receives a stream's content. A command is told when it is complete, its errors before it, and
+/// also when it had errors: its values may then be any. `offset` is that of its first byte. Spans
+/// are valid during the call only.
+class CommandListener {
+ public:
+  CommandListener() = default;
+  CommandListener(const CommandListener&) = delete;
+  CommandListener& operator=(const CommandListener&) = delete;
+  virtual ~CommandListener() = default;
+
+  virtual void OnStatusRequest(std::uint64_t /*offset*/) {}
+  virtual void OnReadinessQuery(std::uint64_t /*offset*/, const JobHeader& /*header*/) {}
+  virtual void OnJobHeader(std::uint64_t /*offset*/, const JobHeader& /*header*/) {}
+  virtual void OnImageHeader(std::uint64_t /*offset*/, const ImageHeader& /*header*/) {}
+
+  /// Pixels follow: `sheet.image.height` image rows, then `sheet.image.matteHeight` matte rows.
+  virtual void OnSheetBegin(const Sheet& /*sheet*/) {}
+  /// One row of the image, `sheet.image.width` pixels of three samples.
+  virtual void OnImageRow(std::uint32_t /*row*/, std::span<const std::uint16_t> /*samples*/) {}
+  /// One row of the matte plane, `sheet.image.matteWidth` bytes.
+  virtual void OnMatteRow(std::uint32_t /*row*/, std::span<const std::uint8_t> /*bytes*/) {}
+  virtual void OnSheetEnd(const SheetEnd& /*end*/) {}
+  /// The stream ended inside the sheet's planes; takes the place of OnSheetEnd.
+  virtual void OnSheetCut() {}
+
+  virtual void OnPrintOut(std::uint64_t /*offset*/, std::uint8_t /*waitByte*/) {}
+
+  virtual void OnError(const StreamError& /*error*/) {}
+  /// Bytes that belong to no command were passed over; the reason came as an error before.
+  virtual void OnSkipped(std::uint64_t /*offset*/, std::uint64_t /*count*/) {}
+};
+
+}  // namespace decoder
+
+#endif  // TQR7_DECODER_COMMAND_LISTENER_H

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "decoder/stream_error.h"
+
+#include <array>
+#include <cstdio>
+
+namespace decoder {
+
+std::string to_string(const StreamError& error) {
+  return "offset " + std::to_string(error.offset) + ": " + to_string(error.command) + ", " +
+         error.field + ": came " + error.came + ", allowed " + error.allowed;
+}
+
+std::string hex_byte(unsigned value) {
+  std::array<char, 8> text{};
+  std::snprintf(text.data(), text.size(), "0x%02X", value & 0xFFU);
+  return text.data();
+}
+
+}  // namespace decoder

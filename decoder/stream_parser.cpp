@@ -1,0 +1,326 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "decoder/stream_parser.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+
+#include "decoder/geometry_check.h"
+
+namespace decoder {
+namespace {
+
+std::string hex_word(std::uint16_t value) {
+  std::array<char, 8> text{};
+  std::snprintf(text.data(), text.size(), "0x%04X", static_cast<unsigned>(value));
+  return text.data();
+}
+
+// "1B 47 44 37"
+std::string code_text(std::span<const std::uint8_t> bytes) {
+  std::string text;
+  for (const std::uint8_t byte : bytes) {
+    text += (text.empty() ? "" : " ") + hex_byte(byte).substr(2);
+  }
+  return text;
+}
+
+std::string all_codes() {
+  std::string text;
+  for (const CommandCode& code : command_codes()) {
+    text += (text.empty() ? "" : ", ") + code_text(code.bytes);
+  }
+  return text;
+}
+
+std::string place_of_sample(std::uint32_t row, std::size_t index) {
+  constexpr std::size_t kSamplesPerPixel = 3;
+  return "row " + std::to_string(row) + ", column " + std::to_string(index / kSamplesPerPixel) +
+         ", sample " + std::to_string(index % kSamplesPerPixel);
+}
+
+}  // namespace
+
+StreamParser::StreamParser(CommandListener& listener)
+    : listener_(listener), report_([this](const StreamError& error) { Report(error); }) {}
+
+void StreamParser::Report(const StreamError& error) {
+  ++errorCount_;
+  listener_.OnError(error);
+}
+
+void StreamParser::Feed(Bytes bytes) {
+  while (!bytes.empty()) {
+    bytes = bytes.subspan(Step(bytes));
+  }
+}
+
+// Each way to take bytes moves offset_ itself, before it finishes what the bytes complete.
+std::size_t StreamParser::Step(Bytes bytes) {
+  switch (mode_) {
+    case Mode::Code:
+      return TakeCode(bytes);
+    case Mode::Block:
+      return TakeBlock(bytes);
+    case Mode::Image:
+      return TakeImage(bytes);
+    case Mode::Matte:
+      return TakeMatte(bytes);
+    case Mode::Search:
+      return TakeSearch(bytes);
+  }
+  return bytes.size();
+}
+
+std::size_t StreamParser::TakeCode(Bytes bytes) {
+  block_.at(filled_) = bytes.front();
+  ++filled_;
+  ++offset_;
+  if (!is_code_prefix(Block())) {
+    RejectCode();
+  } else if (filled_ == kCodeLength) {
+    BeginBlock(*find_code(Block()));
+  }
+  return 1;
+}
+
+void StreamParser::RejectCode() {
+  Report({BlockOffset(), Command::None, "command code", code_text(Block()), all_codes()});
+  BeginSearch(BlockOffset());
+  scanner_.Take(Block());
+}
+
+void StreamParser::BeginSearch(std::uint64_t from) {
+  mode_ = Mode::Search;
+  searchFrom_ = from;
+  scanner_.Reset();
+}
+
+std::size_t StreamParser::TakeSearch(Bytes bytes) {
+  const std::size_t taken = scanner_.Take(bytes);
+  offset_ += taken;
+  if (scanner_.Found()) {
+    if (scanner_.Skipped() > 0) {
+      listener_.OnSkipped(searchFrom_, scanner_.Skipped());
+    }
+    std::copy(scanner_.Code().begin(), scanner_.Code().end(), block_.begin());
+    filled_ = kCodeLength;
+    BeginBlock(*find_code(Block()));
+  }
+  return taken;
+}
+
+void StreamParser::BeginBlock(const CommandCode& code) {
+  code_ = &code;
+  mode_ = Mode::Block;
+  order_.Take(code.command, BlockOffset(), report_);
+}
+
+std::size_t StreamParser::TakeBlock(Bytes bytes) {
+  const std::size_t count = std::min(bytes.size(), code_->length - filled_);
+  std::copy_n(bytes.begin(), count, block_.begin() + static_cast<std::ptrdiff_t>(filled_));
+  filled_ += count;
+  offset_ += count;
+  if (filled_ == code_->length) {
+    FinishBlock();
+  }
+  return count;
+}
+
+void StreamParser::FinishBlock() {
+  const std::uint64_t errorsBefore = errorCount_;
+  check_fields(Block(), code_->fixedBytes, field_rules(code_->command), code_->command,
+               BlockOffset(), report_);
+  mode_ = Mode::Code;
+  switch (code_->command) {
+    case Command::ReadinessQuery:
+      FinishReadinessQuery(errorsBefore);
+      break;
+    case Command::JobHeader:
+      FinishJobHeader(errorsBefore);
+      break;
+    case Command::ImageHeader:
+      FinishImageHeader();
+      break;
+    case Command::PrintOut:
+      query_.reset();
+      job_.reset();
+      listener_.OnPrintOut(BlockOffset(), read_print_out_wait(Block()));
+      break;
+    default:
+      query_.reset();
+      job_.reset();
+      listener_.OnStatusRequest(BlockOffset());
+      break;
+  }
+  filled_ = 0;
+}
+
+// A body with an error of its own is not compared: one wrong byte shall give one error.
+void StreamParser::CompareWithQuery() {
+  if (!query_) {
+    return;
+  }
+  const auto [mine, theirs] =
+      std::mismatch(block_.begin() + kCodeLength, block_.end(), query_->begin() + kCodeLength);
+  if (mine == block_.end()) {
+    return;
+  }
+  const auto at = static_cast<std::size_t>(mine - block_.begin());
+  Report({BlockOffset() + at, code_->command, field_name(field_rules(code_->command), at),
+          hex_byte(*mine), hex_byte(*theirs) + " as in the last readiness query"});
+}
+
+void StreamParser::FinishReadinessQuery(std::uint64_t errorsBefore) {
+  const JobHeader header = read_job_header(Block());
+  check_sheet(header, code_->command, BlockOffset(), report_);
+  job_.reset();
+  if (errorCount_ == errorsBefore) {
+    CompareWithQuery();
+    query_ = block_;
+  } else {
+    query_.reset();
+  }
+  listener_.OnReadinessQuery(BlockOffset(), header);
+}
+
+void StreamParser::FinishJobHeader(std::uint64_t errorsBefore) {
+  const JobHeader header = read_job_header(Block());
+  job_.reset();
+  if (check_sheet(header, code_->command, BlockOffset(), report_)) {
+    job_ = header;
+  }
+  if (errorCount_ == errorsBefore) {
+    CompareWithQuery();
+  }
+  query_.reset();
+  listener_.OnJobHeader(BlockOffset(), header);
+}
+
+void StreamParser::FinishImageHeader() {
+  const ImageHeader image = read_image_header(Block());
+  const bool good = job_ && check_image(image, *job_, BlockOffset(), report_);
+  listener_.OnImageHeader(BlockOffset(), image);
+  if (good) {
+    sheet_ = {*job_, image};
+    badSamples_ = 0;
+    plane_.Begin(image.width * kBytesPerPixel, image.height);
+    mode_ = Mode::Image;
+    listener_.OnSheetBegin(sheet_);
+  } else {
+    BeginSearch(offset_);
+  }
+  query_.reset();
+  job_.reset();
+}
+
+std::size_t StreamParser::TakeImage(Bytes bytes) {
+  const std::size_t taken = plane_.Take(bytes);
+  offset_ += taken;
+  if (plane_.RowComplete()) {
+    FinishImageRow();
+    plane_.NextRow();
+    if (plane_.Complete()) {
+      BeginMatte();
+    }
+  }
+  return taken;
+}
+
+void StreamParser::FinishImageRow() {
+  read_samples(plane_.Row(), samples_);
+  const std::optional<std::size_t> bad = first_bad_sample(samples_);
+  if (bad && badSamples_ == 0) {
+    Report({offset_ - plane_.Row().size() + 2 * *bad, Command::ImageData,
+            place_of_sample(plane_.RowNumber(), *bad), hex_word(samples_[*bad]),
+            hex_word(0) + " to " + hex_word(kSampleMaximum)});
+  }
+  if (bad) {
+    badSamples_ += count_bad_samples(samples_);
+  }
+  listener_.OnImageRow(plane_.RowNumber(), samples_);
+}
+
+void StreamParser::BeginMatte() {
+  plane_.Begin(sheet_.image.matteWidth, sheet_.image.matteHeight);
+  mode_ = Mode::Matte;
+  if (plane_.Complete()) {
+    FinishSheet();
+  }
+}
+
+std::size_t StreamParser::TakeMatte(Bytes bytes) {
+  const std::size_t taken = plane_.Take(bytes);
+  offset_ += taken;
+  if (plane_.RowComplete()) {
+    listener_.OnMatteRow(plane_.RowNumber(), plane_.Row());
+    plane_.NextRow();
+    if (plane_.Complete()) {
+      FinishSheet();
+    }
+  }
+  return taken;
+}
+
+void StreamParser::FinishSheet() {
+  mode_ = Mode::Code;
+  listener_.OnSheetEnd({offset_, badSamples_});
+}
+
+Command StreamParser::Within() const {
+  switch (mode_) {
+    case Mode::Block:
+      return code_->command;
+    case Mode::Image:
+      return Command::ImageData;
+    case Mode::Matte:
+      return Command::MatteData;
+    case Mode::Code:
+    case Mode::Search:
+      return Command::None;
+  }
+  return Command::None;
+}
+
+void StreamParser::ReportCutBlock() {
+  const std::size_t whole = mode_ == Mode::Block ? code_->length : kCodeLength;
+  const Command command = mode_ == Mode::Block ? code_->command : Command::None;
+  Report({offset_, command, mode_ == Mode::Block ? "length" : "command code",
+          "the end after " + std::to_string(filled_) + " bytes",
+          std::to_string(whole) + " bytes; " + std::to_string(whole - filled_) + " are missing"});
+}
+
+void StreamParser::ReportCutPlane(Command plane, const PlaneReader& reader) {
+  const std::uint64_t whole = reader.BytesExpected();
+  Report({offset_, plane, "length",
+          "the end after " + std::to_string(reader.BytesTaken()) + " bytes",
+          std::to_string(whole) + " bytes; " + std::to_string(whole - reader.BytesTaken()) +
+              " are missing"});
+}
+
+void StreamParser::EndOfStream() {
+  switch (mode_) {
+    case Mode::Code:
+      if (filled_ > 0) {
+        ReportCutBlock();
+      } else if (order_.ImageHeaderDue()) {
+        Report({offset_, Command::ImageHeader, "length", "the end after 0 bytes",
+                std::to_string(kBlockLength) + " bytes; " + std::to_string(kBlockLength) +
+                    " are missing"});
+      }
+      break;
+    case Mode::Block:
+      ReportCutBlock();
+      break;
+    case Mode::Image:
+    case Mode::Matte:
+      ReportCutPlane(Within(), plane_);
+      listener_.OnSheetCut();
+      break;
+    case Mode::Search:
+      listener_.OnSkipped(searchFrom_, offset_ - searchFrom_);
+      break;
+  }
+}
+
+}  // namespace decoder
