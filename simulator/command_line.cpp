@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "simulator/command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <charconv>
+#include <limits>
+#include <string_view>
+#include <system_error>
+
+namespace simulator {
+namespace {
+
+constexpr std::uint64_t kPortMost = 65535;
+constexpr std::uint64_t kNumberMost = 0xFFFF;
+constexpr std::uint64_t kCountMost = 1'000'000'000;
+
+// Decimal, or hexadecimal behind 0x; the whole text must be the number. A leading zero does not
+// make it octal.
+std::optional<std::uint64_t> parse_number(std::string_view text) {
+  int base = 10;
+  if (text.starts_with("0x") || text.starts_with("0X")) {
+    base = 16;
+    text.remove_prefix(2);
+  }
+  std::uint64_t number = 0;
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, number, base);
+  if (error != std::errc{} || stop != end) {
+    return std::nullopt;
+  }
+  return number;
+}
+
+// An option that takes a number between two bounds, decimal or hexadecimal.
+template <typename Store>
+CLI::Option* add_number(CLI::App& app, const std::string& name, const std::string& help,
+                        const std::string& metavar, std::uint64_t low, std::uint64_t high,
+                        Store store) {
+  CLI::Option* const option = app.add_option_function<std::string>(
+      name, [store](const std::string& text) { store(parse_number(text).value_or(0)); }, help);
+  option->type_name(metavar);
+  option->check(CLI::Validator(
+      [low, high](const std::string& text) -> std::string {
+        const std::optional<std::uint64_t> number = parse_number(text);
+        if (number && *number >= low && *number <= high) {
+          return {};
+        }
+        return "\"" + text + "\" is not a number from " + std::to_string(low) + " to " +
+               std::to_string(high);
+      },
+      ""));
+  return option;
+}
+
+void add_place_options(CLI::App& app, Options& options) {
+  app.add_option("--address", options.address, "numeric address to listen on (127.0.0.1)")
+      ->type_name("ADDRESS");
+  add_number(
+      app, "--port", "port to listen on; 0 takes a free one (9100)", "PORT", 0, kPortMost,
+      [&options](std::uint64_t number) { options.port = static_cast<std::uint16_t>(number); });
+  app.add_option("--port-file", options.portFile, "file to write the port's number to")
+      ->type_name("FILE");
+  app.add_option("--output", options.output, "folder for the sheets (the current one)")
+      ->type_name("DIR");
+  app.add_option("--record", options.record, "file to keep every byte that comes")
+      ->type_name("FILE");
+}
+
+void add_answer_options(CLI::App& app, Options& options) {
+  add_number(
+      app, "--status", "error number to answer status requests with (0)", "NUMBER", 0, kNumberMost,
+      [&options](std::uint64_t number) { options.status = static_cast<std::uint16_t>(number); });
+  add_number(
+      app, "--enable", "enable code to answer readiness queries with (0)", "CODE", 0, kNumberMost,
+      [&options](std::uint64_t number) { options.enable = static_cast<std::uint16_t>(number); });
+  add_number(app, "--busy", "answer the first K readiness queries with busy, 0x0100", "K", 0,
+             kCountMost, [&options](std::uint64_t number) { options.busy = number; });
+}
+
+void add_end_options(CLI::App& app, Options& options) {
+  CLI::Option* const jobs =
+      add_number(app, "--jobs", "end after N connections", "N", 1, kCountMost,
+                 [&options](std::uint64_t number) { options.connections = number; });
+  app.add_flag_callback(
+         "--once", [&options] { options.connections = 1; }, "end after one connection")
+      ->excludes(jobs);
+  app.set_version_flag("--version", "tqr7-printer-sim " TQR7_VERSION, "say the version and end");
+  app.get_option("--help")->description("say this and end");
+}
+
+}  // namespace
+
+std::optional<int> read_command_line(int argc, const char* const* argv, Options& options) {
+  CLI::App app{"A simulated TQR7 printer: takes jobs over the network and prints them to PNG files",
+               "tqr7-printer-sim"};
+  add_place_options(app, options);
+  add_answer_options(app, options);
+  add_end_options(app, options);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? kExitGood : kExitCannotStart;
+  }
+  return std::nullopt;
+}
+
+}  // namespace simulator

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// The options of tqr7-printer-sim.
+#ifndef TQR7_SIMULATOR_COMMAND_LINE_H
+#define TQR7_SIMULATOR_COMMAND_LINE_H
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace simulator {
+
+/// What the person asked for.
+struct Options {
+  std::string address = "127.0.0.1";
+  std::uint16_t port = 9100;  ///< 0: a free one
+  std::string portFile;       ///< empty: none
+  std::string output = ".";
+  std::uint16_t status = 0;
+  std::uint16_t enable = 0;
+  std::uint64_t busy = 0;
+  std::string record;  ///< empty: no record
+  std::optional<std::uint64_t> connections;
+};
+
+inline constexpr int kExitGood = 0;
+inline constexpr int kExitErrorsSeen = 1;   ///< wrong streams, or something could not be written
+inline constexpr int kExitCannotStart = 2;  ///< wrong options, port taken, no output folder
+
+/// Reads the options, or says why not and returns the exit status that the program shall end with.
+std::optional<int> read_command_line(int argc, const char* const* argv, Options& options);
+
+}  // namespace simulator
+
+#endif  // TQR7_SIMULATOR_COMMAND_LINE_H

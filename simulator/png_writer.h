@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// A sheet's PNG file, written row by row under a hidden name and renamed when it is whole, so that
+// whoever watches the folder never sees half a file.
+#ifndef TQR7_SIMULATOR_PNG_WRITER_H
+#define TQR7_SIMULATOR_PNG_WRITER_H
+
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <span>
+#include <string>
+
+namespace simulator {
+
+/// Writes one file: 8-bit RGB, sRGB, 300 dpi. After a failure further calls do nothing; Error says
+/// what happened first. A file that was not finished is removed.
+class PngWriter {
+ public:
+  /// Begins a file in this folder under a name of its own.
+  PngWriter(const std::filesystem::path& folder, std::uint32_t width, std::uint32_t height);
+  PngWriter(const PngWriter&) = delete;
+  PngWriter& operator=(const PngWriter&) = delete;
+  ~PngWriter();
+
+  /// The next row, 3 bytes a dot; exactly `height` rows are due.
+  void WriteRow(std::span<const std::uint8_t> row);
+
+  /// Completes the file and gives it its name, replacing a file of that name. False on any failure.
+  bool Finish(const std::filesystem::path& finalPath);
+
+  /// Why the file cannot be written; empty while all is well.
+  const std::string& Error() const { return error_; }
+
+ private:
+  struct Encoder;
+
+  void Fail(const std::string& reason);
+  void Remove();
+
+  std::filesystem::path temporaryPath_;
+  std::FILE* file_ = nullptr;
+  std::unique_ptr<Encoder> encoder_;
+  std::string error_;
+};
+
+}  // namespace simulator
+
+#endif  // TQR7_SIMULATOR_PNG_WRITER_H

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// One connection from its first byte to its last: the stream is read, questions are answered,
+// sheets are printed, and everything is said.
+#ifndef TQR7_SIMULATOR_SESSION_H
+#define TQR7_SIMULATOR_SESSION_H
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "decoder/command_listener.h"
+#include "decoder/stream_parser.h"
+#include "simulator/client_connection.h"
+#include "simulator/printer_answers.h"
+#include "simulator/sheet_printer.h"
+#include "simulator/stream_recorder.h"
+
+namespace simulator {
+
+/// What a run has seen. `failures` are things that the simulator could not write.
+struct Tally {
+  std::uint64_t connections = 0;
+  std::uint64_t sheets = 0;
+  std::uint64_t errors = 0;
+  std::uint64_t failures = 0;
+};
+
+/// The printer that the connections share.
+struct Printer {
+  PrinterAnswers& answers;
+  SheetPrinter& sheets;
+  StreamRecorder& recorder;
+  Tally& tally;
+};
+
+/// Serves one client.
+class Session : private decoder::CommandListener {
+ public:
+  /// `number` names the connection in the event lines. Printer and client must outlive the session.
+  Session(std::uint64_t number, Printer printer, ClientConnection& client);
+
+  /// Until the client has sent all, is gone, or the simulator shall stop; false for the last. The
+  /// caller closes the connection, and should do so at once: clients wait for that.
+  bool Run();
+
+  /// Says what the connection brought, when it is closed.
+  void SayClosed() const;
+
+ private:
+  void OnStatusRequest(std::uint64_t offset) override;
+  void OnReadinessQuery(std::uint64_t offset, const decoder::JobHeader& header) override;
+  void OnJobHeader(std::uint64_t offset, const decoder::JobHeader& header) override;
+  void OnImageHeader(std::uint64_t offset, const decoder::ImageHeader& header) override;
+  void OnSheetBegin(const decoder::Sheet& sheet) override;
+  void OnImageRow(std::uint32_t row, std::span<const std::uint16_t> samples) override;
+  void OnMatteRow(std::uint32_t row, std::span<const std::uint8_t> bytes) override;
+  void OnSheetEnd(const decoder::SheetEnd& end) override;
+  void OnSheetCut() override;
+  void OnPrintOut(std::uint64_t offset, std::uint8_t waitByte) override;
+  void OnError(const decoder::StreamError& error) override;
+  void OnSkipped(std::uint64_t offset, std::uint64_t count) override;
+
+  bool SheetForbidden() const;
+  void SendAnswer(const Answer& answer);
+  void TakeBytes();
+  void Stop();
+  void Say(const std::string& text) const;
+  void SayFailure(const std::string& text);
+  bool MaySayError();
+
+  std::uint64_t number_;
+  Printer printer_;
+  ClientConnection& client_;
+  decoder::StreamParser parser_;
+
+  std::uint16_t statusAnswered_ = kStatusGood;
+  std::uint16_t enableAnswered_ = kEnableReady;
+  bool answersLost_ = false;
+  decoder::Sheet sheet_{};
+  std::uint64_t sheets_ = 0;
+  std::uint64_t errors_ = 0;
+  std::uint64_t errorLines_ = 0;
+};
+
+}  // namespace simulator
+
+#endif  // TQR7_SIMULATOR_SESSION_H

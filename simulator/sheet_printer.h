@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// From the rows of a sheet to its PNG and its line in the list.
+#ifndef TQR7_SIMULATOR_SHEET_PRINTER_H
+#define TQR7_SIMULATOR_SHEET_PRINTER_H
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "decoder/command_listener.h"
+#include "simulator/png_writer.h"
+#include "simulator/sheet_folder.h"
+#include "simulator/sheet_renderer.h"
+
+namespace simulator {
+
+/// What became of a sheet.
+struct SheetResult {
+  std::uint64_t number;
+  std::filesystem::path path;  ///< of the PNG
+  std::string error;           ///< why there is no PNG, or not its line; empty when all is well
+};
+
+/// Prints one sheet after another into a folder. Holds one sheet at most.
+class SheetPrinter {
+ public:
+  /// The folder must outlive the printer.
+  explicit SheetPrinter(SheetFolder& folder) : folder_(folder) {}
+
+  /// A sheet lies in the printer, begun and neither ended nor cut.
+  bool Busy() const { return page_ != nullptr; }
+
+  void Begin(const decoder::Sheet& sheet);
+  void ImageRow(std::uint32_t row, std::span<const std::uint16_t> samples);
+  void MatteRow(std::uint32_t row, std::span<const std::uint8_t> bytes);
+
+  /// The sheet is whole: it counts as printed when its PNG is in place. Only while Busy.
+  SheetResult End();
+
+  /// Nothing more comes: what came is kept under the name for incomplete sheets. Only while Busy.
+  SheetResult Cut();
+
+ private:
+  struct Page {
+    Page(const decoder::Sheet& pageSheet, std::uint64_t pageNumber,
+         const std::filesystem::path& folder);
+
+    decoder::Sheet sheet;
+    std::uint64_t number;
+    PngWriter writer;
+    SheetRenderer renderer;
+  };
+
+  SheetResult Close(const std::filesystem::path& name);
+
+  SheetFolder& folder_;
+  std::unique_ptr<Page> page_;
+};
+
+}  // namespace simulator
+
+#endif  // TQR7_SIMULATOR_SHEET_PRINTER_H

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// One sheet as a person would see it: the image on its place on white paper, in 8-bit RGB, and the
+// matte texture over the whole of it.
+//
+// A 14-bit value v becomes round(v × 255 / 16383). With a matte plane, a matte byte m scales each
+// of the dot's values by (1785 + m) / 2040: 0xFF, the full overcoat, leaves them, 0x00 takes an
+// eighth away. The texture so shows as a light grain, and the colours stay to be judged.
+#ifndef TQR7_SIMULATOR_SHEET_RENDERER_H
+#define TQR7_SIMULATOR_SHEET_RENDERER_H
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <vector>
+
+#include "decoder/command_listener.h"
+
+namespace simulator {
+
+/// Takes a finished row of the sheet, 3 bytes a dot.
+using RowSink = std::function<void(std::span<const std::uint8_t>)>;
+
+/// The 8-bit value that stands for a sample; samples above 14 bits count as white.
+std::uint8_t sample_to_byte(std::uint16_t sample);
+
+/// The 8-bit value under a matte byte.
+std::uint8_t under_matte(std::uint8_t value, std::uint8_t matte);
+
+/// Draws one sheet, and hands each row on, from top to bottom, as soon as nothing can change it any
+/// more. Holds the sheet's pixels, and no more than that.
+class SheetRenderer {
+ public:
+  /// `sheet` must have passed the decoder's checks.
+  SheetRenderer(const decoder::Sheet& sheet, RowSink sink);
+
+  void ImageRow(std::uint32_t row, std::span<const std::uint16_t> samples);
+
+  /// Rows below the sheet's end, which a matte plane has, are not shown.
+  void MatteRow(std::uint32_t row, std::span<const std::uint8_t> bytes);
+
+  /// Hands on all rows that are left as they stand: white where nothing came.
+  void Finish();
+
+ private:
+  std::span<std::uint8_t> Row(std::size_t row);
+  void HandOnUpTo(std::size_t endRow);
+
+  decoder::Sheet sheet_;
+  RowSink sink_;
+  std::vector<std::uint8_t> pixels_;
+  std::size_t rowsOut_ = 0;
+};
+
+}  // namespace simulator
+
+#endif  // TQR7_SIMULATOR_SHEET_RENDERER_H

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// tqr7-printer-sim: a TQR7 on a network port that prints to PNG files and checks every byte.
+#include <cerrno>
+#include <cstdio>
+#include <exception>
+#include <string>
+#include <system_error>
+
+#include "simulator/command_line.h"
+#include "simulator/event_log.h"
+#include "simulator/printer_answers.h"
+#include "simulator/server.h"
+#include "simulator/sheet_folder.h"
+#include "simulator/sheet_printer.h"
+#include "simulator/stop_signal.h"
+#include "simulator/stream_recorder.h"
+#include "simulator/wording.h"
+
+namespace simulator {
+namespace {
+
+int cannot_start(const std::string& what, const std::string& why) {
+  std::fprintf(stderr, "tqr7-printer-sim: %s: %s\n", what.c_str(), why.c_str());
+  return kExitCannotStart;
+}
+
+// Renamed when it is whole: a script that waits for the file never reads half a number.
+std::string write_port_file(const std::string& path, std::uint16_t port) {
+  const std::string part = path + ".part";
+  std::FILE* const file = std::fopen(part.c_str(), "we");
+  if (file == nullptr) {
+    return std::generic_category().message(errno);
+  }
+  const bool written = std::fprintf(file, "%u\n", unsigned{port}) > 0;
+  const bool closed = std::fclose(file) == 0;
+  if (!written || !closed || std::rename(part.c_str(), path.c_str()) != 0) {
+    const int errorNumber = errno;
+    std::remove(part.c_str());
+    return std::generic_category().message(errorNumber);
+  }
+  return {};
+}
+
+void say_stopped(const Tally& tally) {
+  log_event("stopped after " + counted(tally.connections, "connection") + ", " +
+            counted(tally.sheets, "sheet") + ", " + counted(tally.errors, "error"));
+}
+
+int run(const Options& options) {
+  const int stopDescriptor = catch_stop_signals();
+  if (stopDescriptor < 0) {
+    return cannot_start("signals", std::generic_category().message(errno));
+  }
+  SheetFolder folder;
+  if (const std::string why = folder.Open(options.output); !why.empty()) {
+    return cannot_start(options.output, why);
+  }
+  StreamRecorder recorder;
+  if (!options.record.empty()) {
+    if (const std::string why = recorder.Open(options.record); !why.empty()) {
+      return cannot_start(options.record, why);
+    }
+  }
+  Server server;
+  if (const std::string why = server.Listen(options.address, options.port); !why.empty()) {
+    return cannot_start(options.address + " port " + std::to_string(options.port), why);
+  }
+  if (!options.portFile.empty()) {
+    if (const std::string why = write_port_file(options.portFile, server.Port()); !why.empty()) {
+      return cannot_start(options.portFile, why);
+    }
+  }
+  log_event("listening on " + options.address + " port " + std::to_string(server.Port()));
+
+  PrinterAnswers answers(options.status, options.enable, options.busy);
+  SheetPrinter sheets(folder);
+  Tally tally;
+  const std::string trouble =
+      server.Serve({answers, sheets, recorder, tally}, stopDescriptor, options.connections);
+  if (!trouble.empty()) {
+    ++tally.failures;
+    log_event("failure: no further client can be taken: " + trouble);
+  }
+  say_stopped(tally);
+  return tally.errors + tally.failures == 0 ? kExitGood : kExitErrorsSeen;
+}
+
+}  // namespace
+}  // namespace simulator
+
+int main(int argc, char** argv) {
+  try {
+    simulator::Options options;
+    if (const auto status = simulator::read_command_line(argc, argv, options)) {
+      return *status;
+    }
+    return simulator::run(options);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "tqr7-printer-sim: %s\n", error.what());
+    return simulator::kExitErrorsSeen;
+  }
+}
