@@ -22,7 +22,7 @@ bool fits(std::uint16_t value, const Allowed& allowed) {
 }
 
 std::string in_words(const Allowed& allowed, Notation notation) {
-  const std::string first = in_words(allowed.first, notation);
+  std::string first = in_words(allowed.first, notation);
   const std::string second = in_words(allowed.second, notation);
   switch (allowed.kind) {
     case Allowed::Kind::Any:

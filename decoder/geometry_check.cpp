@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "decoder/geometry_check.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -27,6 +28,7 @@ std::vector<std::uint16_t> heights_for(std::uint16_t width) {
       heights.push_back(sheet.height);
     }
   }
+  std::sort(heights.begin(), heights.end());
   return heights;
 }
 

@@ -282,39 +282,28 @@ Command StreamParser::Within() const {
   return Command::None;
 }
 
-void StreamParser::ReportCutBlock() {
-  const std::size_t whole = mode_ == Mode::Block ? code_->length : kCodeLength;
-  const Command command = mode_ == Mode::Block ? code_->command : Command::None;
-  Report({offset_, command, mode_ == Mode::Block ? "length" : "command code",
-          "the end after " + std::to_string(filled_) + " bytes",
-          std::to_string(whole) + " bytes; " + std::to_string(whole - filled_) + " are missing"});
-}
-
-void StreamParser::ReportCutPlane(Command plane, const PlaneReader& reader) {
-  const std::uint64_t whole = reader.BytesExpected();
-  Report({offset_, plane, "length",
-          "the end after " + std::to_string(reader.BytesTaken()) + " bytes",
-          std::to_string(whole) + " bytes; " + std::to_string(whole - reader.BytesTaken()) +
-              " are missing"});
+void StreamParser::ReportCut(Command command, const char* field, std::uint64_t taken,
+                             std::uint64_t whole) {
+  const std::string all = std::to_string(whole) + " bytes";
+  Report({offset_, command, field, "the end after " + std::to_string(taken) + " of " + all,
+          all + ", " + std::to_string(whole - taken) + " more"});
 }
 
 void StreamParser::EndOfStream() {
   switch (mode_) {
     case Mode::Code:
       if (filled_ > 0) {
-        ReportCutBlock();
+        ReportCut(Command::None, "command code", filled_, kCodeLength);
       } else if (order_.ImageHeaderDue()) {
-        Report({offset_, Command::ImageHeader, "length", "the end after 0 bytes",
-                std::to_string(kBlockLength) + " bytes; " + std::to_string(kBlockLength) +
-                    " are missing"});
+        ReportCut(Command::ImageHeader, "length", 0, kBlockLength);
       }
       break;
     case Mode::Block:
-      ReportCutBlock();
+      ReportCut(code_->command, "length", filled_, code_->length);
       break;
     case Mode::Image:
     case Mode::Matte:
-      ReportCutPlane(Within(), plane_);
+      ReportCut(Within(), "length", plane_.BytesTaken(), plane_.BytesExpected());
       listener_.OnSheetCut();
       break;
     case Mode::Search:

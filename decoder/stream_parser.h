@@ -83,8 +83,7 @@ class StreamParser {
   std::uint64_t BlockOffset() const { return offset_ - filled_; }
   void CompareWithQuery();
   void Report(const StreamError& error);
-  void ReportCutPlane(Command plane, const PlaneReader& reader);
-  void ReportCutBlock();
+  void ReportCut(Command command, const char* field, std::uint64_t taken, std::uint64_t whole);
 
   CommandListener& listener_;
   ErrorSink report_;

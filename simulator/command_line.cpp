@@ -3,6 +3,7 @@
 
 #include <CLI/CLI.hpp>
 #include <charconv>
+#include <cstdio>
 #include <limits>
 #include <string_view>
 #include <system_error>
@@ -99,7 +100,12 @@ std::optional<int> read_command_line(int argc, const char* const* argv, Options&
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? kExitGood : kExitCannotStart;
+    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
+      app.exit(error);  // help or version
+      return kExitGood;
+    }
+    std::fprintf(stderr, "tqr7-printer-sim: %s (see --help)\n", error.what());
+    return kExitCannotStart;
   }
   return std::nullopt;
 }

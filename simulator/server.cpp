@@ -39,7 +39,7 @@ AddressList find_address(const std::string& address, std::uint16_t port, std::st
   addrinfo* list = nullptr;
   const int result = ::getaddrinfo(address.c_str(), std::to_string(port).c_str(), &hints, &list);
   if (result != 0) {
-    error = ::gai_strerror(result);
+    error = result == EAI_NONAME ? "not a numeric address" : ::gai_strerror(result);
     return nullptr;
   }
   return AddressList(list);

@@ -140,6 +140,9 @@ void Session::OnSheetEnd(const decoder::SheetEnd& end) {
   ++sheets_;
   ++printer_.tally.sheets;
   Say(name + " printed to " + result.path.string() + ": " + printed_sheet_words(sheet_));
+  if (!result.listError.empty()) {
+    SayFailure("sheets.txt: " + result.listError);
+  }
 }
 
 void Session::OnSheetCut() {

@@ -31,7 +31,7 @@ void SheetPrinter::MatteRow(std::uint32_t row, std::span<const std::uint8_t> byt
 
 SheetResult SheetPrinter::Close(const std::filesystem::path& name) {
   page_->renderer.Finish();
-  SheetResult result{page_->number, name, {}};
+  SheetResult result{page_->number, name, {}, {}};
   if (!page_->writer.Finish(name)) {
     result.error = page_->writer.Error();
   }
@@ -41,11 +41,8 @@ SheetResult SheetPrinter::Close(const std::filesystem::path& name) {
 SheetResult SheetPrinter::End() {
   SheetResult result = Close(folder_.PrintedName(page_->number));
   if (result.error.empty()) {
-    result.error =
+    result.listError =
         folder_.AddLine(result.path.filename().string() + ": " + printed_sheet_words(page_->sheet));
-    if (!result.error.empty()) {
-      result.error = "sheets.txt: " + result.error;
-    }
   }
   page_.reset();
   return result;

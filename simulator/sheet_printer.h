@@ -21,7 +21,8 @@ namespace simulator {
 struct SheetResult {
   std::uint64_t number;
   std::filesystem::path path;  ///< of the PNG
-  std::string error;           ///< why there is no PNG, or not its line; empty when all is well
+  std::string error;           ///< why there is no PNG; empty when there is
+  std::string listError;       ///< why its line is missing in the list; empty when it is not
 };
 
 /// Prints one sheet after another into a folder. Holds one sheet at most.
