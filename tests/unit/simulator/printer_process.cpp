@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/unit/simulator/printer_process.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+
+namespace {
+
+constexpr int kPatienceMilliseconds = 30000;
+
+struct Child {
+  pid_t pid;
+  int outputEnd;
+};
+
+void become_printer(const std::vector<std::string>& options, int from, int descriptor,
+                    std::uint64_t fileSizeLimit) {
+  ::dup2(from, descriptor);
+  if (fileSizeLimit > 0) {
+    const rlimit limit{fileSizeLimit, fileSizeLimit};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  std::vector<char*> arguments{const_cast<char*>(TQR7_PRINTER_SIM)};
+  for (const std::string& option : options) {
+    arguments.push_back(const_cast<char*>(option.c_str()));
+  }
+  arguments.push_back(nullptr);
+  ::execv(TQR7_PRINTER_SIM, arguments.data());
+  ::_exit(127);
+}
+
+Child start(const std::vector<std::string>& options, int descriptor, std::uint64_t fileSizeLimit) {
+  std::array<int, 2> ends{};
+  if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
+    return {-1, -1};
+  }
+  const pid_t pid = ::fork();
+  if (pid == 0) {
+    become_printer(options, ends[1], descriptor, fileSizeLimit);
+  }
+  ::close(ends[1]);
+  return {pid, ends[0]};
+}
+
+int exit_status(int status) {
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+}  // namespace
+
+TemporaryFolder::TemporaryFolder() {
+  std::string pattern = (std::filesystem::temp_directory_path() / "tqr7-test-XXXXXX").string();
+  path_ = ::mkdtemp(pattern.data());
+}
+
+TemporaryFolder::~TemporaryFolder() {
+  std::error_code ignored;
+  std::filesystem::remove_all(path_, ignored);
+}
+
+std::vector<std::string> TemporaryFolder::Names() const {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(path_)) {
+    names.push_back(entry.path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+PrinterProcess::PrinterProcess(const std::vector<std::string>& options,
+                               std::uint64_t fileSizeLimit) {
+  std::vector<std::string> all{"--port", "0"};
+  all.insert(all.end(), options.begin(), options.end());
+  const Child child = start(all, STDOUT_FILENO, fileSizeLimit);
+  pid_ = child.pid;
+  outputEnd_ = child.outputEnd;
+}
+
+PrinterProcess::~PrinterProcess() {
+  if (pid_ > 0) {
+    ::kill(pid_, SIGKILL);
+    ::waitpid(pid_, nullptr, 0);
+  }
+  ::close(outputEnd_);
+}
+
+bool PrinterProcess::ReadMore() {
+  pollfd wait{outputEnd_, POLLIN, 0};
+  if (::poll(&wait, 1, kPatienceMilliseconds) <= 0) {
+    return false;
+  }
+  std::array<char, 4096> bytes{};
+  const ssize_t count = ::read(outputEnd_, bytes.data(), bytes.size());
+  if (count <= 0) {
+    return false;
+  }
+  output_.append(bytes.data(), static_cast<std::size_t>(count));
+  return true;
+}
+
+std::string PrinterProcess::WaitForLine(const std::string& text) {
+  for (;;) {
+    const std::size_t end = output_.find('\n', searched_);
+    if (end == std::string::npos) {
+      if (!ReadMore()) {
+        return {};
+      }
+      continue;
+    }
+    std::string line = output_.substr(searched_, end - searched_);
+    searched_ = end + 1;
+    if (line.find(text) != std::string::npos) {
+      return line;
+    }
+  }
+}
+
+std::uint16_t PrinterProcess::Port() {
+  if (port_ == 0) {
+    const std::string line = WaitForLine("listening on ");
+    const std::size_t at = line.rfind(' ');
+    port_ = at == std::string::npos ? std::uint16_t{0}
+                                    : static_cast<std::uint16_t>(std::atoi(line.c_str() + at));
+  }
+  return port_;
+}
+
+void PrinterProcess::Signal(int number) const {
+  ::kill(pid_, number);
+}
+
+int PrinterProcess::Wait() {
+  while (ReadMore()) {
+  }
+  const auto end =
+      std::chrono::steady_clock::now() + std::chrono::milliseconds(kPatienceMilliseconds);
+  int status = 0;
+  while (std::chrono::steady_clock::now() < end) {
+    if (::waitpid(pid_, &status, WNOHANG) == pid_) {
+      pid_ = -1;
+      return exit_status(status);
+    }
+    ::poll(nullptr, 0, 5);
+  }
+  return -1;
+}
+
+int PrinterProcess::Stop() {
+  Signal(SIGTERM);
+  return Wait();
+}
+
+FinishedRun run_to_its_end(const std::vector<std::string>& options) {
+  const Child child = start(options, STDERR_FILENO, 0);
+  FinishedRun run{{}, -1};
+  std::array<char, 4096> bytes{};
+  for (;;) {
+    const ssize_t count = ::read(child.outputEnd, bytes.data(), bytes.size());
+    if (count <= 0) {
+      break;
+    }
+    run.errors.append(bytes.data(), static_cast<std::size_t>(count));
+  }
+  ::close(child.outputEnd);
+  int status = 0;
+  ::waitpid(child.pid, &status, 0);
+  run.status = exit_status(status);
+  return run;
+}

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// The simulated printer as a child process, in a folder of its own.
+#ifndef TQR7_TESTS_UNIT_SIMULATOR_PRINTER_PROCESS_H
+#define TQR7_TESTS_UNIT_SIMULATOR_PRINTER_PROCESS_H
+
+#include <sys/types.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+/// A folder that is removed with everything in it.
+class TemporaryFolder {
+ public:
+  TemporaryFolder();
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  ~TemporaryFolder();
+
+  const std::filesystem::path& Path() const { return path_; }
+
+  /// The names of what is in it, hidden files too, in order.
+  std::vector<std::string> Names() const;
+
+ private:
+  std::filesystem::path path_;
+};
+
+/// A running printer. Waits give up after half a minute, and the test then fails at what it expects
+/// of their results. A printer that still runs at the end is killed.
+class PrinterProcess {
+ public:
+  /// Starts the program with these options; `fileSizeLimit` above 0 limits the files it writes.
+  explicit PrinterProcess(const std::vector<std::string>& options, std::uint64_t fileSizeLimit = 0);
+  PrinterProcess(const PrinterProcess&) = delete;
+  PrinterProcess& operator=(const PrinterProcess&) = delete;
+  ~PrinterProcess();
+
+  /// The port of the "listening" line, 0 when none came.
+  std::uint16_t Port();
+
+  /// Reads lines until one contains the text, and returns it; empty when none came.
+  std::string WaitForLine(const std::string& text);
+
+  /// All lines so far, each ending in a newline.
+  const std::string& Output() const { return output_; }
+
+  /// Sends a signal.
+  void Signal(int number) const;
+
+  /// Reads what is left and returns the exit status, −1 when it did not end by itself.
+  int Wait();
+
+  /// Asks the printer to stop, and waits.
+  int Stop();
+
+ private:
+  bool ReadMore();
+
+  pid_t pid_ = -1;
+  int outputEnd_ = -1;
+  std::string output_;
+  std::size_t searched_ = 0;
+  std::uint16_t port_ = 0;
+};
+
+/// Runs the program to its end with standard error in place of standard output; what it said, and
+/// its exit status.
+struct FinishedRun {
+  std::string errors;
+  int status;
+};
+FinishedRun run_to_its_end(const std::vector<std::string>& options);
+
+#endif  // TQR7_TESTS_UNIT_SIMULATOR_PRINTER_PROCESS_H

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// Disks and folders that fail under the printer.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "tests/unit/simulator/print_client.h"
+#include "tests/unit/simulator/printer_process.h"
+#include "tests/unit/simulator/stream_bytes.h"
+
+namespace {
+
+using testing::IsEmpty;
+
+TEST(Failures, OfAFullDiskAreALineAndStatus1) {
+  const TemporaryFolder folder;
+  constexpr std::uint64_t kBytesMost = 1000;
+  PrinterProcess printer({"--output", folder.Path().string()}, kBytesMost);
+  ASSERT_TRUE(print(printer.Port(), stream::small_job()));
+  EXPECT_EQ(printer.WaitForLine("failure"),
+            "connection 1: failure: sheet 1 could not be written to " +
+                (folder.Path() / "sheet-0001.png").string() + ": File too large");
+  EXPECT_EQ(printer.WaitForLine("closed"),
+            "connection 1: closed, 7013230 bytes, 0 sheets, 0 errors");
+  EXPECT_EQ(printer.Stop(), 1);
+  EXPECT_THAT(folder.Names(), IsEmpty());
+}
+
+TEST(Failures, OfAFolderThatWentAwayAreALineAndThePrinterGoesOn) {
+  const TemporaryFolder folder;
+  const std::filesystem::path output = folder.Path() / "sheets";
+  PrinterProcess printer({"--output", output.string()});
+  ASSERT_NE(printer.Port(), 0);
+  std::filesystem::remove_all(output);
+  ASSERT_TRUE(print(printer.Port(), stream::small_job()));
+  EXPECT_EQ(printer.WaitForLine("failure"),
+            "connection 1: failure: sheet 1 could not be written to " +
+                (output / "sheet-0001.png").string() + ": No such file or directory");
+  std::filesystem::create_directory(output);
+  ASSERT_TRUE(print(printer.Port(), stream::small_job()));
+  EXPECT_EQ(printer.Stop(), 1);
+  EXPECT_TRUE(std::filesystem::exists(output / "sheet-0002.png"));
+}
+
+TEST(Failures, OfTheListOfSheetsAreNamed) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directory(folder.Path() / "sheets.txt");
+  PrinterProcess printer({"--output", folder.Path().string()});
+  ASSERT_TRUE(print(printer.Port(), stream::small_job()));
+  EXPECT_EQ(printer.WaitForLine("failure"), "connection 1: failure: sheets.txt: Is a directory");
+  EXPECT_EQ(printer.Stop(), 1);
+}
+
+TEST(Failures, OfTheRecordEndTheRecording) {
+  const TemporaryFolder folder;
+  PrinterProcess printer({"--output", folder.Path().string(), "--record", "/dev/full"});
+  ASSERT_TRUE(print(printer.Port(), stream::small_job()));
+  EXPECT_EQ(printer.WaitForLine("failure"),
+            "connection 1: failure: recording ends: No space left on device");
+  EXPECT_EQ(printer.Stop(), 1);
+  EXPECT_TRUE(std::filesystem::exists(folder.Path() / "sheet-0001.png"));
+}
+
+}  // namespace
