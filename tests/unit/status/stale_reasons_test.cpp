@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// The withdrawal of whatever reasons the scheduler still lists for the default destination.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "status/state_reasons.h"
+#include "tests/unit/capture.h"
+#include "tests/unit/scripted_destinations.h"
+#include "tests/unit/stderr_calls.h"
+
+using testing::ElementsAre;
+
+namespace {
+
+std::string Cleaned() {
+  Capture err(stderr);
+  clean_printer_state();
+  return err.Text();
+}
+
+}  // namespace
+
+TEST(StaleReasons, NoneIsWithdrawnAsAnyOther) {
+  SetDefaultReasons("none");
+  EXPECT_EQ(Cleaned(),
+            "clean_printer_state() START\n"
+            "STATE: -none\n"
+            "clean_printer_state() END\n");
+}
+
+TEST(StaleReasons, EachIsWithdrawnInTheOrderListed) {
+  SetDefaultReasons("com.corvantiel-error0004,cups-insecure-filter-warning");
+  EXPECT_EQ(Cleaned(),
+            "clean_printer_state() START\n"
+            "STATE: -com.corvantiel-error0004\n"
+            "STATE: -cups-insecure-filter-warning\n"
+            "clean_printer_state() END\n");
+}
+
+TEST(StaleReasons, RunsOfCommasGiveNoEmptyOne) {
+  SetDefaultReasons(",media-low,,paused,");
+  EXPECT_EQ(Cleaned(),
+            "clean_printer_state() START\n"
+            "STATE: -media-low\n"
+            "STATE: -paused\n"
+            "clean_printer_state() END\n");
+}
+
+TEST(StaleReasons, BlanksAreKept) {
+  SetDefaultReasons("media-low, paused ");
+  EXPECT_EQ(Cleaned(),
+            "clean_printer_state() START\n"
+            "STATE: -media-low\n"
+            "STATE: - paused \n"
+            "clean_printer_state() END\n");
+}
+
+TEST(StaleReasons, AnEmptyListStillWithdrawsOnce) {
+  SetDefaultReasons("");
+  EXPECT_EQ(Cleaned(),
+            "clean_printer_state() START\n"
+            "STATE: -(null)\n"
+            "clean_printer_state() END\n");
+}
+
+TEST(StaleReasons, AListOfCommasOnlyWithdrawsOnce) {
+  SetDefaultReasons(",,,");
+  EXPECT_EQ(Cleaned(),
+            "clean_printer_state() START\n"
+            "STATE: -(null)\n"
+            "clean_printer_state() END\n");
+}
+
+TEST(StaleReasons, ADestinationWithoutAListWithdrawsOnce) {
+  SetDefaultWithoutReasons();
+  EXPECT_EQ(Cleaned(),
+            "clean_printer_state() START\n"
+            "STATE: -(null)\n"
+            "clean_printer_state() END\n");
+}
+
+TEST(StaleReasons, WithoutADefaultDestinationNothingIsWithdrawn) {
+  SetNoDefaultDestination();
+  EXPECT_EQ(Cleaned(),
+            "clean_printer_state() START\n"
+            "DEBUG: Not found default(destination) printer.\n"
+            "clean_printer_state() END\n");
+}
+
+TEST(StaleReasons, TheDefaultIsLookedUpAndTheListGivenBack) {
+  SetDefaultReasons("none");
+  Cleaned();
+  EXPECT_THAT(DestinationCalls(), ElementsAre("cupsGetDests", "cupsGetDest null null 1",
+                                              "cupsFreeDests 1 of the list"));
+}
+
+TEST(StaleReasons, WithoutADefaultTheListIsGivenBackToo) {
+  SetNoDefaultDestination();
+  Cleaned();
+  EXPECT_THAT(DestinationCalls(), ElementsAre("cupsGetDests", "cupsGetDest null null 0",
+                                              "cupsFreeDests 0 of the list"));
+}
+
+TEST(StaleReasons, TheSchedulersTextIsLeftAsItWas) {
+  SetDefaultReasons("media-low,paused");
+  const std::string first = Cleaned();
+  const std::string second = Cleaned();
+  EXPECT_EQ(first, second);
+}
+
+TEST(StaleReasons, AVeryLongListIsWithdrawnWhole) {
+  const std::string keyword(5000, 'k');
+  SetDefaultReasons(keyword + "," + keyword);
+  EXPECT_EQ(Cleaned(), "clean_printer_state() START\nSTATE: -" + keyword + "\nSTATE: -" + keyword +
+                           "\nclean_printer_state() END\n");
+}
+
+TEST(StaleReasons, EachLineLeavesInOneWrite) {
+  SetDefaultReasons("media-low,paused");
+  StderrCalls calls;
+  clean_printer_state();
+  EXPECT_THAT(calls.Take(), ElementsAre("clean_printer_state() START\n", "STATE: -media-low\n",
+                                        "STATE: -paused\n", "clean_printer_state() END\n"));
+}
