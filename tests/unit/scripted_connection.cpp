@@ -34,7 +34,7 @@ extern "C" cups_sc_status_t cupsSideChannelDoRequest(cups_sc_command_t command, 
   Note(command == CUPS_SC_CMD_DRAIN_OUTPUT ? "drain" : "other request", *datalen, timeout);
   // A backend may leave anything in the buffer that it was lent.
   std::memset(data, 0x5A, static_cast<std::size_t>(*datalen));
-  return Connection().drain_status;
+  return static_cast<cups_sc_status_t>(Connection().drain_status);
 }
 
 extern "C" ssize_t cupsBackChannelRead(char* buffer, std::size_t bytes, double timeout) {

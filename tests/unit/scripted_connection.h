@@ -20,7 +20,7 @@ struct BackChannelPiece {
 
 struct ScriptedConnection {
   /// How the backend answers every side-channel request.
-  cups_sc_status_t drain_status = CUPS_SC_STATUS_OK;
+  int drain_status = CUPS_SC_STATUS_OK;
   /// What the next reads give; a read beyond the last one fails with −1.
   std::deque<BackChannelPiece> pieces;
   /// One line a call: the call, its arguments, and how many bytes had left standard output by then.

@@ -183,7 +183,7 @@ TEST_F(StatusQuery, ADrainThatTimesOutIsNoFailure) {
 }
 
 TEST_F(StatusQuery, ADrainStatusWithoutANameIsUnknown) {
-  Connection().drain_status = static_cast<cups_sc_status_t>(9);
+  Connection().drain_status = 9;
   Connection().Answer(Reply(0, 0));
   EXPECT_NE(Ask().err.find("DEBUG: CUPS_SC_CMD_DRAIN_OUTPUT=UNKNOWN(9)\n"), std::string::npos);
 }
