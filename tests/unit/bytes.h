@@ -23,6 +23,8 @@ inline std::string Bytes(const void* block, std::size_t size) {
 }
 
 /// A string of `count` zero bytes.
-inline std::string Zeros(std::size_t count) { return std::string(count, '\0'); }
+inline std::string Zeros(std::size_t count) {
+  return std::string(count, '\0');
+}
 
 #endif  // TQR7_TESTS_UNIT_BYTES_H

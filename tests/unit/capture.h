@@ -51,7 +51,8 @@ class Capture {
  public:
   explicit Capture(std::FILE* stream) : file_(std::tmpfile()), redirection_(stream, Target(file_)) {
     if (stream == stdout) {
-      // The same buffer wherever the test runs, so that what is flushed and what is not can be seen.
+      // The same buffer wherever the test runs, so that what is flushed and what is not can be
+      // seen.
       static std::array<char, 65536> buffer;
       std::setvbuf(stdout, buffer.data(), _IOFBF, buffer.size());
     }

@@ -35,11 +35,17 @@ ArraysRefused::ArraysRefused(std::size_t smallest_refused) {
   smallest_refused_now = smallest_refused;
 }
 
-ArraysRefused::~ArraysRefused() { smallest_refused_now = std::numeric_limits<std::size_t>::max(); }
+ArraysRefused::~ArraysRefused() {
+  smallest_refused_now = std::numeric_limits<std::size_t>::max();
+}
 
-long LiveArrays() { return live; }
+long LiveArrays() {
+  return live;
+}
 
-std::size_t LastArraySize() { return last_size; }
+std::size_t LastArraySize() {
+  return last_size;
+}
 
 void* operator new[](std::size_t size) {
   void* block = Take(size);
@@ -53,6 +59,12 @@ void* operator new[](std::size_t size, const std::nothrow_t& /*unused*/) noexcep
   return Take(size);
 }
 
-void operator delete[](void* block) noexcept { Give(block); }
-void operator delete[](void* block, std::size_t /*size*/) noexcept { Give(block); }
-void operator delete[](void* block, const std::nothrow_t& /*unused*/) noexcept { Give(block); }
+void operator delete[](void* block) noexcept {
+  Give(block);
+}
+void operator delete[](void* block, std::size_t /*size*/) noexcept {
+  Give(block);
+}
+void operator delete[](void* block, const std::nothrow_t& /*unused*/) noexcept {
+  Give(block);
+}

@@ -16,8 +16,8 @@
 
 /// The lines of an option that is picked from a list; the first choice is its default.
 inline std::string PickOne(const std::string& keyword, const std::vector<std::string>& choices) {
-  std::string lines = "*OpenUI *" + keyword + ": PickOne\n*Default" + keyword + ": " +
-                      choices.front() + "\n";
+  std::string lines =
+      "*OpenUI *" + keyword + ": PickOne\n*Default" + keyword + ": " + choices.front() + "\n";
   for (const std::string& choice : choices) {
     lines += "*" + keyword + " " + choice + ": \"\"\n";
   }

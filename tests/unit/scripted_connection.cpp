@@ -27,7 +27,9 @@ ScriptedConnection& Connection() {
   return connection;
 }
 
-void ResetConnection() { Connection() = ScriptedConnection(); }
+void ResetConnection() {
+  Connection() = ScriptedConnection();
+}
 
 extern "C" cups_sc_status_t cupsSideChannelDoRequest(cups_sc_command_t command, char* data,
                                                      int* datalen, double timeout) {

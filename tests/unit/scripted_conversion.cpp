@@ -25,7 +25,9 @@ std::deque<Conversion>& NextConversions() {
   return conversions;
 }
 
-const std::vector<ConversionCall>& ConversionCalls() { return Calls(); }
+const std::vector<ConversionCall>& ConversionCalls() {
+  return Calls();
+}
 
 void ResetConversions() {
   NextConversions().clear();

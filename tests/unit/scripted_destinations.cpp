@@ -24,7 +24,9 @@ void SetDefault(const std::string& name, const std::string& value) {
   calls.clear();
 }
 
-const char* Named(const char* text) { return text == nullptr ? "null" : text; }
+const char* Named(const char* text) {
+  return text == nullptr ? "null" : text;
+}
 
 }  // namespace
 
@@ -33,11 +35,17 @@ void SetNoDefaultDestination() {
   calls.clear();
 }
 
-void SetDefaultReasons(const std::string& reasons) { SetDefault("printer-state-reasons", reasons); }
+void SetDefaultReasons(const std::string& reasons) {
+  SetDefault("printer-state-reasons", reasons);
+}
 
-void SetDefaultWithoutReasons() { SetDefault("printer-info", "com.corvantiel-error0004"); }
+void SetDefaultWithoutReasons() {
+  SetDefault("printer-info", "com.corvantiel-error0004");
+}
 
-const std::vector<std::string>& DestinationCalls() { return calls; }
+const std::vector<std::string>& DestinationCalls() {
+  return calls;
+}
 
 extern "C" int cupsGetDests(cups_dest_t** dests) {
   calls.emplace_back("cupsGetDests");

@@ -61,15 +61,19 @@ TEST(CsvValues, TheLettersTAndNSeparate) {
 }
 
 TEST(CsvValues, EachByteOfTheYenSignSeparates) {
-  std::string text = "1\xC2" "2\xA5" "3\xC2\xA5" "4";
+  std::string text =
+      "1\xC2"
+      "2\xA5"
+      "3\xC2\xA5"
+      "4";
   std::array<int, 4> values = {};
   EXPECT_EQ(AnalyzeCSV(text.data(), 4, values.data()), 1);
   EXPECT_THAT(values, ElementsAre(1, 2, 3, 4));
 }
 
 TEST(CsvValues, ABackslashAndCapitalLettersDoNotSeparate) {
-  for (const std::string separator : {"\\", "T", "N", ";"}) {
-    std::string text = "1" + separator + "2";
+  for (const char separator : {'\\', 'T', 'N', ';'}) {
+    std::string text = {'1', separator, '2'};
     std::array<int, 2> values = {-7, -7};
     EXPECT_EQ(AnalyzeCSV(text.data(), 2, values.data()), 0) << separator;
     EXPECT_THAT(values, ElementsAre(1, -7)) << separator;

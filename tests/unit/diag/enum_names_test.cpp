@@ -148,8 +148,7 @@ TEST(EnumNames, AnUnknownValueGivesItsTypeAndNumber) {
 
 TEST(EnumNames, TheGapsBetweenTheColourSpacesAreUnknown) {
   for (const int value : {21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31, 47}) {
-    EXPECT_EQ(to_string(Of<cups_cspace_e>(value)),
-              "cups_cspace_e(" + std::to_string(value) + ")");
+    EXPECT_EQ(to_string(Of<cups_cspace_e>(value)), "cups_cspace_e(" + std::to_string(value) + ")");
   }
 }
 

@@ -46,7 +46,9 @@ std::string Expanded(const char* name_template, const tagMVBandImageParams* imag
 }
 
 /// A band of 10 × 4 pixels of 48 bits, top row first.
-tagMVBandImageParams TenByFour() { return {nullptr, -60, {3, 5, 13, 9}}; }
+tagMVBandImageParams TenByFour() {
+  return {nullptr, -60, {3, 5, 13, 9}};
+}
 
 void PrintTwoNumberedNames() {
   SetLocalTime(2024, 1, 31, 23, 59, 59);
@@ -114,7 +116,9 @@ TEST(NameTemplate, ABandWithoutWidthHasDepthZero) {
   EXPECT_EQ(Expanded("%W,%H,%B", &band), "0,4,0");
 }
 
-TEST(NameTemplate, WithoutABandSizeAndDepthAreZero) { EXPECT_EQ(Expanded("%W,%H,%B"), "0,0,0"); }
+TEST(NameTemplate, WithoutABandSizeAndDepthAreZero) {
+  EXPECT_EQ(Expanded("%W,%H,%B"), "0,0,0");
+}
 
 TEST(NameTemplate, ShowsTheLocalTime) {
   SetLocalTime(2031, 2, 3, 4, 5, 6);
@@ -126,7 +130,9 @@ TEST(NameTemplate, WithoutALocalTimeItSaysSo) {
   EXPECT_EQ(Expanded("a%Tb"), "a(no_time)b");
 }
 
-TEST(NameTemplate, ADoubledPercentSignGivesNothing) { EXPECT_EQ(Expanded("100%%"), "100"); }
+TEST(NameTemplate, ADoubledPercentSignGivesNothing) {
+  EXPECT_EQ(Expanded("100%%"), "100");
+}
 
 TEST(NameTemplate, ADoubledPercentSignConsumesBoth) {
   const tagMVBandImageParams band = TenByFour();
@@ -134,7 +140,9 @@ TEST(NameTemplate, ADoubledPercentSignConsumesBoth) {
   EXPECT_EQ(Expanded("%%%W", &band), "10");
 }
 
-TEST(NameTemplate, APercentSignAtTheEndIsDropped) { EXPECT_EQ(Expanded("abc%"), "abc"); }
+TEST(NameTemplate, APercentSignAtTheEndIsDropped) {
+  EXPECT_EQ(Expanded("abc%"), "abc");
+}
 
 TEST(NameTemplate, OtherLettersGiveNothing) {
   EXPECT_EQ(Expanded("%x"), "");
@@ -142,7 +150,9 @@ TEST(NameTemplate, OtherLettersGiveNothing) {
   EXPECT_EQ(Expanded("a%xb%Qc%wd%n"), "abcd");
 }
 
-TEST(NameTemplate, AnEmptyTemplateGivesAnEmptyText) { EXPECT_EQ(Expanded(""), ""); }
+TEST(NameTemplate, AnEmptyTemplateGivesAnEmptyText) {
+  EXPECT_EQ(Expanded(""), "");
+}
 
 TEST(NameTemplate, ALiteralThatDoesNotFitFailsAfterWhatFits) {
   GuardedBuffer buffer(4);

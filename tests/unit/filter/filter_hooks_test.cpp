@@ -278,8 +278,8 @@ TEST_F(FilterHooks, SigtermWhileAWaitingSheetIsHeldPrintsNothingOfIt) {
 TEST_F(FilterHooks, SetupAndShutdownDoNothing) {
   Capture out(stdout);
   Capture err(stderr);
-  Setup();
-  Shutdown();
+  ::Setup();
+  ::Shutdown();
   const std::string messages = err.Text();
   EXPECT_EQ(out.Text(), "");
   EXPECT_EQ(messages, "");

@@ -16,7 +16,9 @@ static_assert(std::is_same_v<decltype(gRgbRate), std::uint8_t>);
 static_assert(std::is_same_v<decltype(gOpRate), std::uint8_t>);
 static_assert(std::extent_v<decltype(Planes)> == 2);
 
-TEST(JobState, ThePrintersStreamIsStandardOutput) { EXPECT_EQ(fpOut, stdout); }
+TEST(JobState, ThePrintersStreamIsStandardOutput) {
+  EXPECT_EQ(fpOut, stdout);
+}
 
 TEST(JobState, NoPageHasBeenRead) {
   EXPECT_EQ(page, 0);
@@ -33,4 +35,3 @@ TEST(JobState, NoSheetWaits) {
   EXPECT_EQ(gRgbRate, 0);
   EXPECT_EQ(gOpRate, 0);
 }
-

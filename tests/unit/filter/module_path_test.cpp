@@ -64,7 +64,10 @@ Lookup FindInList(std::vector<std::string> filters, int size = kBufferSize) {
 
 /// "/aaa…/" of the given length.
 std::string DirectoryOfLength(std::size_t length) {
-  return "/" + std::string(length - 2, 'a') + "/";
+  std::string directory(length, 'a');
+  directory.front() = '/';
+  directory.back() = '/';
+  return directory;
 }
 
 }  // namespace
@@ -138,7 +141,9 @@ TEST(ModulePath, AProgramEndsAtABlank) {
   EXPECT_EQ(FindInList({"application/vnd.cups-raster 0 /opt/my printer/filter"}).text, "/opt/");
 }
 
-TEST(ModulePath, WithoutFiltersThereIsNone) { EXPECT_FALSE(FindInList({}).found); }
+TEST(ModulePath, WithoutFiltersThereIsNone) {
+  EXPECT_FALSE(FindInList({}).found);
+}
 
 TEST(ModulePath, WithoutAPpdThereIsNone) {
   const Lookup lookup = Find(nullptr);

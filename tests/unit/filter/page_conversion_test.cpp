@@ -29,7 +29,9 @@ class PageConversion : public JobTest {
     return ConversionCalls().at(0).params;
   }
 
-  static std::string RateLines(const std::string& log) { return log.substr(log.find("DEBUG: Rgb")); }
+  static std::string RateLines(const std::string& log) {
+    return log.substr(log.find("DEBUG: Rgb"));
+  }
 };
 
 }  // namespace
@@ -129,10 +131,10 @@ TEST_F(PageConversion, EverySharpnessHasItsLevelAndFlag) {
     std::uint64_t flags;
     int level;
   };
-  for (const Level& level : {Level{0, 0x10003, 0}, Level{1, 0x10007, 0}, Level{2, 0x10007, 1},
-                             Level{3, 0x10007, 2}, Level{4, 0x10007, 3}, Level{5, 0x10007, 4},
-                             Level{6, 0x10007, 5}, Level{7, 0x10007, 6}, Level{8, 0x10007, 4},
-                             Level{255, 0x10007, 4}}) {
+  for (const Level& level :
+       {Level{0, 0x10003, 0}, Level{1, 0x10007, 0}, Level{2, 0x10007, 1}, Level{3, 0x10007, 2},
+        Level{4, 0x10007, 3}, Level{5, 0x10007, 4}, Level{6, 0x10007, 5}, Level{7, 0x10007, 6},
+        Level{8, 0x10007, 4}, Level{255, 0x10007, 4}}) {
     tagPRINTSETTING settings = SettingsOfSmallJoinedSheet();
     settings.bySharpness = level.setting;
     const tagMVChangeParams params = ParamsOf(settings);
@@ -281,6 +283,17 @@ TEST_F(PageConversion, AMatteSheetsSecondPageLeavesThePlaneAlone) {
   const std::string out = RunPage(settings).out;
   EXPECT_EQ(ConversionCalls().at(1).matte_record, nullptr);
   EXPECT_EQ(out.substr(out.size() - 64), std::string(64, 'M'));
+}
+
+TEST_F(PageConversion, TheNextMattePlaneTakesThePlaceOfTheOneBefore) {
+  tagPRINTSETTING settings = SettingsOfSmallSheet();
+  settings.byPrintFinish = 3;
+  const long before = LiveArrays();
+  PrinterTakesASheet();
+  PrinterTakesASheet();
+  RunPage(settings);
+  RunPage(settings);
+  EXPECT_EQ(LiveArrays(), before + 1);
 }
 
 TEST_F(PageConversion, WithoutMemoryForTheConvertedPageItEndsWithoutAMessageOfItsOwn) {

@@ -26,9 +26,9 @@ namespace {
 
 /// A row's twelve values in their order.
 std::array<std::int64_t, 12> Row(const tagPAPERINFO& paper) {
-  return {paper.nPaperWidth,   paper.nPaperHeight, paper.nImageWidth,   paper.nImageHeight,
-          paper.nImageLeft,    paper.nImageTop,    paper.byTwoUpMode,   paper.nTwoUpSplit,
-          paper.byTwoUpOption, paper.nJoinPages,   paper.nJoinGap,      paper.bHalfSheetLast};
+  return {paper.nPaperWidth,   paper.nPaperHeight, paper.nImageWidth, paper.nImageHeight,
+          paper.nImageLeft,    paper.nImageTop,    paper.byTwoUpMode, paper.nTwoUpSplit,
+          paper.byTwoUpOption, paper.nJoinPages,   paper.nJoinGap,    paper.bHalfSheetLast};
 }
 
 using Values = std::array<std::int64_t, 12>;

@@ -32,10 +32,10 @@ tagPRINTSETTING SettingsWith(const std::string& keyword, const std::string& choi
 using Geometry = std::array<std::int64_t, 12>;
 
 Geometry GeometryOf(const tagPRINTSETTING& settings) {
-  return {settings.nPaperWidth,   settings.nPaperHeight, settings.nImageWidth,
-          settings.nImageHeight,  settings.nImageLeft,   settings.nImageTop,
-          settings.byTwoUpMode,   settings.nTwoUpSplit,  settings.byTwoUpOption,
-          settings.nJoinPages,    settings.nJoinGap,     settings.bHalfSheetLast ? 1 : 0};
+  return {settings.nPaperWidth,  settings.nPaperHeight, settings.nImageWidth,
+          settings.nImageHeight, settings.nImageLeft,   settings.nImageTop,
+          settings.byTwoUpMode,  settings.nTwoUpSplit,  settings.byTwoUpOption,
+          settings.nJoinPages,   settings.nJoinGap,     settings.bHalfSheetLast ? 1 : 0};
 }
 
 void ExpectDefaults(const tagPRINTSETTING& settings) {
@@ -70,7 +70,9 @@ TEST(PpdOptions, WithoutAnyOptionEverythingIsAtItsDefault) {
   ExpectDefaults(Settings(ppd.get()));
 }
 
-TEST(PpdOptions, WithoutAPpdEverythingIsAtItsDefault) { ExpectDefaults(Settings(nullptr)); }
+TEST(PpdOptions, WithoutAPpdEverythingIsAtItsDefault) {
+  ExpectDefaults(Settings(nullptr));
+}
 
 TEST(PpdOptions, EveryPageSizeHasItsGeometry) {
   struct Size {
@@ -164,11 +166,10 @@ TEST(PpdOptions, TheWaitTimeKeepsItsLowByte) {
 }
 
 TEST(PpdOptions, EachToneKeywordSetsItsOwnChannel) {
-  PpdFile ppd(PickOne("RQGammaR", {"1"}) + PickOne("RQGammaG", {"2"}) +
-              PickOne("RQGammaB", {"3"}) + PickOne("RQBrightnessR", {"11"}) +
-              PickOne("RQBrightnessG", {"12"}) + PickOne("RQBrightnessB", {"13"}) +
-              PickOne("RQContrastR", {"21"}) + PickOne("RQContrastG", {"22"}) +
-              PickOne("RQContrastB", {"23"}));
+  PpdFile ppd(PickOne("RQGammaR", {"1"}) + PickOne("RQGammaG", {"2"}) + PickOne("RQGammaB", {"3"}) +
+              PickOne("RQBrightnessR", {"11"}) + PickOne("RQBrightnessG", {"12"}) +
+              PickOne("RQBrightnessB", {"13"}) + PickOne("RQContrastR", {"21"}) +
+              PickOne("RQContrastG", {"22"}) + PickOne("RQContrastB", {"23"}));
   const tagPRINTSETTING settings = Settings(ppd.get());
   EXPECT_EQ(settings.nGamma[0], 1);
   EXPECT_EQ(settings.nGamma[1], 2);
@@ -213,8 +214,7 @@ TEST(PpdOptions, AJobsOptionOverridesThePpdsDefault) {
               PickOne("RQPrintFinish", {"Gloss", "Matte"}) + PickOne("RQGammaB", {"0", "-3"}));
   ppd.Mark("PageSize=RQ_15x20_WB RQPrintFinish=Matte RQGammaB=-3");
   const tagPRINTSETTING settings = Settings(ppd.get());
-  EXPECT_EQ(GeometryOf(settings),
-            (Geometry{1852, 2434, 1684, 2286, 84, 74, 0, 0, 0, 0, 0, 0}));
+  EXPECT_EQ(GeometryOf(settings), (Geometry{1852, 2434, 1684, 2286, 84, 74, 0, 0, 0, 0, 0, 0}));
   EXPECT_EQ(settings.byPrintFinish, 3);
   EXPECT_EQ(settings.nGamma[2], -3);
 }

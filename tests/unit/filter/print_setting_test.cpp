@@ -82,4 +82,6 @@ TEST(PrintSetting, TheNineToneValuesAreOneRun) {
   EXPECT_EQ(settings.nBrightness[2], 33);
 }
 
-TEST(PrintSetting, MatteIsThree) { EXPECT_EQ(kFinishMatte, 3); }
+TEST(PrintSetting, MatteIsThree) {
+  EXPECT_EQ(kFinishMatte, 3);
+}

@@ -28,10 +28,14 @@ std::string White(std::size_t count) {
 }
 
 /// `count` pixels of one byte value.
-std::string Pixels(std::size_t count, char byte) { return std::string(count * 6, byte); }
+std::string Pixels(std::size_t count, char byte) {
+  return std::string(count * 6, byte);
+}
 
 /// Whether the two are equal, without printing megabytes when not.
-bool Same(const std::string& a, const std::string& b) { return a == b; }
+bool Same(const std::string& a, const std::string& b) {
+  return a == b;
+}
 
 class SheetAssembly : public JobTest {
  protected:
@@ -269,6 +273,52 @@ TEST_F(SheetAssembly, ParkingAPageLeavesItsRecordAsItWas) {
   EXPECT_TRUE(print_page(&settings, &image));
   EXPECT_EQ(image.rcBand.top, 0);
   EXPECT_EQ(image.rcBand.bottom, 2);
+}
+
+TEST_F(SheetAssembly, ALonePageThatPrintsAloneIsReadOneSheetBelowTheTop) {
+  // No paper size does this: the lines come from behind a sheet's height, here a larger cache's.
+  const std::string lines = Pixels(4 * 4, '-') + Pixels(4 * 2, 'p');
+  gImageCache = {new unsigned char[lines.size()], -24, {0, 0, 4, 4}};
+  lines.copy(reinterpret_cast<char*>(gImageCache.pBits), lines.size());
+  gImageCount = 1;
+  tagPRINTSETTING settings = SettingsOfSmallJoinedSheet();
+  settings.bHalfSheetLast = true;
+  PrinterTakesASheet();
+  const Outcome last = PrintLast(settings);
+  EXPECT_TRUE(last.result);
+  EXPECT_EQ(last.out.substr(8 + 512 + 6, 4), Bytes({0, 4, 0, 2}));
+  EXPECT_EQ(last.out.substr(8 + 512 + 15, 4), Bytes({0, 0, 0, 1}));
+  EXPECT_EQ(last.out.substr(8 + 512 + 512 + 10, 4), Bytes({0, 4, 0, 2}));
+  EXPECT_EQ(last.out.substr(kAhead), Pixels(8, 'p'));
+  EXPECT_EQ(gImageCount, 0);
+  EXPECT_EQ(gImageCache.pBits, nullptr);
+  EXPECT_EQ(settings.nPaperHeight, 4);
+  EXPECT_EQ(settings.byTwoUpMode, 1);
+}
+
+TEST_F(SheetAssembly, ALonePageThatPrintsAloneSkipsTheGapToo) {
+  const std::string lines = Pixels(4 * 5, '-') + Pixels(4 * 2, 'p');
+  gImageCache = {new unsigned char[lines.size()], -24, {0, 0, 4, 4}};
+  lines.copy(reinterpret_cast<char*>(gImageCache.pBits), lines.size());
+  gImageCount = 1;
+  tagPRINTSETTING settings = SettingsOfSmallJoinedSheet();
+  settings.bHalfSheetLast = true;
+  settings.nJoinGap = 1;
+  PrinterTakesASheet();
+  EXPECT_EQ(PrintLast(settings).out.substr(kAhead), Pixels(8, 'p'));
+}
+
+TEST_F(SheetAssembly, ALoneBottomUpPageThatPrintsAloneIsReadOneSheetBelowTheTop) {
+  // Eight lines in memory, the top row last: four lines below it begins the image.
+  const std::string lines =
+      Pixels(4 * 3, '-') + Pixels(4, 'l') + Pixels(4, 'u') + Pixels(4 * 3, '-');
+  gImageCache = {new unsigned char[lines.size()], 24, {0, 0, 4, 8}};
+  lines.copy(reinterpret_cast<char*>(gImageCache.pBits), lines.size());
+  gImageCount = 1;
+  tagPRINTSETTING settings = SettingsOfSmallJoinedSheet();
+  settings.bHalfSheetLast = true;
+  PrinterTakesASheet();
+  EXPECT_EQ(PrintLast(settings).out.substr(kAhead), Pixels(4, 'u') + Pixels(4, 'l'));
 }
 
 TEST_F(SheetAssembly, AJoinedSheetOfFullSizeHoldsPageTwoAbovePageOne) {

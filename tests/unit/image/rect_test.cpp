@@ -30,9 +30,9 @@ TEST(Rect, IsFourSigned64BitEdgesInTheirOrder) {
   ASSERT_EQ(sizeof(tagRECT), 32U);
   tagRECT rect{};
   std::memcpy(&rect,
-              Bytes({0x01, 0, 0, 0, 0, 0, 0, 0,                                    // left
-                     0x02, 0, 0, 0, 0, 0, 0, 0x80,                                 // top
-                     0x03, 0, 0, 0, 0x01, 0, 0, 0,                                 // right
+              Bytes({0x01, 0,    0,    0,    0,    0,    0,    0,      // left
+                     0x02, 0,    0,    0,    0,    0,    0,    0x80,   // top
+                     0x03, 0,    0,    0,    0x01, 0,    0,    0,      // right
                      0xFC, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF})  // bottom
                   .data(),
               32);
@@ -63,7 +63,9 @@ TEST(IsRectEmpty, InvertedItIs) {
   EXPECT_EQ(IsRectEmpty(&upside_down), 1);
 }
 
-TEST(IsRectEmpty, WithoutARectangleItIs) { EXPECT_EQ(IsRectEmpty(nullptr), 1); }
+TEST(IsRectEmpty, WithoutARectangleItIs) {
+  EXPECT_EQ(IsRectEmpty(nullptr), 1);
+}
 
 TEST(IsRectEmpty, EdgesCountInAll64Bits) {
   const tagRECT wide = {0, 0, 0x100000000, 1};
@@ -90,7 +92,9 @@ TEST(SetRect, StoresInvertedEdgesAsGiven) {
   EXPECT_EQ(rect, (tagRECT{10, 20, 5, 6}));
 }
 
-TEST(SetRect, WithoutARectangleFails) { EXPECT_EQ(SetRect(nullptr, 1, 2, 3, 4), 0); }
+TEST(SetRect, WithoutARectangleFails) {
+  EXPECT_EQ(SetRect(nullptr, 1, 2, 3, 4), 0);
+}
 
 TEST(IntersectRect, GivesTheSharedArea) {
   const tagRECT first = {0, 0, 10, 10};
@@ -169,4 +173,6 @@ TEST(OffsetRect, MovesLeft) {
   EXPECT_EQ(rect, (tagRECT{-3, 0, 7, 5}));
 }
 
-TEST(OffsetRect, WithoutARectangleFails) { EXPECT_EQ(OffsetRect(nullptr, 1, 1), 0); }
+TEST(OffsetRect, WithoutARectangleFails) {
+  EXPECT_EQ(OffsetRect(nullptr, 1, 1), 0);
+}

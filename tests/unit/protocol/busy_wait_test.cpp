@@ -46,7 +46,9 @@ void AnswerBusy(int times) {
 }
 
 /// What is logged of a busy answer, up to the next query.
-std::string BusyPass() { return QueryAnswered("01 00") + "DEBUG: CMD_GET_ENABLE[01 + 00]\n"; }
+std::string BusyPass() {
+  return QueryAnswered("01 00") + "DEBUG: CMD_GET_ENABLE[01 + 00]\n";
+}
 
 /// The sleeps of the journal, each without what had been sent by then.
 std::vector<std::string> Sleeps() {
@@ -115,8 +117,8 @@ TEST_F(BusyWait, EveryRefusalEndsItAsItWouldAFirstAnswer) {
       {0xFF, 0xFF, "ff ff",
        "DEBUG: CMD_GET_ENABLE[FF + FF]\nSTATE: +paused\nERROR: out-of-range 0xffff\n",
        "ERROR CMD_GET_ENABLE[FF + FF]"},
-      {0x03, 0x02, "03 02",
-       "DEBUG: PROTOCOL ERROR\nSTATE: +paused\nERROR: protocol-error 0x0302\n", "protocol-error"},
+      {0x03, 0x02, "03 02", "DEBUG: PROTOCOL ERROR\nSTATE: +paused\nERROR: protocol-error 0x0302\n",
+       "protocol-error"},
   };
   for (const Refusal& refusal : kRefusals) {
     AnswerBusy(1);

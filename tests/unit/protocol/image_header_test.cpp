@@ -40,12 +40,11 @@ class ImageHeader : public testing::Test {
 
 TEST_F(ImageHeader, OfABorderlessGlossSheet) {
   const std::string block = Block(SettingsOf10x15(), {0, 0, 1852, 1232});
-  EXPECT_EQ(block.substr(0, 40),
-            Bytes({0xEE, 0xEE, 0xEE, 0xEE, 0x00, 0x09, 0x00, 0x00,    // 0
-                   0x00, 0x00, 0x07, 0x3C, 0x04, 0xD0, 0x00, 0x00,    // 8
-                   0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,    // 16
-                   0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,    // 24
-                   0x07, 0xEA, 0x07, 0x08, 0x09, 0x0A, 0x0B, 0x00}));  // 32
+  EXPECT_EQ(block.substr(0, 40), Bytes({0xEE, 0xEE, 0xEE, 0xEE, 0x00, 0x09, 0x00, 0x00,     // 0
+                                        0x00, 0x00, 0x07, 0x3C, 0x04, 0xD0, 0x00, 0x00,     // 8
+                                        0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,     // 16
+                                        0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,     // 24
+                                        0x07, 0xEA, 0x07, 0x08, 0x09, 0x0A, 0x0B, 0x00}));  // 32
   EXPECT_EQ(block.substr(40), Zeros(472));
 }
 
@@ -56,18 +55,16 @@ TEST_F(ImageHeader, WithEveryFieldAtAValueOfItsOwn) {
   settings.byPrintFinish = 3;
   gMatteImage.rcBand = {10, 20, 10 + 0x5566, 20 + 0x7788};
   const std::string block = Block(settings, {100, 200, 100 + 0x2143, 200 + 0x6587});
-  EXPECT_EQ(block.substr(0, 40),
-            Bytes({0xEE, 0xEE, 0xEE, 0xEE, 0x00, 0x09, 0x11, 0x22,    // 0
-                   0x33, 0x44, 0x21, 0x43, 0x65, 0x87, 0x00, 0x00,    // 8
-                   0x00, 0x00, 0x00, 0x00, 0x55, 0x66, 0x77, 0x88,    // 16
-                   0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,    // 24
-                   0x07, 0xEA, 0x07, 0x08, 0x09, 0x0A, 0x0B, 0x00}));  // 32
+  EXPECT_EQ(block.substr(0, 40), Bytes({0xEE, 0xEE, 0xEE, 0xEE, 0x00, 0x09, 0x11, 0x22,     // 0
+                                        0x33, 0x44, 0x21, 0x43, 0x65, 0x87, 0x00, 0x00,     // 8
+                                        0x00, 0x00, 0x00, 0x00, 0x55, 0x66, 0x77, 0x88,     // 16
+                                        0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,     // 24
+                                        0x07, 0xEA, 0x07, 0x08, 0x09, 0x0A, 0x0B, 0x00}));  // 32
   EXPECT_EQ(block.substr(40), Zeros(472));
 }
 
 TEST_F(ImageHeader, TheSizeIsThatOfTheBandAndNotOfTheSettings) {
-  EXPECT_EQ(Block(SettingsOf10x15(), {5, 6, 8, 10}).substr(10, 4),
-            Bytes({0x00, 0x03, 0x00, 0x04}));
+  EXPECT_EQ(Block(SettingsOf10x15(), {5, 6, 8, 10}).substr(10, 4), Bytes({0x00, 0x03, 0x00, 0x04}));
 }
 
 TEST_F(ImageHeader, ThePlaceIsThatOfTheSettingsAndNotOfTheBand) {
@@ -79,8 +76,7 @@ TEST_F(ImageHeader, ThePlaceIsThatOfTheSettingsAndNotOfTheBand) {
 }
 
 TEST_F(ImageHeader, AnInvertedBandSendsTheLowBitsOfItsNegativeSize) {
-  EXPECT_EQ(Block(SettingsOf10x15(), {1, 2, 0, 0}).substr(10, 4),
-            Bytes({0xFF, 0xFF, 0xFF, 0xFE}));
+  EXPECT_EQ(Block(SettingsOf10x15(), {1, 2, 0, 0}).substr(10, 4), Bytes({0xFF, 0xFF, 0xFF, 0xFE}));
 }
 
 TEST_F(ImageHeader, NumbersBeyond16BitsSendTheirLowBits) {
@@ -95,8 +91,7 @@ TEST_F(ImageHeader, AMattePlaneOf10x15HasTwelveExtraLines) {
   tagPRINTSETTING settings = SettingsOf10x15();
   settings.byPrintFinish = 3;
   gMatteImage.rcBand = {0, 0, 1852, 1244};
-  EXPECT_EQ(Block(settings, {0, 0, 1852, 1232}).substr(20, 4),
-            Bytes({0x07, 0x3C, 0x04, 0xDC}));
+  EXPECT_EQ(Block(settings, {0, 0, 1852, 1232}).substr(20, 4), Bytes({0x07, 0x3C, 0x04, 0xDC}));
 }
 
 TEST_F(ImageHeader, AGlossSheetHasNoMatteSizeEvenWhereAMatteBandExists) {
@@ -106,10 +101,10 @@ TEST_F(ImageHeader, AGlossSheetHasNoMatteSizeEvenWhereAMatteBandExists) {
 
 TEST_F(ImageHeader, NoFinishButThreeIsMatte) {
   gMatteImage.rcBand = {0, 0, 1852, 1244};
-  for (const std::uint8_t finish : {1, 2, 4, 7, 255}) {
+  for (const int finish : {1, 2, 4, 7, 255}) {
     tagPRINTSETTING settings = SettingsOf10x15();
-    settings.byPrintFinish = finish;
-    EXPECT_EQ(Block(settings, {0, 0, 1852, 1232}).substr(20, 4), Zeros(4)) << int{finish};
+    settings.byPrintFinish = static_cast<std::uint8_t>(finish);
+    EXPECT_EQ(Block(settings, {0, 0, 1852, 1232}).substr(20, 4), Zeros(4)) << finish;
   }
 }
 
@@ -146,8 +141,8 @@ TEST_F(ImageHeader, IsWrittenWithItsCodeAndFlagInOneWrite) {
   tagMVBandImageParams image = {nullptr, -6, {0, 0, 1852, 1232}};
   wr_esc_ZT(out.stream(), &settings, &image, 0x01);
   EXPECT_THAT(out.sizes(), ElementsAre(512U));
-  EXPECT_EQ(out.bytes(), Bytes({0x1B, 0x5A, 0x54, 0x01}) +
-                             Block(settings, {0, 0, 1852, 1232}).substr(4));
+  EXPECT_EQ(out.bytes(),
+            Bytes({0x1B, 0x5A, 0x54, 0x01}) + Block(settings, {0, 0, 1852, 1232}).substr(4));
 }
 
 TEST_F(ImageHeader, CarriesAnyFlag) {

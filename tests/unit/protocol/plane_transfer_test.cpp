@@ -58,8 +58,8 @@ using MatteTransfer = PlaneTransfer;
 
 TEST_F(ImageTransfer, SendsEachSampleLowByteFirst) {
   std::vector<std::uint16_t> samples = {0x1234, 0x3FFF, 0x0001};
-  const tagMVBandImageParams band = {reinterpret_cast<unsigned char*>(samples.data()), -6,
-                                     {0, 0, 1, 1}};
+  const tagMVBandImageParams band = {
+      reinterpret_cast<unsigned char*>(samples.data()), -6, {0, 0, 1, 1}};
   SingleWrites out;
   EXPECT_TRUE(SendImage(out, band).result);
   EXPECT_EQ(out.bytes(), Bytes({0x34, 0x12, 0xFF, 0x3F, 0x01, 0x00}));
@@ -124,8 +124,10 @@ TEST_F(ImageTransfer, ASheetOf10x15Takes70Writes) {
   sizes.push_back(124032);
   EXPECT_EQ(out.sizes(), sizes);
   std::string messages;
-  for (const int percent :
-       {50, 51, 52, 52, 53, 54, 54, 55, 56, 57, 57, 58, 59, 60, 60, 61, 62, 62, 63, 64, 65, 65, 66, 67, 67, 68, 69, 70, 70, 71, 72, 72, 73, 74, 75, 75, 76, 77, 78, 78, 79, 80, 80, 81, 82, 82, 83, 84, 85, 85, 86, 87, 88, 88, 89, 90, 90, 91, 92, 93, 93, 94, 95, 95, 96, 97, 98, 98, 99, 99}) {
+  for (const int percent : {50, 51, 52, 52, 53, 54, 54, 55, 56, 57, 57, 58, 59, 60, 60, 61, 62, 62,
+                            63, 64, 65, 65, 66, 67, 67, 68, 69, 70, 70, 71, 72, 72, 73, 74, 75, 75,
+                            76, 77, 78, 78, 79, 80, 80, 81, 82, 82, 83, 84, 85, 85, 86, 87, 88, 88,
+                            89, 90, 90, 91, 92, 93, 93, 94, 95, 95, 96, 97, 98, 98, 99, 99}) {
     messages += "INFO: Printing page 7, " + std::to_string(percent) + "% complete...\n";
   }
   EXPECT_EQ(outcome.err, messages);

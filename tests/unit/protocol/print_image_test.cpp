@@ -29,15 +29,14 @@ constexpr const char* kStatusRequested =
     "DEBUG: [CMD] 0000: 1b 47 44 30 00 00 01 16\n"
     "DEBUG: CUPS_SC_CMD_DRAIN_OUTPUT=CUPS_SC_STATUS_OK(1)\n";
 
-const std::string kGoodStatus =
-    std::string(kStatusRequested) +
-    "DEBUG: [STS] size=15\n"
-    "DEBUG: [STS] 0000: 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00\n"
-    "DEBUG: =======> printer_state=GOOD\n" +
-    kAllWithdrawals +
-    "clean_printer_state() START\n"
-    "STATE: -none\n"
-    "clean_printer_state() END\n";
+const std::string kGoodStatus = std::string(kStatusRequested) +
+                                "DEBUG: [STS] size=15\n"
+                                "DEBUG: [STS] 0000: 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00\n"
+                                "DEBUG: =======> printer_state=GOOD\n" +
+                                kAllWithdrawals +
+                                "clean_printer_state() START\n"
+                                "STATE: -none\n"
+                                "clean_printer_state() END\n";
 
 struct Outcome {
   bool result = false;
@@ -47,8 +46,7 @@ struct Outcome {
 
 /// Prints two pixels in a line: AAAAAA and BBBBBB.
 Outcome Print(const tagPRINTSETTING& settings) {
-  std::array<unsigned char, 12> bits = {'A', 'A', 'A', 'A', 'A', 'A',
-                                        'B', 'B', 'B', 'B', 'B', 'B'};
+  std::array<unsigned char, 12> bits = {'A', 'A', 'A', 'A', 'A', 'A', 'B', 'B', 'B', 'B', 'B', 'B'};
   tagMVBandImageParams image = {bits.data(), -12, {0, 0, 2, 1}};
   Outcome outcome;
   Capture out(stdout);
@@ -68,8 +66,8 @@ std::string JobHeaderBody(unsigned char finish) {
 
 /// The header of the two pixels with a matte plane of the given size, at 2026-07-08 09:10:11.
 std::string ImageHeader(unsigned char matte_width, unsigned char matte_height) {
-  return Bytes({0x1B, 0x5A, 0x54, 0x01, 0x00, 0x09, 0x00, 0x00, 0x00, 0x00, 0x00, 0x02, 0x00,
-                0x01}) +
+  return Bytes(
+             {0x1B, 0x5A, 0x54, 0x01, 0x00, 0x09, 0x00, 0x00, 0x00, 0x00, 0x00, 0x02, 0x00, 0x01}) +
          Zeros(6) + Bytes({0x00, matte_width, 0x00, matte_height}) + Zeros(8) +
          Bytes({0x07, 0xEA, 7, 8, 9, 10, 11}) + Zeros(473);
 }

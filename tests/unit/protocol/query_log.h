@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// What the log holds of a readiness query for a default sheet of 10x15 with the rates 0x4D and 0x5E.
+// What the log holds of a readiness query for a default sheet of 10x15 with the rates 0x4D and
+// 0x5E.
 #ifndef TQR7_TESTS_UNIT_PROTOCOL_QUERY_LOG_H
 #define TQR7_TESTS_UNIT_PROTOCOL_QUERY_LOG_H
 

@@ -111,9 +111,8 @@ TEST_F(EnableExchange, TheCodeMayComeInASecondPiece) {
   Connection().Answer(Bytes({0, 0, 0, 0}));
   Connection().Answer(Bytes({0x02, 0x01}));
   EXPECT_EQ(Exchange().code, 0x0201);
-  EXPECT_THAT(Connection().journal,
-              ElementsAre("drain 512 5.0, 512 sent", "read 512 1.0, 512 sent",
-                          "read 508 1.0, 512 sent"));
+  EXPECT_THAT(Connection().journal, ElementsAre("drain 512 5.0, 512 sent", "read 512 1.0, 512 sent",
+                                                "read 508 1.0, 512 sent"));
 }
 
 TEST_F(EnableExchange, ALongFirstPieceIsKeptWhole) {
@@ -205,8 +204,7 @@ TEST_F(EnableExchange, AQueryThatCannotBeFlushedFails) {
     const FullOutput full(true);
     text = ExaminePage(&settings);
   }
-  EXPECT_EQ(err.Text(),
-            "DEBUG: ExaminePage() START\n" + kQueryDump + "DEBUG: fflush() failed.\n");
+  EXPECT_EQ(err.Text(), "DEBUG: ExaminePage() START\n" + kQueryDump + "DEBUG: fflush() failed.\n");
   EXPECT_EQ(text, "wr_esc_enable() Error");
   EXPECT_TRUE(Connection().journal.empty());
 }

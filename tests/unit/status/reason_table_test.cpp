@@ -133,7 +133,9 @@ constexpr std::array<ExpectedRow, 110> kExpectedRows = {{
 
 }  // namespace
 
-TEST(ReasonTable, Has110Rows) { EXPECT_EQ(std::size(PRINTER_STATE_REASONS), 110U); }
+TEST(ReasonTable, Has110Rows) {
+  EXPECT_EQ(std::size(PRINTER_STATE_REASONS), 110U);
+}
 
 TEST(ReasonTable, EveryRowHoldsItsErrorNumberAndKeyword) {
   for (std::size_t i = 0; i < kExpectedRows.size(); ++i) {

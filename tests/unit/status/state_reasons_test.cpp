@@ -11,8 +11,8 @@
 
 #include "status/reason_table.h"
 #include "tests/unit/capture.h"
-#include "tests/unit/stderr_calls.h"
 #include "tests/unit/status/withdrawals.h"
+#include "tests/unit/stderr_calls.h"
 
 namespace {
 

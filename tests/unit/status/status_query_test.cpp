@@ -101,8 +101,8 @@ TEST_F(StatusQuery, AReplyInTwoPiecesIsGathered) {
   EXPECT_EQ(outcome.state.error_number, 0x2110);
   EXPECT_NE(outcome.err.find("DEBUG: [STS] 0000: a0 a1 a2 a3 21 10 a6 a7 a8 a9 aa ab ac ad ae\n"),
             std::string::npos);
-  EXPECT_THAT(Connection().journal, ElementsAre("drain 512 5.0, 8 sent", "read 512 1.0, 8 sent",
-                                                "read 502 1.0, 8 sent"));
+  EXPECT_THAT(Connection().journal,
+              ElementsAre("drain 512 5.0, 8 sent", "read 512 1.0, 8 sent", "read 502 1.0, 8 sent"));
 }
 
 TEST_F(StatusQuery, AReplyInSingleBytesIsGathered) {
@@ -142,8 +142,8 @@ TEST_F(StatusQuery, FourteenBytesAndThenSilenceIsUnavailable) {
   Connection().AnswerNothing(-1);
   const Outcome outcome = Ask();
   EXPECT_EQ(outcome.state.type, PrinterState::Type::Unavailable);
-  EXPECT_EQ(outcome.err, std::string(kRequestDump) + kDrained +
-                             "DEBUG: cupsBackChannelRead() failed. ret=-1\n");
+  EXPECT_EQ(outcome.err,
+            std::string(kRequestDump) + kDrained + "DEBUG: cupsBackChannelRead() failed. ret=-1\n");
 }
 
 TEST_F(StatusQuery, AReadOfNoBytesIsAFailureAtOnce) {
@@ -151,16 +151,16 @@ TEST_F(StatusQuery, AReadOfNoBytesIsAFailureAtOnce) {
   Connection().Answer(Reply(0, 0));
   const Outcome outcome = Ask();
   EXPECT_EQ(outcome.state.type, PrinterState::Type::Unavailable);
-  EXPECT_EQ(outcome.err, std::string(kRequestDump) + kDrained +
-                             "DEBUG: cupsBackChannelRead() failed. ret=0\n");
+  EXPECT_EQ(outcome.err,
+            std::string(kRequestDump) + kDrained + "DEBUG: cupsBackChannelRead() failed. ret=0\n");
   EXPECT_THAT(Connection().journal, ElementsAre("drain 512 5.0, 8 sent", "read 512 1.0, 8 sent"));
 }
 
 TEST_F(StatusQuery, WithoutABackChannelThePrinterIsUnavailable) {
   const Outcome outcome = Ask();
   EXPECT_EQ(outcome.state.type, PrinterState::Type::Unavailable);
-  EXPECT_EQ(outcome.err, std::string(kRequestDump) + kDrained +
-                             "DEBUG: cupsBackChannelRead() failed. ret=-1\n");
+  EXPECT_EQ(outcome.err,
+            std::string(kRequestDump) + kDrained + "DEBUG: cupsBackChannelRead() failed. ret=-1\n");
 }
 
 TEST_F(StatusQuery, ABackendThatCannotDrainIsNoFailure) {
@@ -168,8 +168,7 @@ TEST_F(StatusQuery, ABackendThatCannotDrainIsNoFailure) {
   Connection().Answer(Reply(0x21, 0x10));
   const Outcome outcome = Ask();
   EXPECT_EQ(outcome.state.error_number, 0x2110);
-  EXPECT_NE(outcome.err.find(
-                "DEBUG: CUPS_SC_CMD_DRAIN_OUTPUT=CUPS_SC_STATUS_NOT_IMPLEMENTED(7)\n"),
+  EXPECT_NE(outcome.err.find("DEBUG: CUPS_SC_CMD_DRAIN_OUTPUT=CUPS_SC_STATUS_NOT_IMPLEMENTED(7)\n"),
             std::string::npos);
 }
 
