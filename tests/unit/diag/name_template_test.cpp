@@ -194,6 +194,17 @@ TEST(NameTemplate, AnExpansionThatIsCutFailsInsideTheBuffer) {
   }
 }
 
+TEST(NameTemplate, AnExpansionNeedsAByteBesidesItsTerminatingZero) {
+  SetLocalTime(2024, 1, 31, 23, 59, 59);
+  GuardedBuffer cut(17);
+  EXPECT_FALSE(cut.Expand("a%T"));
+  EXPECT_TRUE(cut.GuardIntact());
+  GuardedBuffer whole(18);
+  EXPECT_TRUE(whole.Expand("a%T"));
+  EXPECT_EQ(whole.Text(), "a20240131_235959");
+  EXPECT_TRUE(whole.GuardIntact());
+}
+
 TEST(NameTemplate, ManyExpansionsThatAreCutStayInsideTheBuffer) {
   SetLocalTime(2024, 1, 31, 23, 59, 59);
   GuardedBuffer buffer(20);

@@ -229,6 +229,24 @@ TEST_F(FilterHooks, ACancelledJobEndsWithStatusZeroAndFlushes) {
   EXPECT_EQ(err, "");
 }
 
+TEST_F(FilterHooks, ACancelledJobLeavesAStreamAloneThatIsInUse) {
+  // The signal cut into a write: the stream's buffer is half changed, and flushing it could hang.
+  std::string out;
+  std::string err;
+  const cups_page_header_t header = Header(12);
+  const tagPRINTSETTING settings = SettingsOfSmallSheet();
+  const int status = RunInChild(
+      [&] {
+        StartPage(nullptr, &header, &settings);
+        std::fputs("tail", stdout);
+        const OutputCall under_way;
+        CancelJob(SIGTERM);
+      },
+      &out, &err);
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+  EXPECT_EQ(out, "");
+}
+
 TEST_F(FilterHooks, SigtermWithinAPageEndsTheJobWithStatusZero) {
   std::string out;
   std::string err;

@@ -35,6 +35,7 @@ class JobTest : public testing::Test {
   }
 
   void TearDown() override {
+    EXPECT_EQ(gOutputCalls, 0) << "a call on the printer's stream was left open";
     delete[] Planes[0];
     delete[] Planes[1];
     Planes[0] = nullptr;
