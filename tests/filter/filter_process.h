@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// The filter as the scheduler starts it, with the test in the place of the scheduler, the filter
+// before it, the backend and the printer.
+#ifndef TQR7_TESTS_FILTER_FILTER_PROCESS_H
+#define TQR7_TESTS_FILTER_FILTER_PROCESS_H
+
+#include <chrono>
+#include <csignal>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "tests/filter/backend.h"
+#include "tests/filter/ppd_maker.h"
+#include "tests/filter/printer_script.h"
+#include "tests/filter/temporary_folder.h"
+
+namespace filter_test {
+
+/// One run of the filter.
+struct Job {
+  std::string input = {};   ///< raster stream on standard input
+  bool more_input = false;  ///< standard input stays open for Feed
+  std::string options = {};
+  std::optional<std::vector<std::string>> arguments = {};  ///< in place of the usual five
+  std::optional<Ppd> ppd = Ppd{};                     ///< without one, PPD is not set
+  std::map<std::string, std::string> environment = {};
+  Script printer = {};
+  std::vector<int> closed_descriptors = {};
+  std::string output_path = {};  ///< standard output is this file instead of the backend's pipe
+  bool broken_pipe_is_an_error = false;  ///< SIGPIPE is ignored, so that a write fails instead
+};
+
+/// What a run left behind.
+struct Outcome {
+  int status = -1;  ///< exit status, −1 when a signal ended the filter
+  int signal = 0;
+  std::string stream;  ///< standard output, as far as the backend took it
+  std::string log;     ///< standard error; a pause shows as a line such as "[sleep 5]"
+  std::string notes;   ///< the waits it asked for
+  std::string calls;   ///< the conversions it asked for
+};
+
+class FilterProcess {
+ public:
+  explicit FilterProcess(const Job& job);
+  ~FilterProcess();
+  FilterProcess(const FilterProcess&) = delete;
+  FilterProcess& operator=(const FilterProcess&) = delete;
+
+  /// Plays backend and printer until the log holds the text.
+  void WaitForLog(const std::string& text);
+  /// Plays backend and printer until SIGTERM is ignored.
+  void WaitUntilTermIsIgnored();
+  /// Waits until the filter sleeps in the kernel, with nobody reading what it prints.
+  void WaitUntilStuck();
+  void Feed(const std::string& bytes) { input_bytes_ += bytes; }
+  void CloseInput() { more_input_ = false; }
+  void StopReadingStream() { backend_.set_reading(false); }
+  void Terminate() const;
+
+  /// Plays on to the end.
+  Outcome Finish();
+
+ private:
+  void Start(const Job& job);
+  void Step();
+  void FeedInput();
+  std::string ProcessField(const std::string& name) const;
+
+  TemporaryFolder folder_;
+  Backend backend_;
+  std::string input_bytes_;
+  std::size_t fed_ = 0;
+  bool more_input_;
+  int input_ = -1;
+  int log_pipe_ = -1;
+  std::string log_;
+  pid_t process_ = -1;
+  std::chrono::steady_clock::time_point deadline_;
+};
+
+/// Runs a job from start to end.
+Outcome Print(const Job& job);
+
+}  // namespace filter_test
+
+#endif  // TQR7_TESTS_FILTER_FILTER_PROCESS_H

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// Preloaded into the filter: pauses that pass at once, a clock that stands still but for them, waits
+// on the scheduler's channels that can be shortened, and memory that can be refused. What was asked
+// for is noted, so that a test can hold it against what the filter should ask for.
+//
+// Settings come from the environment:
+//   FILTER_TEST_NOTES       file that every sleep and every wait on a channel is noted in
+//   FILTER_TEST_CLOCK       the local time at the start, "2026 3 4 5 6 7"
+//   FILTER_TEST_WAIT_SCALE  factor on every wait on a channel, such as 0.05
+//   FILTER_TEST_READS       results of the back channel's reads in turn: a number, or "real"
+//   FILTER_TEST_TERM_SLEEP  the sleep during which SIGTERM arrives, counted from 1
+//   FILTER_TEST_REASONS     a default destination with these state reasons
+//   FILTER_TEST_DEFAULT     "bare": a default destination without state reasons
+//   FILTER_TEST_SHORT_WRITE "items result": the first write of so many bytes on standard output
+//                           writes nothing and has this result
+//   FILTER_TEST_NO_MEMORY   "bytes count": refuse the count-th array of this many bytes
+#include <cups/cups.h>
+#include <cups/sidechannel.h>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <stdio_ext.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <new>
+
+namespace {
+
+constexpr std::time_t kFrozenTime = 1234567890;
+
+unsigned int g_slept = 0;
+int g_sleeps = 0;
+int g_reads = 0;
+
+const char* Setting(const char* name) { return std::getenv(name); }
+
+template <typename Function>
+Function Real(const char* symbol) {
+  return reinterpret_cast<Function>(dlsym(RTLD_NEXT, symbol));
+}
+
+__attribute__((format(printf, 1, 2))) void Note(const char* format, ...) {
+  const char* path = Setting("FILTER_TEST_NOTES");
+  if (path == nullptr) {
+    return;
+  }
+  char line[128];
+  va_list arguments;
+  va_start(arguments, format);
+  const int length = std::vsnprintf(line, sizeof line, format, arguments);
+  va_end(arguments);
+  const int file = open(path, O_WRONLY | O_CREAT | O_APPEND, 0600);
+  if (file >= 0 && write(file, line, static_cast<std::size_t>(length)) != length) {
+    std::abort();
+  }
+  close(file);
+}
+
+double Scaled(double seconds) {
+  const char* scale = Setting("FILTER_TEST_WAIT_SCALE");
+  return scale == nullptr ? seconds : seconds * std::atof(scale);
+}
+
+/// The result that the setting gives for this read, or false when the read is to be made.
+bool ScriptedRead(ssize_t* result) {
+  const char* entry = Setting("FILTER_TEST_READS");
+  for (int skipped = 0; entry != nullptr && skipped < g_reads; ++skipped) {
+    entry = std::strchr(entry, ' ');
+    entry = entry == nullptr ? nullptr : entry + 1;
+  }
+  ++g_reads;
+  if (entry == nullptr || *entry == '\0' || std::strncmp(entry, "real", 4) == 0) {
+    return false;
+  }
+  *result = std::atol(entry);
+  return true;
+}
+
+bool RefuseArray(std::size_t bytes) {
+  static int seen = 0;
+  const char* setting = Setting("FILTER_TEST_NO_MEMORY");
+  if (setting == nullptr) {
+    return false;
+  }
+  char* end = nullptr;
+  const unsigned long long refused = std::strtoull(setting, &end, 10);
+  return bytes == refused && ++seen == std::atoi(end);
+}
+
+}  // namespace
+
+extern "C" unsigned int sleep(unsigned int seconds) {
+  Note("sleep %u, %s\n", seconds, __fpending(stdout) > 0 ? "output held back" : "output flushed");
+  char line[32];
+  const int length = std::snprintf(line, sizeof line, "[sleep %u]\n", seconds);
+  if (write(STDERR_FILENO, line, static_cast<std::size_t>(length)) != length) {
+    std::abort();
+  }
+  g_slept += seconds;
+  const char* term = Setting("FILTER_TEST_TERM_SLEEP");
+  if (++g_sleeps == (term == nullptr ? 0 : std::atoi(term))) {
+    static_cast<void>(std::raise(SIGTERM));
+  }
+  return 0;
+}
+
+extern "C" std::time_t time(std::time_t* result) {
+  if (result != nullptr) {
+    *result = kFrozenTime;
+  }
+  return kFrozenTime;
+}
+
+extern "C" std::tm* localtime(const std::time_t* when) {
+  static std::tm local;
+  const char* clock = Setting("FILTER_TEST_CLOCK");
+  if (clock == nullptr || *when != kFrozenTime) {
+    return Real<std::tm* (*)(const std::time_t*)>("localtime")(when);
+  }
+  local = {};
+  if (std::sscanf(clock, "%d %d %d %d %d %d", &local.tm_year, &local.tm_mon, &local.tm_mday,
+                  &local.tm_hour, &local.tm_min, &local.tm_sec) != 6) {
+    std::abort();
+  }
+  local.tm_year -= 1900;
+  local.tm_mon -= 1;
+  local.tm_sec += static_cast<int>(g_slept);
+  return &local;
+}
+
+extern "C" cups_sc_status_t cupsSideChannelDoRequest(cups_sc_command_t command, char* data,
+                                                     int* length, double timeout) {
+  Note("side channel %d, room %d, %.1f s\n", static_cast<int>(command), *length, timeout);
+  using DoRequest = cups_sc_status_t (*)(cups_sc_command_t, char*, int*, double);
+  return Real<DoRequest>("cupsSideChannelDoRequest")(command, data, length, Scaled(timeout));
+}
+
+extern "C" ssize_t cupsBackChannelRead(char* buffer, size_t bytes, double timeout) {
+  Note("back channel, room %zu, %.1f s\n", bytes, timeout);
+  ssize_t result = 0;
+  if (ScriptedRead(&result)) {
+    return result;
+  }
+  using Read = ssize_t (*)(char*, size_t, double);
+  return Real<Read>("cupsBackChannelRead")(buffer, bytes, Scaled(timeout));
+}
+
+extern "C" int cupsGetDests(cups_dest_t** destinations) {
+  const char* reasons = Setting("FILTER_TEST_REASONS");
+  const char* plain = Setting("FILTER_TEST_DEFAULT");
+  if (reasons == nullptr && plain == nullptr) {
+    return Real<int (*)(cups_dest_t**)>("cupsGetDests")(destinations);
+  }
+  *destinations = nullptr;
+  int count = cupsAddDest("attic", nullptr, 0, destinations);
+  count = cupsAddDest("photos", nullptr, count, destinations);
+  cups_dest_t* other = cupsGetDest("attic", nullptr, count, *destinations);
+  other->num_options =
+      cupsAddOption("printer-state-reasons", "offline-report", other->num_options, &other->options);
+  cups_dest_t* chosen = cupsGetDest("photos", nullptr, count, *destinations);
+  chosen->is_default = 1;
+  if (reasons != nullptr) {
+    chosen->num_options =
+        cupsAddOption("printer-state-reasons", reasons, chosen->num_options, &chosen->options);
+  }
+  return count;
+}
+
+extern "C" std::size_t fwrite(const void* data, std::size_t size, std::size_t items,
+                              std::FILE* file) {
+  static bool done = false;
+  std::size_t refused = 0;
+  std::size_t result = 0;
+  const char* setting = Setting("FILTER_TEST_SHORT_WRITE");
+  if (!done && setting != nullptr && file == stdout &&
+      std::sscanf(setting, "%zu %zu", &refused, &result) == 2 && refused == items) {
+    done = true;
+    return result;
+  }
+  using Write = std::size_t (*)(const void*, std::size_t, std::size_t, std::FILE*);
+  return Real<Write>("fwrite")(data, size, items, file);
+}
+
+void* operator new[](std::size_t bytes) {
+  if (RefuseArray(bytes)) {
+    throw std::bad_alloc();
+  }
+  return Real<void* (*)(std::size_t)>("_Znam")(bytes);
+}
+
+void* operator new[](std::size_t bytes, const std::nothrow_t& tag) noexcept {
+  if (RefuseArray(bytes)) {
+    return nullptr;
+  }
+  return Real<void* (*)(std::size_t, const std::nothrow_t&)>("_ZnamRKSt9nothrow_t")(bytes, tag);
+}
