@@ -108,7 +108,9 @@ void Backend::ReadStream() {
   }
 }
 
-void Backend::CloseStream() { CloseAndForget(&stream_); }
+void Backend::CloseStream() {
+  CloseAndForget(&stream_);
+}
 
 void Backend::AnswerSideChannel() {
   cups_sc_command_t command = CUPS_SC_CMD_NONE;
@@ -159,14 +161,16 @@ void Backend::AnswerLastCommand() {
   if (reply.then_close_stream) {
     CloseStream();
   }
+  if (reply.then_hold_stream) {
+    reading_ = false;
+  }
 }
 
 void Backend::SendPieces() {
   int unread = 0;
   while (!pieces_.empty() && ioctl(filter_back_channel_, FIONREAD, &unread) == 0 && unread == 0) {
     const std::string& piece = pieces_.front();
-    EXPECT_EQ(write(back_channel_, piece.data(), piece.size()),
-              static_cast<ssize_t>(piece.size()));
+    EXPECT_EQ(write(back_channel_, piece.data(), piece.size()), static_cast<ssize_t>(piece.size()));
     pieces_.pop_front();
   }
   if (pieces_.empty() && close_back_channel_after_pieces_) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The backend and the printer behind it: takes the print stream, answers on the side channel through
-// libcups, and sends the printer's replies on the back channel as a script says.
+// The backend and the printer behind it: takes the print stream, answers on the side channel
+// through libcups, and sends the printer's replies on the back channel as a script says.
 #ifndef TQR7_TESTS_FILTER_BACKEND_H
 #define TQR7_TESTS_FILTER_BACKEND_H
 

@@ -28,9 +28,13 @@ void ExpectUsage(const std::vector<std::string>& arguments) {
   EXPECT_EQ(outcome.notes, "");
 }
 
-TEST(Arguments, AreExplainedWhenThereAreNone) { ExpectUsage({}); }
+TEST(Arguments, AreExplainedWhenThereAreNone) {
+  ExpectUsage({});
+}
 
-TEST(Arguments, AreExplainedWhenThereAreTooFew) { ExpectUsage({"7", "anna", "Beach", "1"}); }
+TEST(Arguments, AreExplainedWhenThereAreTooFew) {
+  ExpectUsage({"7", "anna", "Beach", "1"});
+}
 
 TEST(Arguments, AreExplainedWhenThereAreTooMany) {
   ExpectUsage({"7", "anna", "Beach", "1", "", "/dev/null", "more"});
@@ -94,8 +98,7 @@ struct BidiCase {
 class NoTwoWays : public testing::TestWithParam<BidiCase> {};
 
 TEST_P(NoTwoWays, EndsTheJobBeforeAnythingIsSent) {
-  const Outcome outcome =
-      Print({.input = SmallRaster(), .printer = {.bidi = GetParam().reply}});
+  const Outcome outcome = Print({.input = SmallRaster(), .printer = {.bidi = GetParam().reply}});
 
   ExpectRefusal(outcome,
                 "DEBUG: CUPS_SC_CMD_GET_BIDI=" + std::string(GetParam().line) + "\n" + kNoTwoWays);

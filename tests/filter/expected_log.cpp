@@ -59,7 +59,9 @@ std::string FailedStatusExchange(int result) {
          kDrained + "DEBUG: cupsBackChannelRead() failed. ret=" + std::to_string(result) + "\n";
 }
 
-std::string GoodState() { return State("GOOD") + Withdrawals(); }
+std::string GoodState() {
+  return State("GOOD") + Withdrawals();
+}
 
 std::string KnownError(const std::string& number, const std::string& keyword) {
   return State(number) + "STATE: +" + keyword + "\n" + "DEBUG: " + keyword + " " + number + "\n" +
@@ -76,7 +78,9 @@ std::string UnknownError(const std::string& state) {
          Withdrawals("com.corvantiel-error0004");
 }
 
-std::string GoodStart() { return kBanner + kTwoWays + StatusExchange() + GoodState() + kCleaned; }
+std::string GoodStart() {
+  return kBanner + kTwoWays + StatusExchange() + GoodState() + kCleaned;
+}
 
 std::string PageRead(int page, const std::string& progress, unsigned copies) {
   std::string text = "PAGE: " + std::to_string(page) + " " + std::to_string(copies) + "\n";
@@ -136,7 +140,9 @@ std::string Transfer(int page, int width, int height) {
   return pixels % kBufferedPixels == 0 ? text : text + Progress(page, 99);
 }
 
-std::string SheetDone(int page) { return Progress(page, 100) + "[sleep 5]\n"; }
+std::string SheetDone(int page) {
+  return Progress(page, 100) + "[sleep 5]\n";
+}
 
 std::string SheetLog(const Settings& settings, int page, int width, int height) {
   return ReadySheet(settings) + Transfer(page, width, height) + SheetDone(page);

@@ -51,7 +51,9 @@ Settings Settings::WithRates(unsigned char rgb, unsigned char op) const {
   return result;
 }
 
-std::string StatusRequest() { return {"\x1B\x47\x44\x30\x00\x00\x01\x16", 8}; }
+std::string StatusRequest() {
+  return {"\x1B\x47\x44\x30\x00\x00\x01\x16", 8};
+}
 
 std::string ReadinessQuery(const Settings& settings) {
   return SettingsBlock("\x1B\x47\x44\x33", settings);

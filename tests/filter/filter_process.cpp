@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdlib>
 #include <sstream>
 
 #include "tests/filter/descriptors.h"
@@ -142,7 +143,7 @@ void FilterProcess::Step() {
   if (input_ >= 0 && fed_ < input_bytes_.size()) {
     polls.push_back({input_, POLLOUT, 0});
   }
-  poll(polls.data(), polls.size(), backend_.has_pieces() ? 1 : 20);
+  poll(polls.data(), polls.size(), backend_.has_pieces() ? 1 : 5);
   FeedInput();
   backend_.Step();
   std::array<char, 16384> buffer;
@@ -177,7 +178,8 @@ std::string FilterProcess::ProcessField(const std::string& name) const {
 
 void FilterProcess::WaitUntilTermIsIgnored() {
   constexpr unsigned long long kTermBit = 1ULL << (SIGTERM - 1);
-  while (log_pipe_ >= 0 && (std::stoull("0" + ProcessField("SigIgn"), nullptr, 16) & kTermBit) == 0) {
+  while (log_pipe_ >= 0 &&
+         (std::strtoull(ProcessField("SigIgn").c_str(), nullptr, 16) & kTermBit) == 0) {
     Step();
   }
 }
@@ -188,7 +190,16 @@ void FilterProcess::WaitUntilStuck() {
   }
 }
 
-void FilterProcess::Terminate() const { kill(process_, SIGTERM); }
+void FilterProcess::PlayFor(std::chrono::milliseconds time) {
+  const auto end = std::chrono::steady_clock::now() + time;
+  while (log_pipe_ >= 0 && std::chrono::steady_clock::now() < end) {
+    Step();
+  }
+}
+
+void FilterProcess::Terminate() const {
+  kill(process_, SIGTERM);
+}
 
 Outcome FilterProcess::Finish() {
   backend_.set_reading(true);
@@ -208,6 +219,8 @@ Outcome FilterProcess::Finish() {
           folder_.Read("calls")};
 }
 
-Outcome Print(const Job& job) { return FilterProcess(job).Finish(); }
+Outcome Print(const Job& job) {
+  return FilterProcess(job).Finish();
+}
 
 }  // namespace filter_test

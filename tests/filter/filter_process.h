@@ -25,7 +25,7 @@ struct Job {
   bool more_input = false;  ///< standard input stays open for Feed
   std::string options = {};
   std::optional<std::vector<std::string>> arguments = {};  ///< in place of the usual five
-  std::optional<Ppd> ppd = Ppd{};                     ///< without one, PPD is not set
+  std::optional<Ppd> ppd = Ppd{};                          ///< without one, PPD is not set
   std::map<std::string, std::string> environment = {};
   Script printer = {};
   std::vector<int> closed_descriptors = {};
@@ -54,11 +54,12 @@ class FilterProcess {
   void WaitForLog(const std::string& text);
   /// Plays backend and printer until SIGTERM is ignored.
   void WaitUntilTermIsIgnored();
-  /// Waits until the filter sleeps in the kernel, with nobody reading what it prints.
+  /// Waits until the filter is held up in a write that nobody takes.
   void WaitUntilStuck();
+  void PlayFor(std::chrono::milliseconds time);
+  /// Gives more standard input.
   void Feed(const std::string& bytes) { input_bytes_ += bytes; }
   void CloseInput() { more_input_ = false; }
-  void StopReadingStream() { backend_.set_reading(false); }
   void Terminate() const;
 
   /// Plays on to the end.

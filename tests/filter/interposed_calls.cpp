@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Preloaded into the filter: pauses that pass at once, a clock that stands still but for them, waits
-// on the scheduler's channels that can be shortened, and memory that can be refused. What was asked
-// for is noted, so that a test can hold it against what the filter should ask for.
+// Preloaded into the filter: pauses that pass at once, a clock that stands still but for them,
+// waits on the scheduler's channels that can be shortened, and memory that can be refused. What was
+// asked for is noted, so that a test can hold it against what the filter should ask for.
 //
 // Settings come from the environment:
 //   FILTER_TEST_NOTES       file that every sleep and every wait on a channel is noted in
@@ -38,7 +38,9 @@ unsigned int g_slept = 0;
 int g_sleeps = 0;
 int g_reads = 0;
 
-const char* Setting(const char* name) { return std::getenv(name); }
+const char* Setting(const char* name) {
+  return std::getenv(name);
+}
 
 template <typename Function>
 Function Real(const char* symbol) {
@@ -100,7 +102,7 @@ extern "C" unsigned int sleep(unsigned int seconds) {
   char line[32];
   const int length = std::snprintf(line, sizeof line, "[sleep %u]\n", seconds);
   if (write(STDERR_FILENO, line, static_cast<std::size_t>(length)) != length) {
-    std::abort();
+    Note("standard error does not take a line\n");
   }
   g_slept += seconds;
   const char* term = Setting("FILTER_TEST_TERM_SLEEP");
@@ -194,9 +196,10 @@ void* operator new[](std::size_t bytes) {
   return Real<void* (*)(std::size_t)>("_Znam")(bytes);
 }
 
-void* operator new[](std::size_t bytes, const std::nothrow_t& tag) noexcept {
-  if (RefuseArray(bytes)) {
+void* operator new[](std::size_t bytes, const std::nothrow_t&) noexcept {
+  try {
+    return operator new[](bytes);
+  } catch (const std::bad_alloc&) {
     return nullptr;
   }
-  return Real<void* (*)(std::size_t, const std::nothrow_t&)>("_ZnamRKSt9nothrow_t")(bytes, tag);
 }

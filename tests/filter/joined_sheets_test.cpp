@@ -25,7 +25,9 @@ std::string HalfPages(int count) {
   return RasterStream(pages);
 }
 
-std::string Half(int number) { return ImageData(Pixels::Pattern(kWidth, kHalf, number)); }
+std::string Half(int number) {
+  return ImageData(Pixels::Pattern(kWidth, kHalf, number));
+}
 
 std::string JoinedLog(const Settings& settings, int page) {
   return SheetLog(settings, page, kWidth, kWhole);
@@ -45,9 +47,9 @@ TEST(JoinedSheet, OfALonePageIsPrintedAtTheEndWithAWhiteUpperHalf) {
 
   const Outcome outcome = Print(JoinedJob(1));
 
-  EXPECT_TRUE(SameStream(
-      outcome.stream,
-      StatusRequest() + Sheet(sheet, BlankData(kWidth, kHalf) + Half(1)) + PrintOut()));
+  EXPECT_TRUE(
+      SameStream(outcome.stream,
+                 StatusRequest() + Sheet(sheet, BlankData(kWidth, kHalf) + Half(1)) + PrintOut()));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, kHalfPageProgress) +
                                        Conversion(10, 10, 40, 80) + JoinedLog(sheet, 1)));
   EXPECT_EQ(outcome.status, 0);
@@ -58,11 +60,10 @@ TEST(JoinedSheet, OfTwoPagesHasTheSecondPageAboveTheFirst) {
 
   const Outcome outcome = Print(JoinedJob(2));
 
-  EXPECT_TRUE(SameStream(outcome.stream,
-                         StatusRequest() + Sheet(sheet, Half(2) + Half(1)) + PrintOut()));
+  EXPECT_TRUE(
+      SameStream(outcome.stream, StatusRequest() + Sheet(sheet, Half(2) + Half(1)) + PrintOut()));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, kHalfPageProgress) +
-                                       Conversion(10, 10, 40, 80) +
-                                       PageRead(2, kHalfPageProgress) +
+                                       Conversion(10, 10, 40, 80) + PageRead(2, kHalfPageProgress) +
                                        Conversion(20, 30, 45, 80) + JoinedLog(sheet, 2)));
   EXPECT_EQ(outcome.status, 0);
 }
@@ -77,11 +78,11 @@ TEST(JoinedSheet, OfTwoPagesIsFollowedByOneForTheThird) {
       outcome.stream, StatusRequest() + Sheet(first, Half(2) + Half(1)) +
                           Sheet(second, BlankData(kWidth, kHalf) + Half(3), 1, kFirstSecond + 5) +
                           PrintOut()));
-  EXPECT_TRUE(SameLog(
-      outcome.log, GoodStart() + PageRead(1, kHalfPageProgress) + Conversion(10, 10, 40, 80) +
-                       PageRead(2, kHalfPageProgress) + Conversion(20, 30, 45, 80) +
-                       JoinedLog(first, 2) + PageRead(3, kHalfPageProgress) +
-                       Conversion(30, 30, 50, 100) + JoinedLog(second, 3)));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, kHalfPageProgress) +
+                                       Conversion(10, 10, 40, 80) + PageRead(2, kHalfPageProgress) +
+                                       Conversion(20, 30, 45, 80) + JoinedLog(first, 2) +
+                                       PageRead(3, kHalfPageProgress) +
+                                       Conversion(30, 30, 50, 100) + JoinedLog(second, 3)));
   EXPECT_EQ(outcome.status, 0);
 }
 
@@ -91,15 +92,15 @@ TEST(JoinedSheet, OfFourPagesAreTwo) {
 
   const Outcome outcome = Print(JoinedJob(4));
 
-  EXPECT_TRUE(SameStream(outcome.stream,
-                         StatusRequest() + Sheet(first, Half(2) + Half(1)) +
-                             Sheet(second, Half(4) + Half(3), 1, kFirstSecond + 5) + PrintOut()));
-  EXPECT_TRUE(SameLog(
-      outcome.log,
-      GoodStart() + PageRead(1, kHalfPageProgress) + Conversion(10, 10, 40, 80) +
-          PageRead(2, kHalfPageProgress) + Conversion(20, 30, 45, 80) + JoinedLog(first, 2) +
-          PageRead(3, kHalfPageProgress) + Conversion(30, 30, 50, 100) +
-          PageRead(4, kHalfPageProgress) + Conversion(40, 70, 55, 100) + JoinedLog(second, 4)));
+  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet(first, Half(2) + Half(1)) +
+                                             Sheet(second, Half(4) + Half(3), 1, kFirstSecond + 5) +
+                                             PrintOut()));
+  EXPECT_TRUE(SameLog(outcome.log,
+                      GoodStart() + PageRead(1, kHalfPageProgress) + Conversion(10, 10, 40, 80) +
+                          PageRead(2, kHalfPageProgress) + Conversion(20, 30, 45, 80) +
+                          JoinedLog(first, 2) + PageRead(3, kHalfPageProgress) +
+                          Conversion(30, 30, 50, 100) + PageRead(4, kHalfPageProgress) +
+                          Conversion(40, 70, 55, 100) + JoinedLog(second, 4)));
   EXPECT_EQ(outcome.status, 0);
 }
 
@@ -108,9 +109,9 @@ TEST(JoinedMatteSheet, OfALonePageCarriesItsMattePlane) {
 
   const Outcome outcome = Print(JoinedJob(1, " RQPrintFinish=Matte"));
 
-  EXPECT_TRUE(SameStream(
-      outcome.stream,
-      StatusRequest() + Sheet(sheet, BlankData(kWidth, kHalf) + Half(1)) + PrintOut()));
+  EXPECT_TRUE(
+      SameStream(outcome.stream,
+                 StatusRequest() + Sheet(sheet, BlankData(kWidth, kHalf) + Half(1)) + PrintOut()));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, kHalfPageProgress) +
                                        Conversion(10, 10, 40, 40) + JoinedLog(sheet, 1)));
   EXPECT_EQ(outcome.status, 0);
@@ -122,15 +123,15 @@ TEST(JoinedMatteSheet, TakesTheMattePlaneOfItsFirstPage) {
 
   const Outcome outcome = Print(JoinedJob(4, " RQPrintFinish=Matte"));
 
-  EXPECT_TRUE(SameStream(
-      outcome.stream, StatusRequest() + Sheet(first, Half(2) + Half(1), 1) +
-                          Sheet(second, Half(4) + Half(3), 3, kFirstSecond + 5) + PrintOut()));
-  EXPECT_TRUE(SameLog(
-      outcome.log,
-      GoodStart() + PageRead(1, kHalfPageProgress) + Conversion(10, 10, 40, 40) +
-          PageRead(2, kHalfPageProgress) + Conversion(20, 30, 45, 40) + JoinedLog(first, 2) +
-          PageRead(3, kHalfPageProgress) + Conversion(30, 30, 50, 50) +
-          PageRead(4, kHalfPageProgress) + Conversion(40, 70, 55, 50) + JoinedLog(second, 4)));
+  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet(first, Half(2) + Half(1), 1) +
+                                             Sheet(second, Half(4) + Half(3), 3, kFirstSecond + 5) +
+                                             PrintOut()));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, kHalfPageProgress) +
+                                       Conversion(10, 10, 40, 40) + PageRead(2, kHalfPageProgress) +
+                                       Conversion(20, 30, 45, 40) + JoinedLog(first, 2) +
+                                       PageRead(3, kHalfPageProgress) + Conversion(30, 30, 50, 50) +
+                                       PageRead(4, kHalfPageProgress) + Conversion(40, 70, 55, 50) +
+                                       JoinedLog(second, 4)));
   EXPECT_EQ(outcome.status, 0);
 }
 
@@ -141,12 +142,12 @@ TEST(JoinedRates, WrapAtAByte) {
 
   const Outcome outcome = Print(job);
 
-  EXPECT_TRUE(SameStream(outcome.stream,
-                         StatusRequest() + Sheet(sheet, Half(2) + Half(1)) + PrintOut()));
+  EXPECT_TRUE(
+      SameStream(outcome.stream, StatusRequest() + Sheet(sheet, Half(2) + Half(1)) + PrintOut()));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, kHalfPageProgress) +
                                        Conversion(200, 200, 130, 4) +
-                                       PageRead(2, kHalfPageProgress) +
-                                       Conversion(100, 44, 7, 4) + JoinedLog(sheet, 2)));
+                                       PageRead(2, kHalfPageProgress) + Conversion(100, 44, 7, 4) +
+                                       JoinedLog(sheet, 2)));
 }
 
 TEST(LoneLastPage, ThatThePrinterRefusesStillEndsInAPrintOut) {
@@ -156,16 +157,16 @@ TEST(LoneLastPage, ThatThePrinterRefusesStillEndsInAPrintOut) {
 
   const Outcome outcome = Print(job);
 
-  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + StatusRequest() +
-                                             ReadinessQuery(sheet) + PrintOut()));
-  EXPECT_TRUE(SameLog(outcome.log,
-                      GoodStart() + PageRead(1, kHalfPageProgress) + Conversion(10, 10, 40, 80) +
-                          StatusExchange() + GoodState() + kCleaned + kExamine +
-                          ReadinessExchange(sheet, EnableReply(0x00, 0x01)) +
-                          "DEBUG: CMD_GET_ENABLE[00 + 01]\n"
-                          "ERROR: pagesize-inkribbon-unmuch 0x0001\n"
-                          "DEBUG: ERROR CMD_GET_ENABLE[00 + 01]\n"
-                          "[sleep 1]\n"));
+  EXPECT_TRUE(SameStream(outcome.stream,
+                         StatusRequest() + StatusRequest() + ReadinessQuery(sheet) + PrintOut()));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, kHalfPageProgress) +
+                                       Conversion(10, 10, 40, 80) + StatusExchange() + GoodState() +
+                                       kCleaned + kExamine +
+                                       ReadinessExchange(sheet, EnableReply(0x00, 0x01)) +
+                                       "DEBUG: CMD_GET_ENABLE[00 + 01]\n"
+                                       "ERROR: pagesize-inkribbon-unmuch 0x0001\n"
+                                       "DEBUG: ERROR CMD_GET_ENABLE[00 + 01]\n"
+                                       "[sleep 1]\n"));
   EXPECT_EQ(outcome.status, 0);
 }
 
@@ -177,10 +178,10 @@ TEST(LoneLastPage, OnAPrinterInErrorStillEndsInAPrintOut) {
   const Outcome outcome = Print(job);
 
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + StatusRequest() + PrintOut()));
-  EXPECT_TRUE(SameLog(outcome.log,
-                      GoodStart() + PageRead(1, kHalfPageProgress) + Conversion(10, 10, 40, 80) +
-                          StatusExchange(reply) +
-                          KnownError("0x2665", "com.corvantiel-error0008_2665") + kStop));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, kHalfPageProgress) +
+                                       Conversion(10, 10, 40, 80) + StatusExchange(reply) +
+                                       KnownError("0x2665", "com.corvantiel-error0008_2665") +
+                                       kStop));
   EXPECT_EQ(outcome.status, 0);
 }
 
@@ -192,9 +193,8 @@ TEST(JoinedSheet, ThatFailsAtItsSecondPageIsNotPrinted) {
 
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest()));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, kHalfPageProgress) +
-                                       Conversion(10, 10, 40, 80) +
-                                       PageRead(2, kHalfPageProgress) + "DEBUG: Params=" +
-                                       kDefaultParams +
+                                       Conversion(10, 10, 40, 80) + PageRead(2, kHalfPageProgress) +
+                                       "DEBUG: Params=" + kDefaultParams +
                                        "\n"
                                        "DEBUG: MVChangeImage()=12\n"
                                        "ERROR: Unable to convert image (12)\n"));

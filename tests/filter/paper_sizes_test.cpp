@@ -17,7 +17,9 @@ std::vector<Paper> PapersOfOnePage() {
   return papers;
 }
 
-std::string Choice(const testing::TestParamInfo<Paper>& paper) { return paper.param.choice; }
+std::string Choice(const testing::TestParamInfo<Paper>& paper) {
+  return paper.param.choice;
+}
 
 class PaperSize : public testing::TestWithParam<Paper> {};
 
@@ -26,11 +28,11 @@ TEST_P(PaperSize, PrintsAGlossPageAsOneSheet) {
   const Paper& paper = GetParam();
   const Pixels page = Pixels::Pattern(paper.page_width, paper.page_height);
 
-  const Outcome outcome = Print({.input = RasterStream({RasterPage(page)}),
-                                 .options = "PageSize="s + paper.choice});
+  const Outcome outcome =
+      Print({.input = RasterStream({RasterPage(page)}), .options = "PageSize="s + paper.choice});
 
-  EXPECT_TRUE(SameStream(outcome.stream,
-                         StatusRequest() + Sheet(settings, ImageData(page)) + PrintOut()));
+  EXPECT_TRUE(
+      SameStream(outcome.stream, StatusRequest() + Sheet(settings, ImageData(page)) + PrintOut()));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + WholePage(settings)));
   EXPECT_EQ(outcome.status, 0);
 }
@@ -43,8 +45,8 @@ TEST_P(PaperSize, PrintsAMattePageWithItsMattePlane) {
   const Outcome outcome = Print({.input = RasterStream({RasterPage(page)}),
                                  .options = "RQPrintFinish=Matte PageSize="s + paper.choice});
 
-  EXPECT_TRUE(SameStream(outcome.stream,
-                         StatusRequest() + Sheet(settings, ImageData(page)) + PrintOut()));
+  EXPECT_TRUE(
+      SameStream(outcome.stream, StatusRequest() + Sheet(settings, ImageData(page)) + PrintOut()));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + WholePage(settings)));
   EXPECT_EQ(outcome.status, 0);
 }

@@ -15,12 +15,12 @@ struct Paper {
   const char* choice;  ///< the PPD's PageSize choice
   int page_width;      ///< dots of a raster page that fills the image area
   int page_height;
-  Bytes4 sheet;         ///< job header, offset 6: width and height of the sheet
-  Bytes4 two_up;        ///< job header, offset 15: two prints on a sheet
-  Bytes4 place;         ///< image header, offset 6: left and top of the image
-  Bytes4 image;         ///< image header, offset 10: width and height of the image sent
-  Bytes4 matte;         ///< image header, offset 20: width and height of the matte plane
-  int matte_width;      ///< the same in dots
+  Bytes4 sheet;     ///< job header, offset 6: width and height of the sheet
+  Bytes4 two_up;    ///< job header, offset 15: two prints on a sheet
+  Bytes4 place;     ///< image header, offset 6: left and top of the image
+  Bytes4 image;     ///< image header, offset 10: width and height of the image sent
+  Bytes4 matte;     ///< image header, offset 20: width and height of the matte plane
+  int matte_width;  ///< the same in dots
   int matte_height;
 };
 

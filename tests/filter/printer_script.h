@@ -25,12 +25,15 @@ struct SideReply {
 
 /// The printer's answer to one status request or readiness query.
 struct Reply {
-  std::vector<std::string> pieces = {};    ///< each is sent once the filter has read the one before
+  std::vector<std::string> pieces = {};  ///< each is sent once the filter has read the one before
   bool then_close_back_channel = false;
-  bool then_close_stream = false;  ///< the backend stops reading the print stream
+  bool then_close_stream = false;  ///< the backend takes no more of the print stream
+  bool then_hold_stream = false;   ///< the backend stops reading, until the job is finished
 };
 
-inline Reply Answer(std::string bytes) { return {.pieces = {std::move(bytes)}}; }
+inline Reply Answer(std::string bytes) {
+  return {.pieces = {std::move(bytes)}};
+}
 inline const Reply kSilence = {};
 
 /// A status reply with the given error number in its place.

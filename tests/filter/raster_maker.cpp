@@ -44,9 +44,9 @@ Pixels Pixels::Pattern(int width, int height, int number) {
 }
 
 Pixels Pixels::White(int width, int height) {
-  return {width, height,
-          std::string(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 3,
-                      '\xFF')};
+  return {
+      width, height,
+      std::string(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 3, '\xFF')};
 }
 
 Pixels Pixels::On(int other_width, int other_height) const {
@@ -69,16 +69,19 @@ RasterPage::RasterPage(const Pixels& pixels, unsigned copies)
 RasterPage::RasterPage(unsigned width, unsigned height, unsigned bits_per_pixel,
                        unsigned bytes_per_line, std::string page_lines)
     : lines(std::move(page_lines)) {
+  constexpr unsigned kBitsPerColor = 8;
   header.NumCopies = 1;
   header.HWResolution[0] = header.HWResolution[1] = 300;
   header.cupsWidth = width;
   header.cupsHeight = height;
   header.cupsBitsPerPixel = bits_per_pixel;
-  header.cupsBitsPerColor = bits_per_pixel == 24 ? 8 : bits_per_pixel;
+  header.cupsBitsPerColor = std::min(bits_per_pixel, kBitsPerColor);
   header.cupsBytesPerLine = bytes_per_line;
   header.cupsColorOrder = CUPS_ORDER_CHUNKED;
-  header.cupsColorSpace = bits_per_pixel == 24 ? CUPS_CSPACE_RGB : CUPS_CSPACE_W;
-  header.cupsNumColors = bits_per_pixel == 24 ? 3 : 1;
+  header.cupsNumColors = bits_per_pixel / header.cupsBitsPerColor;
+  header.cupsColorSpace = header.cupsNumColors == 1   ? CUPS_CSPACE_W
+                          : header.cupsNumColors == 3 ? CUPS_CSPACE_RGB
+                                                      : CUPS_CSPACE_CMYK;
 }
 
 std::string RasterStream(const std::vector<RasterPage>& pages, cups_mode_t mode) {

@@ -36,8 +36,7 @@ TEST_P(RefusedSheet, IsReportedAndNotSent) {
       Print({.input = SmallRaster(), .printer = {.readiness = {Answer(reply)}}});
 
   EXPECT_TRUE(SameLog(outcome.log, UpToExamination() + ReadinessExchange(kSettings, reply) +
-                                       refusal.lines + "DEBUG: " + refusal.text +
-                                       "\n[sleep 1]\n"));
+                                       refusal.lines + "DEBUG: " + refusal.text + "\n[sleep 1]\n"));
   EXPECT_TRUE(
       SameStream(outcome.stream, StatusRequest() + StatusRequest() + ReadinessQuery(kSettings)));
   EXPECT_EQ(outcome.status, 1);
@@ -47,16 +46,15 @@ TEST_P(RefusedSheet, IsReportedTheSameWayAfterThePrinterWasBusy) {
   const Refusal& refusal = GetParam();
   const std::string reply = EnableReply(refusal.high, refusal.low);
 
-  const Outcome outcome = Print(
-      {.input = SmallRaster(), .printer = {.readiness = {Answer(kBusy), Answer(reply)}}});
+  const Outcome outcome =
+      Print({.input = SmallRaster(), .printer = {.readiness = {Answer(kBusy), Answer(reply)}}});
 
   EXPECT_TRUE(SameLog(outcome.log, UpToExamination() + ReadinessExchange(kSettings, kBusy) +
                                        kBusyPass + ReadinessExchange(kSettings, reply) +
-                                       refusal.lines + "DEBUG: " + refusal.text +
-                                       "\n[sleep 1]\n"));
-  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + StatusRequest() +
-                                             ReadinessQuery(kSettings) +
-                                             ReadinessQuery(kSettings)));
+                                       refusal.lines + "DEBUG: " + refusal.text + "\n[sleep 1]\n"));
+  EXPECT_TRUE(SameStream(
+      outcome.stream,
+      StatusRequest() + StatusRequest() + ReadinessQuery(kSettings) + ReadinessQuery(kSettings)));
   EXPECT_EQ(outcome.status, 1);
 }
 
@@ -126,8 +124,7 @@ TEST(SecondSheet, ThatIsRefusedEndsTheJobWithoutAPrintOut) {
   const std::string refusal = EnableReply(0x02, 0x01);
 
   const Outcome outcome =
-      Print({.input = SmallRaster(3),
-             .printer = {.readiness = {Answer(kReady), Answer(refusal)}}});
+      Print({.input = SmallRaster(3), .printer = {.readiness = {Answer(kReady), Answer(refusal)}}});
 
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet(kSettings, SmallImage(1)) +
                                              StatusRequest() + ReadinessQuery(kSettings)));
@@ -143,8 +140,7 @@ TEST(SecondSheet, ThatIsRefusedEndsTheJobWithoutAPrintOut) {
 }
 
 TEST(FailedExchange, OnTheFirstQueryIsNotClassified) {
-  const Outcome outcome =
-      Print({.input = SmallRaster(), .printer = {.readiness = {kSilence}}});
+  const Outcome outcome = Print({.input = SmallRaster(), .printer = {.readiness = {kSilence}}});
 
   EXPECT_TRUE(SameLog(outcome.log, UpToExamination() + ReadinessQuestion(kSettings) +
                                        "DEBUG: cupsBackChannelRead() failed. ret=-1\n"
@@ -156,8 +152,8 @@ TEST(FailedExchange, OnTheFirstQueryIsNotClassified) {
 }
 
 TEST(FailedExchange, WhileThePrinterIsBusyIsAProtocolError) {
-  const Outcome outcome = Print(
-      {.input = SmallRaster(), .printer = {.readiness = {Answer(kBusy), kSilence}}});
+  const Outcome outcome =
+      Print({.input = SmallRaster(), .printer = {.readiness = {Answer(kBusy), kSilence}}});
 
   EXPECT_TRUE(SameLog(outcome.log, UpToExamination() + ReadinessExchange(kSettings, kBusy) +
                                        kBusyPass + ReadinessQuestion(kSettings) +
@@ -186,11 +182,11 @@ TEST(BusyPrinter, IsAskedAgainAfterTwoSecondsEach) {
       Print({.input = SmallRaster(),
              .printer = {.readiness = {Answer(kBusy), Answer(kBusy), Answer(kReady)}}});
 
-  EXPECT_TRUE(SameLog(
-      outcome.log, UpToExamination() + ReadinessExchange(kSettings, kBusy) + kBusyPass +
-                       ReadinessExchange(kSettings, kBusy) + kBusyPass +
-                       ReadinessExchange(kSettings, kReady) + "DEBUG: CMD_GET_ENABLE[00 + 00]\n" +
-                       Transfer(1, 1550, 1082) + SheetDone(1)));
+  EXPECT_TRUE(SameLog(outcome.log, UpToExamination() + ReadinessExchange(kSettings, kBusy) +
+                                       kBusyPass + ReadinessExchange(kSettings, kBusy) + kBusyPass +
+                                       ReadinessExchange(kSettings, kReady) +
+                                       "DEBUG: CMD_GET_ENABLE[00 + 00]\n" +
+                                       Transfer(1, 1550, 1082) + SheetDone(1)));
   const std::string query = ReadinessQuery(kSettings);
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + StatusRequest() + query + query + query +
                                              JobHeader(kSettings) +
@@ -218,8 +214,8 @@ TEST(BusyPrinter, IsGivenUpAfterThreeMinutes) {
                                        "ERROR: memory-timeout 0x0100\n"
                                        "DEBUG: Timeout Error\n"
                                        "[sleep 1]\n"));
-  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + StatusRequest() +
-                                             Repeated(ReadinessQuery(kSettings), 92)));
+  EXPECT_TRUE(SameStream(
+      outcome.stream, StatusRequest() + StatusRequest() + Repeated(ReadinessQuery(kSettings), 92)));
   EXPECT_EQ(outcome.status, 1);
 }
 
@@ -229,11 +225,10 @@ TEST(BusyPrinter, ThatIsReadyAtTheLastQueryPrints) {
   const Outcome outcome = Print(
       {.input = SmallRaster(), .printer = {.readiness = std::deque<Reply>(91, Answer(kBusy))}});
 
-  EXPECT_TRUE(SameLog(outcome.log,
-                      UpToExamination() + Repeated(busy + kBusyPass, 91) +
-                          ReadinessExchange(kSettings, kReady) +
-                          "DEBUG: CMD_GET_ENABLE[00 + 00]\n" + Transfer(1, 1550, 1082) +
-                          SheetDone(1)));
+  EXPECT_TRUE(SameLog(outcome.log, UpToExamination() + Repeated(busy + kBusyPass, 91) +
+                                       ReadinessExchange(kSettings, kReady) +
+                                       "DEBUG: CMD_GET_ENABLE[00 + 00]\n" +
+                                       Transfer(1, 1550, 1082) + SheetDone(1)));
   EXPECT_EQ(outcome.status, 0);
 }
 
@@ -243,12 +238,10 @@ TEST(BusyPrinter, StartsAFreshWaitWithEachSheet) {
   replies.push_back(Answer(kReady));
   replies.insert(replies.end(), 60, Answer(kBusy));
 
-  const Outcome outcome =
-      Print({.input = SmallRaster(2), .printer = {.readiness = replies}});
+  const Outcome outcome = Print({.input = SmallRaster(2), .printer = {.readiness = replies}});
 
   const std::string sheet = StatusExchange() + GoodState() + kCleaned + kExamine +
-                            Repeated(busy + kBusyPass, 60) +
-                            ReadinessExchange(kSettings, kReady) +
+                            Repeated(busy + kBusyPass, 60) + ReadinessExchange(kSettings, kReady) +
                             "DEBUG: CMD_GET_ENABLE[00 + 00]\n";
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage(1) + sheet + Transfer(1, 1550, 1082) +
                                        SheetDone(1) + SmallPage(2) + sheet +

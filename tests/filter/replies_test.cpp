@@ -14,7 +14,9 @@ namespace {
 
 const Settings kSettings{};
 
-Reply Pieces(std::vector<std::string> pieces) { return {.pieces = std::move(pieces)}; }
+Reply Pieces(std::vector<std::string> pieces) {
+  return {.pieces = std::move(pieces)};
+}
 
 std::vector<std::string> SingleBytes(const std::string& bytes) {
   std::vector<std::string> result;
@@ -42,8 +44,8 @@ std::string AllWell(const std::string& reply) {
 
 void ExpectPrinted(const Outcome& outcome, const std::string& log) {
   EXPECT_TRUE(SameLog(outcome.log, log));
-  EXPECT_TRUE(SameStream(outcome.stream,
-                         StatusRequest() + Sheet(kSettings, SmallImage()) + PrintOut()));
+  EXPECT_TRUE(
+      SameStream(outcome.stream, StatusRequest() + Sheet(kSettings, SmallImage()) + PrintOut()));
   EXPECT_EQ(outcome.status, 0);
 }
 
@@ -54,8 +56,8 @@ TEST(StatusReply, IsGatheredFromTwoPieces) {
 }
 
 TEST(StatusReply, IsGatheredFromSingleBytes) {
-  const Outcome outcome = Print(
-      {.input = SmallRaster(), .printer = {.status = {Pieces(SingleBytes(kGood))}}});
+  const Outcome outcome =
+      Print({.input = SmallRaster(), .printer = {.status = {Pieces(SingleBytes(kGood))}}});
 
   ExpectPrinted(outcome, AllWell(kGood));
 }
@@ -82,8 +84,8 @@ TEST(StatusReply, OfFiveHundredAndTwelveBytesFillsTheRoom) {
 TEST(StatusReply, ThatOverflowsTheRoomLeavesItsRestToTheNextExchange) {
   const std::string reply = kGood + std::string(497, 'z') + kGood;
 
-  const Outcome outcome = Print({.input = SmallRaster(),
-                                 .printer = {.status = {Answer(reply), kSilence}}});
+  const Outcome outcome =
+      Print({.input = SmallRaster(), .printer = {.status = {Answer(reply), kSilence}}});
 
   ExpectPrinted(outcome, AllWell(reply.substr(0, 512)));
 }
@@ -91,18 +93,17 @@ TEST(StatusReply, ThatOverflowsTheRoomLeavesItsRestToTheNextExchange) {
 TEST(StatusReply, HasNoSignInItsErrorGroup) {
   const std::string reply = StatusReply(0x90, 0x81);
 
-  const Outcome outcome =
-      Print({.input = SmallRaster(), .printer = {.status = {Answer(reply)}}});
+  const Outcome outcome = Print({.input = SmallRaster(), .printer = {.status = {Answer(reply)}}});
 
-  EXPECT_TRUE(SameLog(outcome.log, kBanner + kTwoWays + StatusExchange(reply) +
-                                       UnknownError("0x9081") + kStop));
+  EXPECT_TRUE(SameLog(outcome.log,
+                      kBanner + kTwoWays + StatusExchange(reply) + UnknownError("0x9081") + kStop));
   EXPECT_EQ(outcome.status, 1);
 }
 
 TEST(StatusReply, ThatEndsWithTheBackChannelFailsAtOnce) {
-  const Outcome outcome = Print(
-      {.input = SmallRaster(),
-       .printer = {.status = {{.pieces = {"\x11\x22"}, .then_close_back_channel = true}}}});
+  const Outcome outcome =
+      Print({.input = SmallRaster(),
+             .printer = {.status = {{.pieces = {"\x11\x22"}, .then_close_back_channel = true}}}});
 
   EXPECT_TRUE(SameLog(outcome.log, kBanner + kTwoWays + FailedStatusExchange(0) +
                                        UnknownError("UNAVAILABLE") + kStop));
@@ -166,8 +167,8 @@ TEST(ReadinessReply, IsTakenInUpToTheRoomThereIs) {
 }
 
 TEST(ReadinessReply, IsReadAgainAfterEmptyReads) {
-  const Outcome outcome = Print({.input = SmallRaster(),
-                                 .environment = {{"FILTER_TEST_READS", "real real 0 0 0"}}});
+  const Outcome outcome =
+      Print({.input = SmallRaster(), .environment = {{"FILTER_TEST_READS", "real real 0 0 0"}}});
 
   ExpectPrinted(outcome, BeforeExamination() + Rest(kReady));
 }
@@ -191,15 +192,14 @@ class DrainAnswer : public testing::TestWithParam<DrainCase> {};
 
 TEST_P(DrainAnswer, IsLoggedAndTheReplyReadAllTheSame) {
   const SideReply answer{.status = static_cast<cups_sc_status_t>(GetParam().status)};
-  const std::string line =
-      "DEBUG: CUPS_SC_CMD_DRAIN_OUTPUT=" + std::string(GetParam().line) + "\n";
+  const std::string line = "DEBUG: CUPS_SC_CMD_DRAIN_OUTPUT=" + std::string(GetParam().line) + "\n";
   std::string log = BeforeExamination() + Rest(kReady);
   for (std::size_t at = 0; (at = log.find(kDrained, at)) != std::string::npos;) {
     log.replace(at, kDrained.size(), line);
   }
 
-  ExpectPrinted(
-      Print({.input = SmallRaster(), .printer = {.drains = {answer, answer, answer}}}), log);
+  ExpectPrinted(Print({.input = SmallRaster(), .printer = {.drains = {answer, answer, answer}}}),
+                log);
 }
 
 const DrainCase kDrainCases[] = {

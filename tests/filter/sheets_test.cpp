@@ -16,40 +16,37 @@ const Settings kMattePage{.finish = kMatte};
 TEST(TwoPages, AreTwoSheetsAndOnePrintOut) {
   const Outcome outcome = Print({.input = SmallRaster(2)});
 
-  EXPECT_TRUE(SameStream(outcome.stream,
-                         StatusRequest() + Sheet(kGloss, SmallImage(1)) +
-                             Sheet(kGloss, SmallImage(2), 1, kFirstSecond + 5) + PrintOut()));
+  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet(kGloss, SmallImage(1)) +
+                                             Sheet(kGloss, SmallImage(2), 1, kFirstSecond + 5) +
+                                             PrintOut()));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage(1) + SmallSheet(kGloss, 1) +
                                        SmallPage(2) + SmallSheet(kGloss, 2)));
   EXPECT_EQ(outcome.status, 0);
 }
 
 TEST(TwoMattePages, EachCarryTheirOwnMattePlane) {
-  const Outcome outcome =
-      Print({.input = SmallRaster(2), .options = "RQPrintFinish=Matte"});
+  const Outcome outcome = Print({.input = SmallRaster(2), .options = "RQPrintFinish=Matte"});
 
-  EXPECT_TRUE(
-      SameStream(outcome.stream,
-                 StatusRequest() + Sheet(kMattePage, SmallImage(1), 1) +
-                     Sheet(kMattePage, SmallImage(2), 2, kFirstSecond + 5) + PrintOut()));
+  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet(kMattePage, SmallImage(1), 1) +
+                                             Sheet(kMattePage, SmallImage(2), 2, kFirstSecond + 5) +
+                                             PrintOut()));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage(1) + SmallSheet(kMattePage, 1) +
                                        SmallPage(2) + SmallSheet(kMattePage, 2)));
   EXPECT_EQ(outcome.status, 0);
 }
 
 TEST(Rates, StartAfreshWithEachSheet) {
-  const Outcome outcome = Print(
-      {.input = SmallRaster(2), .environment = {{"FILTER_TEST_RATES", "10 40 20 45"}}});
+  const Outcome outcome =
+      Print({.input = SmallRaster(2), .environment = {{"FILTER_TEST_RATES", "10 40 20 45"}}});
 
   const Settings first = kGloss.WithRates(10, 40);
   const Settings second = kGloss.WithRates(20, 45);
-  EXPECT_TRUE(SameStream(outcome.stream,
-                         StatusRequest() + Sheet(first, SmallImage(1)) +
-                             Sheet(second, SmallImage(2), 1, kFirstSecond + 5) + PrintOut()));
-  EXPECT_TRUE(SameLog(outcome.log,
-                      GoodStart() + PageRead(1, "0") + Conversion(10, 10, 40, 40) +
-                          SmallSheet(first, 1) + PageRead(2, "0") + Conversion(20, 20, 45, 45) +
-                          SmallSheet(second, 2)));
+  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet(first, SmallImage(1)) +
+                                             Sheet(second, SmallImage(2), 1, kFirstSecond + 5) +
+                                             PrintOut()));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, "0") + Conversion(10, 10, 40, 40) +
+                                       SmallSheet(first, 1) + PageRead(2, "0") +
+                                       Conversion(20, 20, 45, 45) + SmallSheet(second, 2)));
 }
 
 TEST(PrinterInError, AtTheSecondSheetEndsTheJobWithoutAPrintOut) {
@@ -59,8 +56,8 @@ TEST(PrinterInError, AtTheSecondSheetEndsTheJobWithoutAPrintOut) {
       Print({.input = SmallRaster(3),
              .printer = {.status = {Answer(kGood), Answer(kGood), Answer(reply)}}});
 
-  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet(kGloss, SmallImage(1)) +
-                                             StatusRequest()));
+  EXPECT_TRUE(
+      SameStream(outcome.stream, StatusRequest() + Sheet(kGloss, SmallImage(1)) + StatusRequest()));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage(1) + SmallSheet(kGloss, 1) +
                                        SmallPage(2) + StatusExchange(reply) +
                                        KnownError("0x2110", "com.corvantiel-error0007_2110") +
@@ -69,8 +66,8 @@ TEST(PrinterInError, AtTheSecondSheetEndsTheJobWithoutAPrintOut) {
 }
 
 TEST(SilentPrinter, AtTheFirstSheetEndsTheJobWithoutAPrintOut) {
-  const Outcome outcome = Print(
-      {.input = SmallRaster(), .printer = {.status = {Answer(kGood), kSilence}}});
+  const Outcome outcome =
+      Print({.input = SmallRaster(), .printer = {.status = {Answer(kGood), kSilence}}});
 
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + StatusRequest()));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage(1) + FailedStatusExchange() +
@@ -79,8 +76,8 @@ TEST(SilentPrinter, AtTheFirstSheetEndsTheJobWithoutAPrintOut) {
 }
 
 TEST(TimeStamp, OfALeapSecondIsTheLastOrdinaryOne) {
-  const Outcome outcome = Print(
-      {.input = SmallRaster(), .environment = {{"FILTER_TEST_CLOCK", "2026 3 4 5 6 60"}}});
+  const Outcome outcome =
+      Print({.input = SmallRaster(), .environment = {{"FILTER_TEST_CLOCK", "2026 3 4 5 6 60"}}});
 
   const std::string sheet = Sheet(kGloss, SmallImage(), 1, 59);
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + sheet + PrintOut()));
@@ -92,8 +89,7 @@ TEST(TimeStamp, CountsMonthsFromOne) {
 
   const std::size_t image_header = 8 + 8 + 512 + 512;
   ASSERT_GE(outcome.stream.size(), image_header + 512);
-  EXPECT_EQ(outcome.stream.substr(image_header + 32, 8),
-            "\x07\xCF\x0C\x1F\x17\x3A\x3B\x00"s);
+  EXPECT_EQ(outcome.stream.substr(image_header + 32, 8), "\x07\xCF\x0C\x1F\x17\x3A\x3B\x00"s);
 }
 
 /// The log of a job of one sheet whose default destination makes `cleaning` be written.

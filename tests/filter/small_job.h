@@ -14,7 +14,9 @@
 
 namespace filter_test {
 
-inline Pixels SmallPixels(int number = 1) { return Pixels::Pattern(10, 4, number); }
+inline Pixels SmallPixels(int number = 1) {
+  return Pixels::Pattern(10, 4, number);
+}
 
 /// A stream of so many small pages, patterns 1, 2, …
 inline std::string SmallRaster(int pages = 1) {
