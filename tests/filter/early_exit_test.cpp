@@ -125,7 +125,7 @@ const BidiCase kBidiCases[] = {
     {"BadMessage", Says(5), "CUPS_SC_STATUS_BAD_MESSAGE(5)"},
     {"TooBig", Says(6), "CUPS_SC_STATUS_TOO_BIG(6)"},
     {"NotImplemented", Says(7), "CUPS_SC_STATUS_NOT_IMPLEMENTED(7)"},
-    {"StatusWithoutAName", Says(8), "UNKNOWN(8)"},
+    {"StatusWithoutAName", {.frame = "\x03\x08\x00\x01\x01"s}, "UNKNOWN(8)"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Reply, NoTwoWays, testing::ValuesIn(kBidiCases),

@@ -191,7 +191,7 @@ struct DrainCase {
 class DrainAnswer : public testing::TestWithParam<DrainCase> {};
 
 TEST_P(DrainAnswer, IsLoggedAndTheReplyReadAllTheSame) {
-  const SideReply answer{.status = static_cast<cups_sc_status_t>(GetParam().status)};
+  const SideReply answer{.frame = "\x02"s + static_cast<char>(GetParam().status) + "\0\0"s};
   const std::string line = "DEBUG: CUPS_SC_CMD_DRAIN_OUTPUT=" + std::string(GetParam().line) + "\n";
   std::string log = BeforeExamination() + Rest(kReady);
   for (std::size_t at = 0; (at = log.find(kDrained, at)) != std::string::npos;) {
@@ -210,7 +210,7 @@ const DrainCase kDrainCases[] = {
     {"BadMessage", 5, "CUPS_SC_STATUS_BAD_MESSAGE(5)"},
     {"TooBig", 6, "CUPS_SC_STATUS_TOO_BIG(6)"},
     {"NotImplemented", 7, "CUPS_SC_STATUS_NOT_IMPLEMENTED(7)"},
-    {"WithoutAName", 9, "UNKNOWN(9)"},
+    {"WithoutAName", 0x7F, "UNKNOWN(127)"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Status, DrainAnswer, testing::ValuesIn(kDrainCases),
