@@ -128,7 +128,7 @@ stop_all() {
   [ -z "${sheets:-}" ] || rm -rf "$sheets"
 }
 
-# Shows the filter's progress until the job has ended, and sets $alerts to how it ended.
+# Shows the filter's progress until the job has ended, and sets $state to how it ended.
 follow_job() {
   local job=$1 shown='' line tries
   for ((tries = 0; tries < 1800; ++tries)); do
@@ -138,17 +138,17 @@ follow_job() {
       echo "  $line"
       shown=$line
     fi
-    alerts=$(scheduler_job_alerts "$job")
-    case $alerts in
-      *completed* | *cancel* | *abort* | *stopped* | *error*) return ;;
+    state=$(scheduler_job_state "$job")
+    case $state in
+      completed | canceled | aborted | stopped) return ;;
     esac
     sleep 0.2
   done
-  alerts='no end within six minutes'
+  state='no end within six minutes'
 }
 
 explain_failure() {
-  echo "The job failed: ${alerts:-unknown}" >&2
+  echo "The job failed: ${state:-unknown}" >&2
   echo "The queue says:" >&2
   lpstat -l -p TQR7 >&2
   echo "The last lines of the scheduler's log:" >&2
@@ -184,10 +184,10 @@ print_photo() {
     -- "$photo") || fail "lp did not take the job"
   job=$(sed -n 's/^request id is \([^ ]*\) .*/\1/p' <<<"$request")
   follow_job "$job"
-  case $alerts in
-    *job-completed-successfully*) ;;
-    *) explain_failure && return 1 ;;
-  esac
+  if [ "$state" != completed ]; then
+    explain_failure
+    return 1
+  fi
   keep_sheets || {
     explain_failure
     fail "the printer printed no sheet"

@@ -8,7 +8,7 @@
 #   scheduler_start BUILD            then SCHEDULER_DIR is the folder, and lp, lpstat, cancel, …
 #                                    of this shell talk to the private scheduler
 #   scheduler_add_queue NAME URI …   a queue with the build's PPD; more words go to lpadmin
-#   scheduler_job_alerts JOB         the job's state reasons, as lpstat words them
+#   scheduler_job_state JOB          pending, held, processing, stopped, canceled, aborted, completed
 #   scheduler_stop                   ends it with all it started, and removes the folder
 #
 # Set SCHEDULER_FILTER_PRELOAD to a library to have the filter, and nothing else, run with it.
@@ -101,6 +101,7 @@ scheduler_wait_until_ready() {
 
 scheduler_start() {
   local build=$1
+  SCHEDULER_BUILD=$build
   # /tmp whatever TMPDIR says: the path of a socket is at most some 100 characters long.
   SCHEDULER_DIR=$(mktemp -d /tmp/tqr7-scheduler.XXXXXX) || return 1
   # Filters of a scheduler that runs as root run as lp, and must get in.
@@ -126,10 +127,8 @@ scheduler_add_queue() {
     2> >(grep -v 'deprecated' >&2)
 }
 
-scheduler_job_alerts() {
-  lpstat -W all -l -o | awk -v job="$1" '
-    /^[^ \t]/ { mine = ($1 == job) }
-    mine && $1 == "Alerts:" { $1 = ""; sub(/^ /, ""); print }'
+scheduler_job_state() {
+  "$SCHEDULER_BUILD/job-state" "$1"
 }
 
 # The scheduler ends its filters and backends itself, within moments.

@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: Apache-2.0
+# A printer that is busy at first is asked again until it is ready, and then prints.
+# shellcheck source=tests/system/system_test.sh
+. "$(dirname "${BASH_SOURCE[0]}")/system_test.sh"
+
+add_printer slow --busy 3
+picture "$work/photo.png" 1852 1232
+print_job slow "${plain[@]}" "$work/photo.png"
+expect_completed "$JOB"
+
+expect_equal 'busy answers' 3 "$(log_count 'CMD_GET_ENABLE[01 + 00]')"
+expect_equal 'ready answers' 1 "$(log_count 'CMD_GET_ENABLE[00 + 00]')"
+read -ra dots <<<"$(quarters_of 0 0 1852 1232 c82828 28a03c 283cb4 e6c828)"
+expect_sheet "$work/slow/sheet-0001.png" 1852 1232 "${dots[@]}"
+
+expect_no_protocol_errors
+finish
