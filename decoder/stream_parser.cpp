@@ -20,7 +20,8 @@ std::string hex_word(std::uint16_t value) {
 std::string code_text(std::span<const std::uint8_t> bytes) {
   std::string text;
   for (const std::uint8_t byte : bytes) {
-    text += (text.empty() ? "" : " ") + hex_byte(byte).substr(2);
+    text += text.empty() ? "" : " ";
+    text += hex_byte(byte).substr(2);
   }
   return text;
 }
@@ -28,7 +29,8 @@ std::string code_text(std::span<const std::uint8_t> bytes) {
 std::string all_codes() {
   std::string text;
   for (const CommandCode& code : command_codes()) {
-    text += (text.empty() ? "" : ", ") + code_text(code.bytes);
+    text += text.empty() ? "" : ", ";
+    text += code_text(code.bytes);
   }
   return text;
 }

@@ -134,6 +134,11 @@ std::uint16_t PrinterProcess::Port() {
   return port_;
 }
 
+void PrinterProcess::CloseOutput() {
+  ::close(outputEnd_);
+  outputEnd_ = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
+}
+
 void PrinterProcess::Signal(int number) const {
   ::kill(pid_, number);
 }

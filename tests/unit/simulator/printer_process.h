@@ -47,6 +47,9 @@ class PrinterProcess {
   /// All lines so far, each ending in a newline.
   const std::string& Output() const { return output_; }
 
+  /// Goes away as a reader of the lines: what the printer says from now on cannot be written.
+  void CloseOutput();
+
   /// Sends a signal.
   void Signal(int number) const;
 

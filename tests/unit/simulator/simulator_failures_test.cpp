@@ -63,4 +63,14 @@ TEST(Failures, OfTheRecordEndTheRecording) {
   EXPECT_TRUE(std::filesystem::exists(folder.Path() / "sheet-0001.png"));
 }
 
+TEST(Failures, OfStandardOutputDoNotStopThePrinter) {
+  const TemporaryFolder folder;
+  PrinterProcess printer({"--output", folder.Path().string()});
+  const std::uint16_t port = printer.Port();
+  printer.CloseOutput();
+  ASSERT_TRUE(print(port, stream::small_job()));
+  EXPECT_EQ(printer.Stop(), 0);
+  EXPECT_TRUE(std::filesystem::exists(folder.Path() / "sheet-0001.png"));
+}
+
 }  // namespace
