@@ -8,6 +8,7 @@
 #include <cups/ppd.h>
 
 #include <fstream>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -16,12 +17,14 @@
 
 /// The lines of an option that is picked from a list; the first choice is its default.
 inline std::string PickOne(const std::string& keyword, const std::vector<std::string>& choices) {
-  std::string lines =
-      "*OpenUI *" + keyword + ": PickOne\n*Default" + keyword + ": " + choices.front() + "\n";
+  std::ostringstream lines;
+  lines << "*OpenUI *" << keyword << ": PickOne\n";
+  lines << "*Default" << keyword << ": " << choices.front() << "\n";
   for (const std::string& choice : choices) {
-    lines += "*" + keyword + " " + choice + ": \"\"\n";
+    lines << "*" << keyword << " " << choice << ": \"\"\n";
   }
-  return lines + "*CloseUI: *" + keyword + "\n";
+  lines << "*CloseUI: *" << keyword << "\n";
+  return lines.str();
 }
 
 /// A PPD with the given lines, its defaults marked.

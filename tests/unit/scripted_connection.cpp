@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstring>
@@ -50,9 +49,7 @@ extern "C" ssize_t cupsBackChannelRead(char* buffer, std::size_t bytes, double t
   if (piece.bytes.empty()) {
     return piece.result;
   }
-  const std::size_t count = std::min(bytes, piece.bytes.size());
-  std::memcpy(buffer, piece.bytes.data(), count);
-  return static_cast<ssize_t>(count);
+  return static_cast<ssize_t>(piece.bytes.copy(buffer, bytes));
 }
 
 extern "C" unsigned int sleep(unsigned int seconds) {

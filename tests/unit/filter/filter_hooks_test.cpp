@@ -29,8 +29,10 @@ bool IsPlain(const struct sigaction& action) {
     }
   }
   // The C library marks actions with a flag of its own on some machines.
-  return (action.sa_flags & (SA_RESTART | SA_RESETHAND | SA_NODEFER | SA_SIGINFO | SA_ONSTACK |
-                             SA_NOCLDSTOP | SA_NOCLDWAIT)) == 0;
+  constexpr auto kFlags = static_cast<unsigned>(SA_RESTART | SA_NODEFER | SA_SIGINFO | SA_ONSTACK |
+                                                SA_NOCLDSTOP | SA_NOCLDWAIT) |
+                          static_cast<unsigned>(SA_RESETHAND);
+  return (static_cast<unsigned>(action.sa_flags) & kFlags) == 0;
 }
 
 /// Runs `body` in a process of its own and gives its wait status and what it wrote.
@@ -61,7 +63,7 @@ TEST_F(FilterHooks, APageStartsWithALineBufferAndAWhitePage) {
   ASSERT_NE(Planes[0], nullptr);
   std::fill_n(Planes[0], 1000, static_cast<unsigned char>(1));  // under a sanitizer: all there
   ASSERT_NE(Planes[1], nullptr);
-  EXPECT_EQ(Bytes(Planes[1], 4 * 2 * 3), std::string(24, '\xFF'));
+  EXPECT_EQ(Bytes(Planes[1], 24), std::string(24, '\xFF'));
   EXPECT_EQ(LastArraySize(), 24U);
 }
 

@@ -53,6 +53,7 @@ Lookup FindInPpd(const std::vector<std::string>& filters) {
 /// The lookup in a filter list of any length, with a buffer of `size` bytes.
 Lookup FindInList(std::vector<std::string> filters, int size = kBufferSize) {
   std::vector<char*> pointers;
+  pointers.reserve(filters.size());
   for (std::string& filter : filters) {
     pointers.push_back(filter.data());
   }

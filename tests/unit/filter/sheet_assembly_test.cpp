@@ -18,6 +18,9 @@ namespace {
 /// Bytes of a sheet ahead of its pixels: status request, query, job header, image header.
 constexpr std::size_t kAhead = 8 + 512 + 512 + 512;
 
+/// Pixels of one half of a sheet of 10x15.
+constexpr std::size_t kHalfSheet = std::size_t{1852} * 616;
+
 /// `count` white pixels of the sheet.
 std::string White(std::size_t count) {
   std::string pixels;
@@ -241,7 +244,7 @@ TEST_F(SheetAssembly, APageThatIsASheetKeepsItsMattePlaneUntilTheNextOne) {
   NextPageIs('a');
   PrinterTakesASheet();
   const std::string out = RunPage(settings).out;
-  EXPECT_EQ(out.substr(kAhead), Pixels(8, 'a') + std::string(4 * 14, 'm'));
+  EXPECT_EQ(out.substr(kAhead), Pixels(8, 'a') + std::string(56, 'm'));
   EXPECT_NE(gMatteImage.pBits, nullptr);
 }
 
@@ -253,7 +256,7 @@ TEST_F(SheetAssembly, AJoinedMatteSheetEndsWithTheFirstPagesPlane) {
   PrinterTakesASheet();
   RunPage(settings);
   EXPECT_EQ(RunPage(settings).out.substr(kAhead),
-            Pixels(8, 'b') + Pixels(8, 'a') + std::string(4 * 16, 'm'));
+            Pixels(8, 'b') + Pixels(8, 'a') + std::string(64, 'm'));
   EXPECT_EQ(gMatteImage.pBits, nullptr);
 }
 
@@ -277,7 +280,7 @@ TEST_F(SheetAssembly, ParkingAPageLeavesItsRecordAsItWas) {
 
 TEST_F(SheetAssembly, ALonePageThatPrintsAloneIsReadOneSheetBelowTheTop) {
   // No paper size does this: the lines come from behind a sheet's height, here a larger cache's.
-  const std::string lines = Pixels(4 * 4, '-') + Pixels(4 * 2, 'p');
+  const std::string lines = Pixels(16, '-') + Pixels(8, 'p');
   gImageCache = {new unsigned char[lines.size()], -24, {0, 0, 4, 4}};
   lines.copy(reinterpret_cast<char*>(gImageCache.pBits), lines.size());
   gImageCount = 1;
@@ -297,7 +300,7 @@ TEST_F(SheetAssembly, ALonePageThatPrintsAloneIsReadOneSheetBelowTheTop) {
 }
 
 TEST_F(SheetAssembly, ALonePageThatPrintsAloneSkipsTheGapToo) {
-  const std::string lines = Pixels(4 * 5, '-') + Pixels(4 * 2, 'p');
+  const std::string lines = Pixels(20, '-') + Pixels(8, 'p');
   gImageCache = {new unsigned char[lines.size()], -24, {0, 0, 4, 4}};
   lines.copy(reinterpret_cast<char*>(gImageCache.pBits), lines.size());
   gImageCount = 1;
@@ -310,8 +313,7 @@ TEST_F(SheetAssembly, ALonePageThatPrintsAloneSkipsTheGapToo) {
 
 TEST_F(SheetAssembly, ALoneBottomUpPageThatPrintsAloneIsReadOneSheetBelowTheTop) {
   // Eight lines in memory, the top row last: four lines below it begins the image.
-  const std::string lines =
-      Pixels(4 * 3, '-') + Pixels(4, 'l') + Pixels(4, 'u') + Pixels(4 * 3, '-');
+  const std::string lines = Pixels(12, '-') + Pixels(4, 'l') + Pixels(4, 'u') + Pixels(12, '-');
   gImageCache = {new unsigned char[lines.size()], 24, {0, 0, 4, 8}};
   lines.copy(reinterpret_cast<char*>(gImageCache.pBits), lines.size());
   gImageCount = 1;
@@ -327,8 +329,8 @@ TEST_F(SheetAssembly, AJoinedSheetOfFullSizeHoldsPageTwoAbovePageOne) {
   PrinterTakesASheet();
   EXPECT_EQ(RunPage(FullSizeJoined()).out, "");
   const std::string out = RunPage(FullSizeJoined()).out;
-  ASSERT_EQ(out.size(), kAhead + 1852U * 1232U * 6U);
-  EXPECT_TRUE(Same(out.substr(kAhead), Pixels(1852 * 616, '2') + Pixels(1852 * 616, '1')));
+  ASSERT_EQ(out.size(), kAhead + 2 * kHalfSheet * 6);
+  EXPECT_TRUE(Same(out.substr(kAhead), Pixels(kHalfSheet, '2') + Pixels(kHalfSheet, '1')));
 }
 
 TEST_F(SheetAssembly, ALonePageOfFullSizeHasAWhiteUpperHalf) {
@@ -336,8 +338,8 @@ TEST_F(SheetAssembly, ALonePageOfFullSizeHasAWhiteUpperHalf) {
   PrinterTakesASheet();
   RunPage(FullSizeJoined());
   const std::string out = PrintLast(FullSizeJoined()).out;
-  ASSERT_EQ(out.size(), kAhead + 1852U * 1232U * 6U);
-  EXPECT_TRUE(Same(out.substr(kAhead), White(1852 * 616) + Pixels(1852 * 616, '3')));
+  ASSERT_EQ(out.size(), kAhead + 2 * kHalfSheet * 6);
+  EXPECT_TRUE(Same(out.substr(kAhead), White(kHalfSheet) + Pixels(kHalfSheet, '3')));
 }
 
 TEST_F(SheetAssembly, AFullSizeMattePlaneHas1244Lines) {

@@ -116,7 +116,7 @@ TEST_F(ImageTransfer, TheRestBehindAFullBufferIsAWriteOfItsOwn) {
 }
 
 TEST_F(ImageTransfer, ASheetOf10x15Takes70Writes) {
-  std::vector<unsigned char> bits(1852 * 1232 * 6, 'x');
+  std::vector<unsigned char> bits(std::size_t{1852} * 1232 * 6, 'x');
   SingleWrites out;
   const Outcome outcome = SendImage(out, Over(bits, 1852, 1232, 6));
   EXPECT_TRUE(outcome.result);
@@ -135,7 +135,7 @@ TEST_F(ImageTransfer, ASheetOf10x15Takes70Writes) {
 
 TEST_F(ImageTransfer, BytesCrossTheBufferUnchanged) {
   // 70,000 pixels whose bytes count up with a period that divides neither pixel nor buffer.
-  std::vector<unsigned char> bits(70000 * 6);
+  std::vector<unsigned char> bits(420000);
   for (std::size_t i = 0; i < bits.size(); ++i) {
     bits[i] = static_cast<unsigned char>(i % 251);
   }
@@ -159,7 +159,7 @@ TEST_F(ImageTransfer, WithoutWidthOrHeightNothingIsSent) {
 
 TEST_F(ImageTransfer, StopsAtTheFirstWriteThatFails) {
   const long before = LiveArrays();
-  std::vector<unsigned char> bits(196608 * 3, 'x');
+  std::vector<unsigned char> bits(589824, 'x');
   SingleWrites out(2);
   const Outcome outcome = SendImage(out, Over(bits, 512, 192, 6));
   EXPECT_FALSE(outcome.result);
@@ -224,7 +224,7 @@ TEST_F(MatteTransfer, SendsABottomUpBandFromItsLastLine) {
 }
 
 TEST_F(MatteTransfer, APlaneOf10x15Takes12WritesAndNoMessage) {
-  std::vector<unsigned char> bits(1852 * 1244);
+  std::vector<unsigned char> bits(std::size_t{1852} * 1244);
   for (std::size_t i = 0; i < bits.size(); ++i) {
     bits[i] = static_cast<unsigned char>(i % 251);
   }
@@ -258,7 +258,7 @@ TEST_F(MatteTransfer, WithoutWidthOrHeightNothingIsSent) {
 
 TEST_F(MatteTransfer, StopsAtTheSecondWriteWhenThatFails) {
   const long before = LiveArrays();
-  std::vector<unsigned char> bits(196608 * 3 + 50, 'x');
+  std::vector<unsigned char> bits(589874, 'x');
   SingleWrites out(2);
   const Outcome outcome = SendMatte(out, Over(bits, 196608, 3, 1));
   EXPECT_FALSE(outcome.result);

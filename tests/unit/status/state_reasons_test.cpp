@@ -183,10 +183,11 @@ TEST(StateReasons, EveryKnownErrorRaisesTheKeywordOfItsRow) {
       {0x7552, "com.corvantiel-error0018_7552", "0x7552"},
   };
   for (const Known& known : kKnown) {
-    const std::string keyword = known.keyword;
-    EXPECT_EQ(Report(PrinterState::Error(known.number)),
-              "STATE: +" + keyword + "\nDEBUG: " + keyword + " " + known.text + "\n" +
-                  WithdrawalsWithout(keyword));
+    std::string expected = "STATE: +";
+    expected.append(known.keyword).append("\nDEBUG: ").append(known.keyword);
+    expected.append(" ").append(known.text).append("\n");
+    expected += WithdrawalsWithout(known.keyword);
+    EXPECT_EQ(Report(PrinterState::Error(known.number)), expected);
   }
 }
 
