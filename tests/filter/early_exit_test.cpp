@@ -168,14 +168,16 @@ TEST(PrinterAtTheStart, InAnUnknownErrorStopsTheJobUnderTheCatchAllReason) {
 }
 
 TEST(PrinterAtTheStart, ThatIsSilentForASecondCountsAsUnavailable) {
-  ExpectStopAtTheStart(Print({.input = SmallRaster(), .printer = {.status = {kSilence}}}),
-                       FailedStatusExchange() + UnknownError("UNAVAILABLE"));
+  ExpectStopAtTheStart(
+      Print({.input = SmallRaster(), .environment = kRealWaits, .printer = {.status = {kSilence}}}),
+      FailedStatusExchange() + UnknownError("UNAVAILABLE"));
 }
 
 TEST(PrinterAtTheStart, ThatStopsAfterFourteenBytesCountsAsUnavailable) {
-  ExpectStopAtTheStart(
-      Print({.input = SmallRaster(), .printer = {.status = {Answer(kGood.substr(0, 14))}}}),
-      FailedStatusExchange() + UnknownError("UNAVAILABLE"));
+  ExpectStopAtTheStart(Print({.input = SmallRaster(),
+                              .environment = kRealWaits,
+                              .printer = {.status = {Answer(kGood.substr(0, 14))}}}),
+                       FailedStatusExchange() + UnknownError("UNAVAILABLE"));
 }
 
 }  // namespace

@@ -7,7 +7,8 @@
 // Settings come from the environment:
 //   FILTER_TEST_NOTES       file that every sleep and every wait on a channel is noted in
 //   FILTER_TEST_CLOCK       the local time at the start, "2026 3 4 5 6 7"
-//   FILTER_TEST_WAIT_SCALE  factor on every wait on a channel, such as 0.05
+//   FILTER_TEST_WAIT_SCALE  factor on every wait on the side channel, such as 0.05
+//   FILTER_TEST_READ_SCALE  the same on the back channel
 //   FILTER_TEST_READS       results of the back channel's reads in turn: a number, or "real"
 //   FILTER_TEST_TERM_SLEEP  the sleep during which SIGTERM arrives, counted from 1
 //   FILTER_TEST_REASONS     a default destination with these state reasons
@@ -64,8 +65,8 @@ __attribute__((format(printf, 1, 2))) void Note(const char* format, ...) {
   close(file);
 }
 
-double Scaled(double seconds) {
-  const char* scale = Setting("FILTER_TEST_WAIT_SCALE");
+double Scaled(double seconds, const char* setting) {
+  const char* scale = Setting(setting);
   return scale == nullptr ? seconds : seconds * std::atof(scale);
 }
 
@@ -140,7 +141,8 @@ extern "C" cups_sc_status_t cupsSideChannelDoRequest(cups_sc_command_t command, 
                                                      int* length, double timeout) {
   Note("side channel %d, room %d, %.1f s\n", static_cast<int>(command), *length, timeout);
   using DoRequest = cups_sc_status_t (*)(cups_sc_command_t, char*, int*, double);
-  return Real<DoRequest>("cupsSideChannelDoRequest")(command, data, length, Scaled(timeout));
+  return Real<DoRequest>("cupsSideChannelDoRequest")(command, data, length,
+                                                     Scaled(timeout, "FILTER_TEST_WAIT_SCALE"));
 }
 
 extern "C" ssize_t cupsBackChannelRead(char* buffer, size_t bytes, double timeout) {
@@ -150,7 +152,8 @@ extern "C" ssize_t cupsBackChannelRead(char* buffer, size_t bytes, double timeou
     return result;
   }
   using Read = ssize_t (*)(char*, size_t, double);
-  return Real<Read>("cupsBackChannelRead")(buffer, bytes, Scaled(timeout));
+  return Real<Read>("cupsBackChannelRead")(buffer, bytes,
+                                           Scaled(timeout, "FILTER_TEST_READ_SCALE"));
 }
 
 extern "C" int cupsGetDests(cups_dest_t** destinations) {

@@ -53,6 +53,17 @@ TEST(MissingMemory, ForTheMattePlaneEndsTheJobWithoutAWord) {
                 PageRead(1, "0") + kConverting);
 }
 
+TEST(MissingMemory, ForTheSecondMattePlaneEndsTheJobAfterTheFirstSheet) {
+  const Settings matte{.finish = kMatte};
+
+  const Outcome outcome = Print(JobWithout("1695700 2", 2, "RQPrintFinish=Matte"));
+
+  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet(matte, SmallImage())));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage(1) + SmallSheet(matte, 1) +
+                                       PageRead(2, "0") + kConverting));
+  EXPECT_EQ(outcome.status, 1);
+}
+
 TEST(MissingMemory, ForTheJoinedSheetEndsTheJobWithoutAWord) {
   ExpectFailure(Print(JobWithout("13689984 1", 2, "PageSize=RQ_5x15x2_2")),
                 PageRead(1, "0") + Conversion(33, 33, 44, 88));

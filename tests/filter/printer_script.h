@@ -7,6 +7,7 @@
 #include <cups/sidechannel.h>
 
 #include <deque>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,6 +36,9 @@ inline Reply Answer(std::string bytes) {
   return {.pieces = {std::move(bytes)}};
 }
 inline const Reply kSilence = {};
+
+/// The environment of a job whose printer falls silent: the filter waits as long as it asks for.
+inline const std::map<std::string, std::string> kRealWaits = {{"FILTER_TEST_READ_SCALE", "1"}};
 
 /// A status reply with the given error number in its place.
 inline std::string StatusReply(unsigned char group, unsigned char detail) {

@@ -140,7 +140,8 @@ TEST(SecondSheet, ThatIsRefusedEndsTheJobWithoutAPrintOut) {
 }
 
 TEST(FailedExchange, OnTheFirstQueryIsNotClassified) {
-  const Outcome outcome = Print({.input = SmallRaster(), .printer = {.readiness = {kSilence}}});
+  const Outcome outcome = Print(
+      {.input = SmallRaster(), .environment = kRealWaits, .printer = {.readiness = {kSilence}}});
 
   EXPECT_TRUE(SameLog(outcome.log, UpToExamination() + ReadinessQuestion(kSettings) +
                                        "DEBUG: cupsBackChannelRead() failed. ret=-1\n"
@@ -152,8 +153,9 @@ TEST(FailedExchange, OnTheFirstQueryIsNotClassified) {
 }
 
 TEST(FailedExchange, WhileThePrinterIsBusyIsAProtocolError) {
-  const Outcome outcome =
-      Print({.input = SmallRaster(), .printer = {.readiness = {Answer(kBusy), kSilence}}});
+  const Outcome outcome = Print({.input = SmallRaster(),
+                                 .environment = kRealWaits,
+                                 .printer = {.readiness = {Answer(kBusy), kSilence}}});
 
   EXPECT_TRUE(SameLog(outcome.log, UpToExamination() + ReadinessExchange(kSettings, kBusy) +
                                        kBusyPass + ReadinessQuestion(kSettings) +
@@ -167,8 +169,9 @@ TEST(FailedExchange, WhileThePrinterIsBusyIsAProtocolError) {
 }
 
 TEST(FailedExchange, AfterFiveBytesIsStillOne) {
-  const Outcome outcome =
-      Print({.input = SmallRaster(), .printer = {.readiness = {Answer("\x01\x02\x03\x04\x00"s)}}});
+  const Outcome outcome = Print({.input = SmallRaster(),
+                                 .environment = kRealWaits,
+                                 .printer = {.readiness = {Answer("\x01\x02\x03\x04\x00"s)}}});
 
   EXPECT_TRUE(SameLog(outcome.log, UpToExamination() + ReadinessQuestion(kSettings) +
                                        "DEBUG: cupsBackChannelRead() failed. ret=-1\n"

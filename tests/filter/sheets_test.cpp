@@ -66,8 +66,9 @@ TEST(PrinterInError, AtTheSecondSheetEndsTheJobWithoutAPrintOut) {
 }
 
 TEST(SilentPrinter, AtTheFirstSheetEndsTheJobWithoutAPrintOut) {
-  const Outcome outcome =
-      Print({.input = SmallRaster(), .printer = {.status = {Answer(kGood), kSilence}}});
+  const Outcome outcome = Print({.input = SmallRaster(),
+                                 .environment = kRealWaits,
+                                 .printer = {.status = {Answer(kGood), kSilence}}});
 
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + StatusRequest()));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage(1) + FailedStatusExchange() +
