@@ -4,10 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <random>
 
 #include "tests/filter/comparison.h"
 #include "tests/filter/filter_process.h"
+#include "tests/filter/seeded_random.h"
 #include "tests/filter/small_job.h"
 
 namespace filter_test {
@@ -163,7 +163,7 @@ TEST(Cancel, WhileTheLastHalfSheetIsPrintedIsIgnored) {
 TEST(Cancel, AtAnyMomentLeavesTheBeginningOfTheJob) {
   const std::string whole = StatusRequest() + Sheet(kSettings, SmallImage(1)) +
                             Sheet(kSettings, SmallImage(2), 1, kFirstSecond + 5) + PrintOut();
-  std::mt19937 random(19);
+  std::mt19937 random = SeededRandom(19);
   for (int round = 0; round < 25; ++round) {
     SCOPED_TRACE(round);
     FilterProcess filter({.input = SmallRaster(2)});

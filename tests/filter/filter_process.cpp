@@ -80,7 +80,8 @@ FilterProcess::FilterProcess(const Job& job)
 void FilterProcess::Start(const Job& job) {
   std::vector<std::string> variables;
   for (const auto& [name, value] : FilterEnvironment(job, folder_)) {
-    variables.push_back(name + "=" + value);
+    variables.push_back(name);
+    variables.back().append("=").append(value);
   }
   std::vector<std::string> arguments = FilterArguments(job);
   const std::vector<char*> argv = Pointers(&arguments);

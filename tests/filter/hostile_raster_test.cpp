@@ -4,10 +4,9 @@
 // stays white.
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "tests/filter/comparison.h"
 #include "tests/filter/filter_process.h"
+#include "tests/filter/seeded_random.h"
 #include "tests/filter/small_job.h"
 
 namespace filter_test {
@@ -89,7 +88,7 @@ unsigned HostileNumber(std::mt19937* random) {
 }
 
 TEST(HostileHeader, OfAnyNumbersEndsTheJobInAnOrdinaryWay) {
-  std::mt19937 random(20260304);
+  std::mt19937 random = SeededRandom(20260304);
   constexpr unsigned kDepths[] = {1, 8, 24, 32};
   for (int round = 0; round < 40; ++round) {
     SCOPED_TRACE(round);
@@ -107,7 +106,7 @@ TEST(HostileHeader, OfAnyNumbersEndsTheJobInAnOrdinaryWay) {
 }
 
 TEST(HostileHeader, OfRandomBytesEndsTheJobInAnOrdinaryWay) {
-  std::mt19937 random(4032026);
+  std::mt19937 random = SeededRandom(4032026);
   for (int round = 0; round < 20; ++round) {
     SCOPED_TRACE(round);
     std::string stream = RasterStream({});

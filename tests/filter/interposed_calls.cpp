@@ -192,6 +192,8 @@ extern "C" std::size_t fwrite(const void* data, std::size_t size, std::size_t it
   return Real<Write>("fwrite")(data, size, items, file);
 }
 
+// What is not refused comes from the allocator behind this one, which also takes it back.
+// NOLINTNEXTLINE(cert-dcl54-cpp)
 void* operator new[](std::size_t bytes) {
   if (RefuseArray(bytes)) {
     throw std::bad_alloc();

@@ -102,7 +102,7 @@ void FillMatte(const tagMVBandImageParams& matte, int call) {
   unsigned char* out = matte.pBits;
   for (std::int64_t y = 0; y < matte.rcBand.bottom; ++y) {
     for (std::int64_t x = 0; x < matte.rcBand.right; ++x) {
-      *out++ = static_cast<unsigned char>((5 * x + 3 * y + 16 * call) & 0xFF);
+      *out++ = static_cast<unsigned char>((5 * x + 3 * y + std::int64_t{16} * call) & 0xFF);
     }
   }
 }
