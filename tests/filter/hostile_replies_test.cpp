@@ -12,7 +12,6 @@
 namespace filter_test {
 namespace {
 
-const Settings kSettings{};
 const std::map<std::string, std::string> kShortWaits = {{"FILTER_TEST_WAIT_SCALE", "0.02"}};
 
 std::string RandomBytes(std::mt19937* random, std::size_t count) {
