@@ -144,13 +144,17 @@ follow_job() {
     esac
     sleep 0.2
   done
-  state='no end within six minutes'
+  state='not at its end after six minutes'
 }
 
+# The printer's state reasons, each with the PPD's words for it, and the log.
 explain_failure() {
-  echo "The job failed: ${state:-unknown}" >&2
-  echo "The queue says:" >&2
-  lpstat -l -p TQR7 >&2
+  local reason words
+  echo "The job is ${state:-lost}." >&2
+  for reason in $(lpstat -l -p TQR7 | sed -n 's/^[ \t]*Alerts: //p' | tr ',' ' '); do
+    words=$(sed -n "s|^\*cupsIPPReason $reason/\([^:]*\):.*|\1|p" "$here/build/release/tqr7.ppd")
+    echo "  $reason${words:+: $words}" >&2
+  done
   echo "The last lines of the scheduler's log:" >&2
   grep -a '\[Job ' "$SCHEDULER_DIR/log/error_log" | grep -av 'STATE: -\|envp\|argv' |
     tail -n 25 >&2
@@ -178,7 +182,9 @@ print_photo() {
   printer_start "$here/build/release" "$sheets" "${printer_options[@]}" ||
     fail "no simulated printer"
   scheduler_start "$here/build/release" || fail "no private scheduler"
-  scheduler_add_queue TQR7 "$(printer_uri "$PRINTER_PORT")" || fail "no queue"
+  # A job whose printer is lost is to end, and not to be tried again for hours.
+  scheduler_add_queue TQR7 "$(printer_uri "$PRINTER_PORT")" \
+    -o printer-error-policy=abort-job || fail "no queue"
   echo "Printing $photo on $size, ${finish,,} ..."
   request=$(lp -d TQR7 -o "PageSize=$size" -o "RQPrintFinish=$finish" "${lp_options[@]}" \
     -- "$photo") || fail "lp did not take the job"
@@ -186,7 +192,7 @@ print_photo() {
   follow_job "$job"
   if [ "$state" != completed ]; then
     explain_failure
-    return 1
+    fail "the photo was not printed"
   fi
   keep_sheets || {
     explain_failure

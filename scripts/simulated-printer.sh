@@ -17,7 +17,8 @@ printer_start() {
   PRINTER_PID=$!
   PRINTER_PIDS+=("$PRINTER_PID")
   for ((tries = 0; tries < 100; ++tries)); do
-    PRINTER_PORT=$(sed -n 's/^listening on 127\.0\.0\.1 port \([0-9]*\)$/\1/p' "$dir/printer.log")
+    PRINTER_PORT=$(sed -n 's/^listening on 127\.0\.0\.1 port \([0-9]*\)$/\1/p' \
+      "$dir/printer.log" 2>/dev/null)
     [ -z "$PRINTER_PORT" ] || return 0
     kill -0 "$PRINTER_PID" 2>/dev/null || break
     sleep 0.05

@@ -14,10 +14,12 @@ wait_until 'the image is on the way' grep -q stalled "$work/relay.log"
 cancel "$JOB"
 kill -USR1 "$RELAY_PID"
 expect_job_ends "$JOB" canceled
+# shellcheck disable=SC2317  # wait_until calls it
 queue_is_idle() { lpstat -p slow | grep -q 'is idle'; }
 wait_until 'the queue is idle' queue_is_idle
 expect_equal 'sheets' '' "$(find "$work/slow" -name 'sheet-*.png')"
 
+# The cut sheet has spent a number.
 picture "$work/next.png" 1852 1232
 print_job slow "${plain[@]}" "$work/next.png"
 expect_completed "$JOB"

@@ -13,7 +13,7 @@ expect_job_ends "$JOB" aborted
 expect_equal 'the cable' closed "$(sed -n 2p "$work/relay.log")"
 expect_equal 'sheets' '' "$(find "$work/cut" -name 'sheet-*.png')"
 
-# Printer and queue take the next job.
+# Printer and queue take the next job; the cut sheet has spent a number.
 print_job cut "${plain[@]}" "$work/photo.png"
 expect_completed "$JOB"
 expect_sheet "$work/cut/sheet-0002.png" 1852 1232

@@ -13,6 +13,7 @@ tests=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 tools=$TQR7_BUILD/tests
 failures=0
 # Colours that come out as they went in, whatever the printer's colours are made to be.
+# shellcheck disable=SC2034  # the tests use it
 plain=(-o RQColorConversion=Disabled -o RQSharpness_Common=None)
 
 stop_test() {
@@ -64,6 +65,7 @@ print_job() {
   local queue=$1 said
   shift
   said=$(lp -d "$queue" "$@") || fail "lp: $said"
+  # shellcheck disable=SC2034  # the tests use it
   JOB=$(sed -n 's/^request id is \([^ ]*\) .*/\1/p' <<<"$said")
 }
 
@@ -122,6 +124,7 @@ relay_start() {
   # So that it ends with the printers.
   PRINTER_PIDS+=("$RELAY_PID")
   wait_until 'the relay listens' grep -q listening "$work/relay.log"
+  # shellcheck disable=SC2034  # the tests use it
   RELAY_PORT=$(sed -n 's/^listening on 127\.0\.0\.1 port //p' "$work/relay.log")
 }
 
