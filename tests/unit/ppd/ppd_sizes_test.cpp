@@ -75,6 +75,7 @@ TEST(PpdSizes, AreThirteenAndTenByFifteenComesBeforeTheTwoPrintSheetOfItsSize) {
       "RQ_15x15",    "RQ_13x13",    "RQ_5x15x2_1", "RQ_5x15x2_2", "RQ_9x13_WB",
       "RQ_10x15_WB", "RQ_13x18_WB", "RQ_15x20_WB"};
   std::vector<std::string> names;
+  names.reserve(expected.size());
   for (int i = 0; i < ppd->num_sizes; ++i) {
     names.emplace_back(ppd->sizes[i].name);
   }
