@@ -42,7 +42,10 @@ install_packages() {
   "${install[@]}" >/dev/null 2>&1 || { "${as_root[@]}" apt-get update && "${install[@]}"; }
 }
 
-# Builds the preset named $1 in the source folder $2.
+# Builds the preset named $1 in the source folder $2: all of it, or the targets named behind.
 build_preset() {
-  (cd "$2" && cmake --preset "$1" && cmake --build --preset "$1" --parallel)
+  local preset=$1 source=$2
+  shift 2
+  (cd "$source" && cmake --preset "$preset" &&
+    cmake --build --preset "$preset" --parallel ${1:+--target "$@"})
 }
