@@ -8,32 +8,14 @@
 #include <string>
 #include <vector>
 
-#include "filter/job_state.h"
-#include "protocol/readiness_check.h"
 #include "tests/unit/bytes.h"
-#include "tests/unit/capture.h"
 #include "tests/unit/protocol/query_log.h"
+#include "tests/unit/protocol/readiness_fixture.h"
 #include "tests/unit/scripted_connection.h"
-#include "tests/unit/settings.h"
 
 using testing::ElementsAre;
 
 namespace {
-
-struct Outcome {
-  std::string text;
-  std::string err;
-};
-
-Outcome Examine() {
-  const tagPRINTSETTING settings = SettingsOf10x15();
-  Outcome outcome;
-  Capture out(stdout);
-  Capture err(stderr);
-  outcome.text = ExaminePage(&settings);
-  outcome.err = err.Text();
-  return outcome;
-}
 
 void AnswerCode(unsigned char high, unsigned char low) {
   Connection().Answer(Bytes({0, 0, 0, 0, high, low}));
@@ -61,18 +43,7 @@ std::vector<std::string> Sleeps() {
   return sleeps;
 }
 
-class BusyWait : public testing::Test {
- protected:
-  void SetUp() override {
-    ResetConnection();
-    gRgbRate = 0x4D;
-    gOpRate = 0x5E;
-  }
-  void TearDown() override {
-    gRgbRate = 0;
-    gOpRate = 0;
-  }
-};
+using BusyWait = ReadinessFixture;
 
 }  // namespace
 

@@ -9,23 +9,16 @@
 #include <cstdio>
 #include <string>
 
-#include "filter/job_state.h"
 #include "tests/unit/bytes.h"
 #include "tests/unit/capture.h"
 #include "tests/unit/protocol/query_log.h"
+#include "tests/unit/protocol/readiness_fixture.h"
 #include "tests/unit/scripted_connection.h"
 #include "tests/unit/settings.h"
 
 using testing::ElementsAre;
 
 namespace {
-
-struct Outcome {
-  int code = 0;
-  std::string text;
-  std::string out;
-  std::string err;
-};
 
 Outcome Exchange() {
   const tagPRINTSETTING settings = SettingsOf10x15();
@@ -38,29 +31,7 @@ Outcome Exchange() {
   return outcome;
 }
 
-Outcome Examine() {
-  const tagPRINTSETTING settings = SettingsOf10x15();
-  Outcome outcome;
-  Capture out(stdout);
-  Capture err(stderr);
-  outcome.text = ExaminePage(&settings);
-  outcome.out = out.Arrived();
-  outcome.err = err.Text();
-  return outcome;
-}
-
-class ReadinessCheck : public testing::Test {
- protected:
-  void SetUp() override {
-    ResetConnection();
-    gRgbRate = 0x4D;
-    gOpRate = 0x5E;
-  }
-  void TearDown() override {
-    gRgbRate = 0;
-    gOpRate = 0;
-  }
-};
+using ReadinessCheck = ReadinessFixture;
 
 using EnableExchange = ReadinessCheck;
 using EnableCode = ReadinessCheck;
