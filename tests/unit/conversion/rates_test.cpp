@@ -10,20 +10,20 @@
 namespace {
 
 TEST(Rates, WhitePaperTakesNoDyeAndBlackAllOfIt) {
-  EXPECT_EQ(rgb_rate({3 * 16383, 3}), 0);
+  EXPECT_EQ(rgb_rate({49149, 3}), 0);
   EXPECT_EQ(rgb_rate({0, 3}), 100);
 }
 
 TEST(Rates, HalvesOfAPerCentAreRoundedUpwards) {
   // 200 samples, all white but one black one: exactly half a per cent.
-  EXPECT_EQ(rgb_rate({199 * 16383, 200}), 1);
-  EXPECT_EQ(rgb_rate({199 * 16383 + 1, 200}), 0);
+  EXPECT_EQ(rgb_rate({3260217, 200}), 1);
+  EXPECT_EQ(rgb_rate({3260218, 200}), 0);
   EXPECT_EQ(op_rate({255, 200}), 1);
   EXPECT_EQ(op_rate({254, 200}), 0);
 }
 
 TEST(Rates, OvercoatIsTheMeanByteOf255) {
-  EXPECT_EQ(op_rate({4 * 255, 4}), 100);
+  EXPECT_EQ(op_rate({1020, 4}), 100);
   EXPECT_EQ(op_rate({0, 4}), 0);
   EXPECT_EQ(op_rate({159, 1}), 62);  // 62.35
 }
