@@ -10,18 +10,12 @@
 
 namespace {
 
-std::int64_t difference(std::int64_t a, std::int64_t b) {
-  return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) - static_cast<std::uint64_t>(b));
-}
-
 long width_of(const tagMVBandImageParams* image) {
-  return image == nullptr ? 0
-                          : static_cast<long>(difference(image->rcBand.right, image->rcBand.left));
+  return image == nullptr ? 0 : static_cast<long>(rect_width(image->rcBand));
 }
 
 long height_of(const tagMVBandImageParams* image) {
-  return image == nullptr ? 0
-                          : static_cast<long>(difference(image->rcBand.bottom, image->rcBand.top));
+  return image == nullptr ? 0 : static_cast<long>(rect_height(image->rcBand));
 }
 
 std::uint64_t line_bytes(const tagMVBandImageParams* image) {
@@ -104,7 +98,7 @@ bool save_image_as_raw(const char* name_template, const tagMVBandImageParams* im
   if (image == nullptr || !format_string_util(name, sizeof name, name_template, image)) {
     return false;
   }
-  const std::int64_t height = difference(image->rcBand.bottom, image->rcBand.top);
+  const std::int64_t height = rect_height(image->rcBand);
   std::uint64_t size = 0;
   if (height < 0 ||
       __builtin_mul_overflow(line_bytes(image), static_cast<std::uint64_t>(height), &size)) {

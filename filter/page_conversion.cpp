@@ -11,8 +11,6 @@
 namespace {
 
 constexpr int kTopDown = -1;
-constexpr int kImageDepth = 48;  // bits a pixel
-constexpr int kMatteDepth = 8;
 constexpr int kMatteExtraRows = 12;  // the overcoat runs past the sheet's end
 
 // The library's levels start at 0 for the weakest sharpening; none at all is a flag of its own.

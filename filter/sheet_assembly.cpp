@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr int kImageDepth = 48;  // bits a pixel
-
 // White in each of the three 16-bit channels, as the printer takes it.
 unsigned char g_white_pixel[] = {0xFF, 0x3F, 0xFF, 0x3F, 0xFF, 0x3F};
 

@@ -10,10 +10,6 @@ namespace {
 using MV_TYPEDEF::tagRECT;
 
 // Rectangles come with any edges: arithmetic on them wraps instead of being undefined.
-std::int64_t difference(std::int64_t a, std::int64_t b) {
-  return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) - static_cast<std::uint64_t>(b));
-}
-
 std::int64_t product(std::int64_t a, std::int64_t b) {
   return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) * static_cast<std::uint64_t>(b));
 }
@@ -35,12 +31,12 @@ std::size_t buffer_size(std::int64_t width, std::int64_t height, std::int64_t by
 bool CImageUtility::CreateBandImage(tagMVBandImageParams* image, const tagRECT& rect,
                                     int bitsPerPixel, int direction) {
   const std::int64_t bytes_per_pixel = bitsPerPixel / 8;
-  const std::int64_t width = difference(rect.right, rect.left);
-  const std::int64_t height = difference(rect.bottom, rect.top);
+  const std::int64_t width = rect_width(rect);
+  const std::int64_t height = rect_height(rect);
   const std::size_t size = buffer_size(width, height, bytes_per_pixel);
 
   const std::int64_t line = product(width, bytes_per_pixel);
-  image->lStride = direction < 0 ? difference(0, line) : line;
+  image->lStride = direction < 0 ? product(line, -1) : line;
   image->rcBand = rect;
   image->pBits = new (std::nothrow) unsigned char[size];
   if (image->pBits == nullptr) {
@@ -98,7 +94,7 @@ bool CImageUtility::FillBandImage(tagMVBandImageParams* image, int bitsPerPixel,
   if (bytes_per_pixel <= 0) {
     return true;  // a pixel without bytes leaves nothing to write
   }
-  const std::int64_t height = difference(image->rcBand.bottom, image->rcBand.top);
+  const std::int64_t height = rect_height(image->rcBand);
   const std::int64_t stride = image->lStride;
   const std::int64_t whole_pixels = (stride < 0 ? -stride : stride) / bytes_per_pixel;
   unsigned char* line = image->pBits;

@@ -27,6 +27,9 @@ static_assert(offsetof(tagMVBandImageParams, rcBand.top) == 24);
 static_assert(offsetof(tagMVBandImageParams, rcBand.right) == 32);
 static_assert(offsetof(tagMVBandImageParams, rcBand.bottom) == 40);
 
+inline constexpr int kImageDepth = 48;  ///< bits a pixel of a converted page: three 16-bit channels
+inline constexpr int kMatteDepth = 8;   ///< bits a pixel of a matte plane
+
 /// The operations on band images. A row's line follows its upper neighbour's at −lStride bytes, for
 /// both line orders.
 class CImageUtility {

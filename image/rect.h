@@ -19,6 +19,23 @@ struct tagRECT {
 
 }  // namespace MV_TYPEDEF
 
+/// The distance from one edge to another. Edges come from outside too: one beyond the number range
+/// wraps instead of being undefined.
+inline std::int64_t edge_distance(std::int64_t from, std::int64_t to) {
+  return static_cast<std::int64_t>(static_cast<std::uint64_t>(to) -
+                                   static_cast<std::uint64_t>(from));
+}
+
+/// Columns of a rectangle in pixels; negative for an inverted one.
+inline std::int64_t rect_width(const MV_TYPEDEF::tagRECT& rect) {
+  return edge_distance(rect.left, rect.right);
+}
+
+/// Rows of a rectangle in pixels; negative for an inverted one.
+inline std::int64_t rect_height(const MV_TYPEDEF::tagRECT& rect) {
+  return edge_distance(rect.top, rect.bottom);
+}
+
 /// 1 when the rectangle covers no pixel (inverted ones included) or is null, else 0.
 int IsRectEmpty(const MV_TYPEDEF::tagRECT* rect);
 

@@ -27,15 +27,10 @@ constexpr std::size_t kOffsetSecond = 38;
 
 constexpr int kLastSecond = 59;  // the printer knows no leap seconds
 
-std::uint32_t distance(std::int64_t from, std::int64_t to) {
-  return static_cast<std::uint32_t>(static_cast<std::uint64_t>(to) -
-                                    static_cast<std::uint64_t>(from));
-}
-
 // Width and height of a band as two numbers that stand side by side.
 void put_size(unsigned char* block, std::size_t offset, const tagMVBandImageParams& band) {
-  put_big_endian_16(block, offset, distance(band.rcBand.left, band.rcBand.right));
-  put_big_endian_16(block, offset + 2, distance(band.rcBand.top, band.rcBand.bottom));
+  put_big_endian_16(block, offset, static_cast<std::uint32_t>(rect_width(band.rcBand)));
+  put_big_endian_16(block, offset + 2, static_cast<std::uint32_t>(rect_height(band.rcBand)));
 }
 
 // Local time. A clock that cannot be read leaves the fields zero.

@@ -43,8 +43,8 @@ struct Lines {
 };
 
 Lines lines_of(const tagMVBandImageParams* band) {
-  Lines lines{band->pBits, static_cast<std::int32_t>(band->rcBand.right - band->rcBand.left),
-              static_cast<std::int32_t>(band->rcBand.bottom - band->rcBand.top)};
+  Lines lines{band->pBits, static_cast<std::int32_t>(rect_width(band->rcBand)),
+              static_cast<std::int32_t>(rect_height(band->rcBand))};
   if (band->lStride >= 0 && lines.height > 0) {
     lines.top += band->lStride * (lines.height - 1);
   }
