@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "conversion/matte.h"
 
+#include <cstring>
 #include <new>
+#include <numeric>
+
+#include "conversion/matte_tile.h"
 
 namespace {
 
@@ -60,4 +64,16 @@ void MatteTexture::next_row(unsigned char* row) {
     row[x] = static_cast<unsigned char>(kMatteMiddle + swing);
   }
   ++y_;
+}
+
+std::uint64_t lay_matte_row(std::size_t y, unsigned char* row, std::size_t width) {
+  const unsigned char* piece = kMatteTile[y % kMatteTileSide];
+  const std::size_t rest = width % kMatteTileSide;
+  for (unsigned char* const last = row + (width - rest); row != last; row += kMatteTileSide) {
+    std::memcpy(row, piece, kMatteTileSide);
+  }
+  std::memcpy(row, piece, rest);
+  const std::uint64_t whole = width / kMatteTileSide;
+  return whole * kMatteRowSums[y % kMatteTileSide] +
+         std::accumulate(piece, piece + rest, std::uint64_t{0});
 }

@@ -37,4 +37,10 @@ class MatteTexture {
   std::unique_ptr<unsigned char[]> noise_;  ///< rows y … y + 2, with a dot to each side
 };
 
+/// Writes `width` bytes of the texture's row `y`, counted from the sheet's top, and returns their
+/// sum. The texture is blue noise: a tile of kMatteTileSide dots each way laid side by side from
+/// the top left corner, joined without a seam. A dot's value depends on its column and row alone:
+/// the same on every print and for every sheet size.
+std::uint64_t lay_matte_row(std::size_t y, unsigned char* row, std::size_t width);
+
 #endif  // TQR7_CONVERSION_MATTE_H
