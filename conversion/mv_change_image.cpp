@@ -23,14 +23,11 @@ namespace {
 struct WorkingMemory {
   std::unique_ptr<EngineSample[]> line;  ///< one line as it goes into the destination
   Sharpener sharpener;
-  MatteTexture matte;
 };
 
-bool reserve(WorkingMemory& memory, std::size_t pageWidth, bool sharpen,
-             const tagMVBandImageParams* matte) {
+bool reserve(WorkingMemory& memory, std::size_t pageWidth, bool sharpen) {
   memory.line.reset(new (std::nothrow) EngineSample[3 * pageWidth]);
-  return memory.line != nullptr && (!sharpen || memory.sharpener.reserve(pageWidth)) &&
-         (matte == nullptr || memory.matte.reserve(rows_of(*matte).width));
+  return memory.line != nullptr && (!sharpen || memory.sharpener.reserve(pageWidth));
 }
 
 /// The destination's lines may begin at any byte, so samples go there as bytes.
@@ -68,11 +65,11 @@ RateSum convert_sharpened(const BandRows& source, const BandRows& destination,
   return sum;
 }
 
-RateSum lay_matte(const BandRows& matte, MatteTexture& texture) {
+RateSum lay_matte(const BandRows& matte) {
   RateSum sum;
   for (std::size_t y = 0; y < matte.height; ++y) {
-    texture.next_row(matte.row(y));
-    add_bytes(sum, matte.row(y), matte.width);
+    sum.total += lay_matte_row(y, matte.row(y), matte.width);
+    sum.count += matte.width;
   }
   return sum;
 }
@@ -91,7 +88,7 @@ extern "C" __attribute__((visibility("default"))) long MVChangeImage(
   const BandRows to = rows_of(*destination);
   const bool sharpen = (params->dwFlags & kChangeFlagSharpness) != 0;
   WorkingMemory memory;
-  if (!reserve(memory, from.width, sharpen, matte)) {
+  if (!reserve(memory, from.width, sharpen)) {
     return kChangeNoMemory;
   }
   const ColourMapping mapping = make_colour_mapping(*params);
@@ -99,7 +96,7 @@ extern "C" __attribute__((visibility("default"))) long MVChangeImage(
       sharpen ? convert_sharpened(from, to, mapping, sharpening_amount(params->nSharpness), memory)
               : convert_plainly(from, to, mapping, memory.line.get());
   const unsigned char overcoat =
-      matte == nullptr ? kFullOvercoat : op_rate(lay_matte(rows_of(*matte), memory.matte));
+      matte == nullptr ? kFullOvercoat : op_rate(lay_matte(rows_of(*matte)));
   *rgbRate = rgb_rate(samples);
   *opRate = overcoat;
   return kChangeDone;

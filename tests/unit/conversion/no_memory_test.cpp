@@ -34,8 +34,8 @@ void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
 
 namespace {
 
-/// The requests of a matte page: its line, three for the sharpening, one for the texture.
-constexpr int kRequests = 5;
+/// The requests of a sharpened page: its line, and three for the sharpening.
+constexpr int kRequests = 4;
 
 class NoMemory : public testing::Test {
  protected:

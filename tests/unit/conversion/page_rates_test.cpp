@@ -70,7 +70,7 @@ TEST(PageRates, WithAMatteBandTheOvercoatRateIsItsMean) {
     sum += byte / 255.0;
   }
   EXPECT_NEAR(opRate, 100.0 * sum / (40.0 * 42.0), 0.5);
-  EXPECT_EQ(opRate, 62);
+  EXPECT_EQ(opRate, 63);
 }
 
 }  // namespace
