@@ -14,33 +14,30 @@ double slider_ratio(int slider, int end) {
   return std::pow(kStrongest, static_cast<double>(slider) / end);
 }
 
-/// level^(1/γ) with γ = 2^(gamma / 10): 1.41 at the upper end, 0.71 at the lower. Both ends of the
+/// The power law of tone reproduction (Gonzalez and Woods, Digital Image Processing, section 3.2):
+/// level^(1/γ) with γ = 2^(gamma / 10), 1.41 at the upper end, 0.71 at the lower. Both ends of the
 /// scale stay where they are.
-double apply_gamma(double level, int gamma) {
-  return gamma == 0 ? level : std::pow(level, std::exp2(-gamma / 10.0));
+double apply_gamma(double level, double power) {
+  return power == 1.0 ? level : std::pow(level, power);
 }
 
-/// A slope of s = 4^(contrast / 128) through the middle (0.5). Upwards an S, level^s / (level^s +
-/// (1 − level)^s), which runs into black and white; downwards a straight line, so that black and
-/// white come nearer to the middle without breaking the darkest and lightest tones apart.
-double apply_contrast(double level, int contrast) {
-  const double slope = slider_ratio(contrast, kContrastEnd);
-  if (contrast > 0) {
-    const double light = std::pow(level, slope);
-    const double dark = std::pow(1.0 - level, slope);
-    return light / (light + dark);
+/// Upwards an S of this slope through the middle (0.5) that runs into black and white: the odds
+/// level / (1 − level) to the power of the slope, a straight line in log odds (Zhang and Maloney,
+/// "Ubiquitous log odds", Frontiers in Neuroscience 6:1, 2012). Downwards a straight line in the
+/// levels themselves, so that black and white come nearer to the middle without breaking the
+/// darkest and lightest tones apart.
+double apply_contrast(double level, double slope) {
+  if (slope > 1.0) {
+    return level > 0.0 ? 1.0 / (1.0 + std::pow((1.0 - level) / level, slope)) : 0.0;
   }
-  return contrast == 0 ? level : 0.5 + (level - 0.5) * slope;
+  return slope == 1.0 ? level : 0.5 + (level - 0.5) * slope;
 }
 
-/// k × level / (1 + (k − 1) × level) with k = 4^(brightness / 128): the ratio of light to dark
-/// times k. Paper white and full black stay, everything between moves.
-double apply_brightness(double level, int brightness) {
-  if (brightness == 0) {
-    return level;
-  }
-  const double ratio = slider_ratio(brightness, kBrightnessEnd);
-  return ratio * level / (1.0 + (ratio - 1.0) * level);
+/// The odds level / (1 − level) times `odds`: in log odds a shift. It is Schlick's bias ("Fast
+/// alternatives to Perlin's bias and gain functions", Graphics Gems IV, 1994) with
+/// a = odds / (1 + odds). Paper white and full black stay, everything between moves.
+double apply_brightness(double level, double odds) {
+  return odds == 1.0 ? level : odds * level / (1.0 + (odds - 1.0) * level);
 }
 
 }  // namespace
@@ -51,14 +48,27 @@ ChannelTone tone_of_channel(const tagMVChangeParams& params, std::size_t channel
           within(params.nTone[6 + channel], kBrightnessEnd)};
 }
 
+ToneFactors tone_factors(const ChannelTone& tone) {
+  return {std::exp2(-tone.gamma / 10.0), slider_ratio(tone.contrast, kContrastEnd),
+          slider_ratio(tone.brightness, kBrightnessEnd)};
+}
+
+double shaped_level(const ToneFactors& factors, double level) {
+  level = apply_gamma(std::clamp(level, 0.0, 1.0), factors.power);
+  level = apply_contrast(level, factors.slope);
+  level = apply_brightness(level, factors.odds);
+  return std::clamp(level, 0.0, 1.0);
+}
+
+double tone_level(const ChannelTone& tone, double level) {
+  return shaped_level(tone_factors(tone), level);
+}
+
 ToneCurve make_tone_curve(const ChannelTone& tone) {
+  const ToneFactors factors = tone_factors(tone);
   ToneCurve curve{};
   for (std::size_t value = 0; value < curve.size(); ++value) {
-    double level = static_cast<double>(value) / 255.0;
-    level = apply_gamma(level, tone.gamma);
-    level = apply_contrast(level, tone.contrast);
-    level = apply_brightness(level, tone.brightness);
-    curve[value] = std::clamp(level, 0.0, 1.0);
+    curve[value] = shaped_level(factors, static_cast<double>(value) / 255.0);
   }
   return curve;
 }

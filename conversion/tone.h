@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The tone sliders: gamma, contrast and brightness of one channel as a curve over its 256 values.
+// The tone sliders: gamma, contrast and brightness of one channel as a curve over its levels.
 #ifndef TQR7_CONVERSION_TONE_H
 #define TQR7_CONVERSION_TONE_H
 
@@ -21,15 +21,32 @@ struct ChannelTone {
   int brightness;
 };
 
+/// What the sliders put into the formulas, worked out once for all levels; 1 leaves them alone.
+struct ToneFactors {
+  double power;  ///< of the level, by gamma
+  double slope;  ///< through the middle, by contrast
+  double odds;   ///< on the ratio of light to dark, by brightness
+};
+
 /// A level (0 black … 1 white) for each 8-bit value.
 using ToneCurve = std::array<double, 256>;
 
 /// The sliders of channel 0 (R), 1 (G) or 2 (B); numbers beyond an end count as that end.
 ChannelTone tone_of_channel(const tagMVChangeParams& params, std::size_t channel);
 
-/// The curve that the sliders give, applied in the order gamma, contrast, brightness. It never
-/// falls, stays within 0 … 1, and with all three at 0 it is exactly value / 255. None of the three
-/// clips, so no combination of them makes a photo a few flat tones.
+/// power = 2^(−gamma / 10), slope = 4^(contrast / 128), odds = 4^(brightness / 128).
+ToneFactors tone_factors(const ChannelTone& tone);
+
+/// What a level of 0 … 1 becomes: gamma first, then contrast, then brightness. Levels beyond an end
+/// count as that end. It never falls as the level rises, stays within 0 … 1, and with all three at
+/// 0 it is exactly the level. None of the three clips, so no combination of them makes a photo a
+/// few flat tones.
+double tone_level(const ChannelTone& tone, double level);
+
+/// The same with the factors at hand, for many levels of one channel.
+double shaped_level(const ToneFactors& factors, double level);
+
+/// The curve of value / 255 for each 8-bit value.
 ToneCurve make_tone_curve(const ChannelTone& tone);
 
 #endif  // TQR7_CONVERSION_TONE_H

@@ -3,6 +3,8 @@
 // The tone sliders as the filter sends them: nine numbers in the parameter block.
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "tests/unit/conversion/test_page.h"
 
 namespace {
@@ -95,6 +97,34 @@ TEST(PageTone, SlidersWorkWithColourConversionOnToo) {
   params.byOption[2] = 1;
   params.nTone[kGamma] = 5;
   EXPECT_EQ(convert_grey_ramp(params).samples, ramp_with(kGamma, 5).samples);
+}
+
+std::size_t distinct(const std::vector<std::uint16_t>& samples) {
+  return std::set<std::uint16_t>(samples.begin(), samples.end()).size();
+}
+
+TEST(PageTone, All256ValuesStayApartWhereTheCurveIsSteepEnoughForFourteenBits) {
+  EXPECT_EQ(distinct(channel_of(ramp_with(kGamma, 5).samples, 0)), 256U);
+  EXPECT_EQ(distinct(channel_of(ramp_with(kGamma, -5).samples, 0)), 256U);
+  EXPECT_EQ(distinct(channel_of(ramp_with(kBrightness, 128).samples, 0)), 256U);
+  EXPECT_EQ(distinct(channel_of(ramp_with(kBrightness, -128).samples, 0)), 256U);
+  EXPECT_EQ(distinct(channel_of(ramp_with(kContrast, -128).samples, 0)), 256U);
+  EXPECT_EQ(distinct(channel_of(ramp_with(kContrast, 32).samples, 0)), 256U);
+}
+
+TEST(PageTone, TheStrongestContrastStillHasTwoHundredTones) {
+  EXPECT_EQ(distinct(channel_of(ramp_with(kContrast, 128).samples, 0)), 206U);
+}
+
+TEST(PageTone, ASettingOfZeroIsTheExactScaleOfFourteenBits) {
+  const auto red = channel_of(convert_grey_ramp(plain_params()).samples, 0);
+  EXPECT_EQ(red[0], 0);
+  EXPECT_EQ(red[1], 64);       // 64.25
+  EXPECT_EQ(red[2], 128);      // 128.49
+  EXPECT_EQ(red[3], 193);      // 192.74
+  EXPECT_EQ(red[127], 8159);   // 8159.38
+  EXPECT_EQ(red[254], 16319);  // 16318.75
+  EXPECT_EQ(red[255], 16383);
 }
 
 }  // namespace

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The properties of the tone curves over every slider position and every pixel value.
+// The properties of the tone curves over every slider position: their formulas, that they keep the
+// order of tones, that each step of a slider is seen, and that a picture is left at the extremes.
 #include "conversion/tone.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
 #include <set>
 
 #include "conversion/colour.h"
@@ -32,14 +36,46 @@ ChannelTone brightness(int value) {
   return {0, 0, value};
 }
 
+/// A sixteenth of an 8-bit value apart: the sharpened picture's values lie in between.
+constexpr int kFineLevels = 4080;
+
+double fine_level(int i) {
+  return static_cast<double>(i) / kFineLevels;
+}
+
 void expect_never_falling_within_range(const ChannelTone& tone) {
-  const ToneCurve curve = make_tone_curve(tone);
-  EXPECT_GE(curve[0], 0.0);
-  EXPECT_LE(curve[255], 1.0);
-  for (std::size_t value = 1; value < 256; ++value) {
-    ASSERT_GE(curve[value], curve[value - 1])
-        << tone.gamma << ' ' << tone.contrast << ' ' << tone.brightness << " at " << value;
+  const ToneFactors factors = tone_factors(tone);
+  double before = 0.0;
+  for (int i = 0; i <= kFineLevels; ++i) {
+    const double level = shaped_level(factors, fine_level(i));
+    ASSERT_GE(level, before) << tone.gamma << ' ' << tone.contrast << ' ' << tone.brightness
+                             << " at " << i;
+    before = level;
   }
+  ASSERT_LE(before, 1.0);
+}
+
+/// The largest change of any of the 256 values, in samples of 14 bits.
+int largest_change(const ChannelTone& before, const ChannelTone& after) {
+  const Samples first = samples_of(before);
+  const Samples second = samples_of(after);
+  int largest = 0;
+  for (std::size_t value = 0; value < 256; ++value) {
+    largest = std::max(largest, std::abs(second[value] - first[value]));
+  }
+  return largest;
+}
+
+/// The lower end, the middle and the upper end of a slider.
+std::array<int, 3> stops(int end) {
+  return {-end, 0, end};
+}
+
+/// How many of the 256 values are neither nearly black nor nearly white.
+long midtones(const ChannelTone& tone) {
+  const ToneCurve curve = make_tone_curve(tone);
+  return std::count_if(curve.begin(), curve.end(),
+                       [](double level) { return level > 0.05 && level < 0.95; });
 }
 
 std::size_t distinct_samples(const ChannelTone& tone) {
@@ -48,9 +84,81 @@ std::size_t distinct_samples(const ChannelTone& tone) {
 }
 
 TEST(Tone, ZeroLeavesEveryLevelExactlyAsItIs) {
-  const ToneCurve curve = make_tone_curve({0, 0, 0});
-  for (std::size_t value = 0; value < 256; ++value) {
-    EXPECT_EQ(curve[value], static_cast<double>(value) / 255.0);
+  for (int i = 0; i <= kFineLevels; ++i) {
+    EXPECT_EQ(tone_level({0, 0, 0}, fine_level(i)), fine_level(i));
+  }
+  for (const double level : {1e-300, 0.1, 1.0 / 3.0, 0.7, 1.0 - 0x1p-53}) {
+    EXPECT_EQ(tone_level({0, 0, 0}, level), level);
+  }
+}
+
+TEST(Tone, GammaIsAPowerLaw) {
+  // 0.5^(1/√2), 0.25^(1/√2), 0.5^√2, 0.25^√2; γ = 2^(2/10) for 2.
+  EXPECT_NEAR(tone_level(gamma(5), 0.5), 0.6125473265360659, 1e-12);
+  EXPECT_NEAR(tone_level(gamma(5), 0.25), 0.37521422724648174, 1e-12);
+  EXPECT_NEAR(tone_level(gamma(-5), 0.5), 0.37521422724648174, 1e-12);
+  EXPECT_NEAR(tone_level(gamma(-5), 0.25), 0.14078571632817444, 1e-12);
+  EXPECT_NEAR(tone_level(gamma(2), 0.5), 0.546938087521949, 1e-12);
+}
+
+TEST(Tone, HigherContrastRaisesTheOddsOfLightToDarkToAPower) {
+  // Odds of 1 to 3 become 1 to 9 at a power of 2, and 1 to 81 at a power of 4.
+  EXPECT_NEAR(tone_level(contrast(64), 0.25), 1.0 / 10.0, 1e-12);
+  EXPECT_NEAR(tone_level(contrast(64), 0.75), 9.0 / 10.0, 1e-12);
+  EXPECT_NEAR(tone_level(contrast(128), 0.25), 1.0 / 82.0, 1e-12);
+  EXPECT_NEAR(tone_level(contrast(128), 0.5), 0.5, 1e-12);
+  EXPECT_EQ(tone_level(contrast(128), 0.0), 0.0);
+  EXPECT_EQ(tone_level(contrast(128), 1.0), 1.0);
+}
+
+TEST(Tone, LowerContrastIsAStraightLineThroughTheMiddle) {
+  EXPECT_NEAR(tone_level(contrast(-64), 0.0), 0.25, 1e-12);
+  EXPECT_NEAR(tone_level(contrast(-64), 1.0), 0.75, 1e-12);
+  EXPECT_NEAR(tone_level(contrast(-128), 0.0), 0.375, 1e-12);
+  EXPECT_NEAR(tone_level(contrast(-128), 0.1), 0.4, 1e-12);
+  EXPECT_NEAR(tone_level(contrast(-128), 0.5), 0.5, 1e-12);
+}
+
+TEST(Tone, BrightnessMultipliesTheOddsOfLightToDark) {
+  // Odds of 1 to 1 become 4, 2, ½ and ¼ to 1; odds of 1 to 3 become 4 to 3.
+  EXPECT_NEAR(tone_level(brightness(128), 0.5), 4.0 / 5.0, 1e-12);
+  EXPECT_NEAR(tone_level(brightness(64), 0.5), 2.0 / 3.0, 1e-12);
+  EXPECT_NEAR(tone_level(brightness(-64), 0.5), 1.0 / 3.0, 1e-12);
+  EXPECT_NEAR(tone_level(brightness(-128), 0.5), 1.0 / 5.0, 1e-12);
+  EXPECT_NEAR(tone_level(brightness(128), 0.25), 4.0 / 7.0, 1e-12);
+  EXPECT_EQ(tone_level(brightness(-128), 0.0), 0.0);
+  EXPECT_EQ(tone_level(brightness(-128), 1.0), 1.0);
+}
+
+TEST(Tone, GammaAndBrightnessAreUndoneByTheOppositeSetting) {
+  for (int i = 0; i <= kFineLevels; i += 17) {
+    EXPECT_NEAR(tone_level(gamma(4), tone_level(gamma(-4), fine_level(i))), fine_level(i), 1e-12);
+    EXPECT_NEAR(tone_level(brightness(90), tone_level(brightness(-90), fine_level(i))),
+                fine_level(i), 1e-12);
+  }
+}
+
+TEST(Tone, TheOrderIsGammaThenContrastThenBrightness) {
+  // 0.25 by γ = ½√2 to 0.14078571632817444, its odds squared, then halved.
+  const double odds = 0.14078571632817444 / (1.0 - 0.14078571632817444);
+  EXPECT_NEAR(tone_level({-5, 64, -64}, 0.25), odds * odds / 2 / (1.0 + odds * odds / 2), 1e-12);
+}
+
+TEST(Tone, TheCurveHoldsTheLevelsOfThe256Values) {
+  for (const ChannelTone& tone :
+       {ChannelTone{3, 40, -20}, ChannelTone{-2, -90, 128}, ChannelTone{0, 0, 0}}) {
+    const ToneCurve curve = make_tone_curve(tone);
+    for (int value = 0; value < 256; ++value) {
+      EXPECT_EQ(curve[static_cast<std::size_t>(value)], tone_level(tone, fine_level(16 * value)));
+    }
+  }
+}
+
+TEST(Tone, LevelsBeyondBlackAndWhiteCountAsBlackAndWhite) {
+  for (const ChannelTone& tone :
+       {ChannelTone{0, 0, 0}, ChannelTone{3, 40, -20}, ChannelTone{-2, -90, 128}}) {
+    EXPECT_EQ(tone_level(tone, -0.25), tone_level(tone, 0.0));
+    EXPECT_EQ(tone_level(tone, 1.25), tone_level(tone, 1.0));
   }
 }
 
@@ -160,21 +268,70 @@ TEST(Tone, LowerContrastLiftsBlackAndGreysWhite) {
   EXPECT_EQ(samples_of(contrast(-64))[255], 12287);
 }
 
-TEST(Tone, EachEndOfEachSliderKeepsAtLeastAHundredTones) {
-  EXPECT_GE(distinct_samples(gamma(-5)), 100U);
-  EXPECT_GE(distinct_samples(gamma(5)), 100U);
-  EXPECT_GE(distinct_samples(contrast(-128)), 100U);
-  EXPECT_GE(distinct_samples(contrast(128)), 100U);
-  EXPECT_GE(distinct_samples(brightness(-128)), 100U);
-  EXPECT_GE(distinct_samples(brightness(128)), 100U);
+// A step of 16 samples is a thousandth of full scale, a quarter of an 8-bit value: 256 of them are
+// all of a photo's tones.
+
+TEST(Tone, EachStepOfGammaShowsWhateverTheOtherSlidersAre) {
+  for (const int c : stops(kContrastEnd)) {
+    for (const int b : stops(kBrightnessEnd)) {
+      for (int g = -5; g < 5; ++g) {
+        ASSERT_GE(largest_change({g, c, b}, {g + 1, c, b}), 60) << g << ' ' << c << ' ' << b;
+      }
+    }
+  }
 }
 
-TEST(Tone, AllEndsTogetherStillKeepAtLeastSixtyFourTonesAndTheirOrder) {
-  for (const int g : {-5, 0, 5}) {
-    for (const int c : {-128, 0, 128}) {
-      for (const int b : {-128, 0, 128}) {
-        EXPECT_GE(distinct_samples({g, c, b}), 64U) << g << ' ' << c << ' ' << b;
-        expect_never_falling_within_range({g, c, b});
+TEST(Tone, EachStepOfContrastShowsWhateverTheOtherSlidersAre) {
+  for (const int g : stops(kGammaEnd)) {
+    for (const int b : stops(kBrightnessEnd)) {
+      for (int c = -128; c < 128; ++c) {
+        ASSERT_GE(largest_change({g, c, b}, {g, c + 1, b}), 16) << g << ' ' << c << ' ' << b;
+      }
+    }
+  }
+}
+
+TEST(Tone, EachStepOfBrightnessShowsWhateverTheOtherSlidersAre) {
+  for (const int g : stops(kGammaEnd)) {
+    for (const int c : stops(kContrastEnd)) {
+      for (int b = -128; b < 128; ++b) {
+        ASSERT_GE(largest_change({g, c, b}, {g, c, b + 1}), 32) << g << ' ' << c << ' ' << b;
+      }
+    }
+  }
+}
+
+TEST(Tone, GammaAndBrightnessKeepAll256ValuesApartAtEverySetting) {
+  for (int g = -5; g <= 5; ++g) {
+    for (int b = -128; b <= 128; b += 4) {
+      ASSERT_EQ(distinct_samples({g, 0, b}), 256U) << g << ' ' << b;
+    }
+  }
+}
+
+TEST(Tone, LowerContrastKeepsAll256ValuesApart) {
+  for (int c = -128; c <= 0; ++c) {
+    ASSERT_EQ(distinct_samples(contrast(c)), 256U) << c;
+  }
+}
+
+TEST(Tone, HigherContrastJoinsValuesOnlyNearBlackAndNearWhite) {
+  const Samples samples = samples_of(contrast(128));
+  for (std::size_t value = 48; value <= 207; ++value) {
+    EXPECT_GT(samples[value], samples[value - 1]) << value;
+  }
+  EXPECT_GE(distinct_samples(contrast(128)), 200U);
+}
+
+TEST(Tone, TheExtremesOfAllThreeTogetherStillShowAPicture) {
+  for (const int g : stops(kGammaEnd)) {
+    for (const int c : stops(kContrastEnd)) {
+      for (const int b : stops(kBrightnessEnd)) {
+        const ChannelTone tone{g, c, b};
+        EXPECT_GE(distinct_samples(tone), 176U) << g << ' ' << c << ' ' << b;
+        EXPECT_GE(midtones(tone), 72) << g << ' ' << c << ' ' << b;
+        EXPECT_GE(tone_level(tone, 1.0) - tone_level(tone, 0.0), 0.16) << g << ' ' << c << ' ' << b;
+        expect_never_falling_within_range(tone);
       }
     }
   }
