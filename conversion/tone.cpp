@@ -35,9 +35,10 @@ double apply_contrast(double level, double slope) {
 
 /// The odds level / (1 − level) times `odds`: in log odds a shift. It is Schlick's bias ("Fast
 /// alternatives to Perlin's bias and gain functions", Graphics Gems IV, 1994) with
-/// a = odds / (1 + odds). Paper white and full black stay, everything between moves.
+/// a = odds / (1 + odds). Paper white and full black stay, everything between moves; at 1 nothing
+/// is rounded, so the level stays exactly.
 double apply_brightness(double level, double odds) {
-  return odds == 1.0 ? level : odds * level / (1.0 + (odds - 1.0) * level);
+  return odds * level / (1.0 + (odds - 1.0) * level);
 }
 
 }  // namespace
