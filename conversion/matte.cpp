@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "conversion/matte.h"
 
-#include <cstring>
+#include <algorithm>
 #include <numeric>
 
 #include "conversion/matte_tile.h"
@@ -10,9 +10,9 @@ std::uint64_t lay_matte_row(std::size_t y, unsigned char* row, std::size_t width
   const unsigned char* piece = kMatteTile[y % kMatteTileSide];
   const std::size_t rest = width % kMatteTileSide;
   for (unsigned char* const last = row + (width - rest); row != last; row += kMatteTileSide) {
-    std::memcpy(row, piece, kMatteTileSide);
+    std::copy_n(piece, kMatteTileSide, row);
   }
-  std::memcpy(row, piece, rest);
+  std::copy_n(piece, rest, row);
   const std::uint64_t whole = width / kMatteTileSide;
   return whole * kMatteRowSums[y % kMatteTileSide] +
          std::accumulate(piece, piece + rest, std::uint64_t{0});
