@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// The printer model as an ICC profile, compiled in: the colours of the printer where no profile of
+// a measured printer is at hand.
+#ifndef TQR7_MODEL_PRINTER_MODEL_H
+#define TQR7_MODEL_PRINTER_MODEL_H
+
+#include <span>
+
+/// The profile made from model/printer_model.txt: the same bytes as the file tqr7.icc that comes
+/// with the filter. RGB, ICC version 4, matrix and curves.
+std::span<const unsigned char> printer_model_profile();
+
+#endif  // TQR7_MODEL_PRINTER_MODEL_H
