@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// The colour table for a page: of the profile in the module directory, or of the compiled-in model.
+#ifndef TQR7_CONVERSION_PRINTER_TABLE_H
+#define TQR7_CONVERSION_PRINTER_TABLE_H
+
+#include <memory>
+
+#include "conversion/builtin_table.h"
+#include "conversion/colour_table.h"
+
+/// One page's colour table. Any number of threads may each have their own.
+class PrinterTable {
+ public:
+  /// Takes the table of tqr7.icc in this directory, whose path may be null. This never fails: where
+  /// the file is missing, damaged or not to be trusted, and where there is no memory, it takes the
+  /// model's table, and the first time in a process says so in one line on standard error. The
+  /// last profile's table is kept in the process, and serves again while the file's content is the
+  /// same.
+  void load(const char* modulePath) noexcept;
+
+  /// The table that load() took, the model's before it. Stays as it is until the next load() of
+  /// this object, whatever becomes of the file.
+  const ColourTable& table() const { return owners_ != nullptr ? *owners_ : builtin_table(); }
+
+ private:
+  std::unique_ptr<ColourTable> owners_;  ///< null: the model's
+};
+
+#endif  // TQR7_CONVERSION_PRINTER_TABLE_H
