@@ -18,21 +18,16 @@ struct alignas(std::max_align_t) BlockHead {
 void* take_block(cmsContext context, cmsUInt32Number size) {
   auto* budget = static_cast<CmsBudget*>(cmsGetContextUserData(context));
   const std::size_t whole = sizeof(BlockHead) + size;
-  if (budget != nullptr && whole > budget->left) {
-    budget->exceeded = true;
-    return nullptr;
+  const bool allowed = budget == nullptr || whole <= budget->left;
+  auto* head = allowed ? static_cast<BlockHead*>(std::malloc(whole)) : nullptr;
+  if (head != nullptr) {
+    *head = {budget, whole};
   }
-  auto* head = static_cast<BlockHead*>(std::malloc(whole));
-  if (head == nullptr) {
-    return nullptr;
-  }
-  *head = {budget, whole};
   if (budget != nullptr) {
-    budget->left -= whole;
-    budget->inUse += whole;
-    budget->mostUsed = std::max(budget->mostUsed, budget->inUse);
+    budget->left -= head != nullptr ? whole : 0;
+    budget->refused = budget->refused || head == nullptr;
   }
-  return head + 1;
+  return head != nullptr ? head + 1 : nullptr;
 }
 
 void give_block_back(cmsContext /*context*/, void* block) {
@@ -42,7 +37,6 @@ void give_block_back(cmsContext /*context*/, void* block) {
   BlockHead* head = static_cast<BlockHead*>(block) - 1;
   if (head->budget != nullptr) {
     head->budget->left += head->size;
-    head->budget->inUse -= head->size;
   }
   std::free(head);
 }

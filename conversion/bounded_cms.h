@@ -13,12 +13,10 @@
 #include <span>
 #include <type_traits>
 
-/// What Little CMS may still take, and has not been given.
+/// The memory of one context.
 struct CmsBudget {
-  std::size_t left;      ///< bytes
-  std::size_t inUse;     ///< bytes taken now
-  std::size_t mostUsed;  ///< the largest inUse so far
-  bool exceeded;         ///< a request was refused
+  std::size_t left;      ///< bytes that it may still take
+  bool refused = false;  ///< a request was not granted, so that what it made may lack something
 };
 
 struct CmsContextDeleter {

@@ -19,6 +19,7 @@ inline constexpr std::size_t kProfileWorkingMemory = std::size_t{10} << 20;
 /// it). Takes any bytes; the profile is one of a printer, a screen or a colour space, RGB, of
 /// version 2 or 4, matrix or table kind. Null when the table is made, else why not, in a few
 /// words; the table's content is then undefined. Writes no message; any thread may call it.
-const char* make_colour_table(std::span<const unsigned char> profile, ColourTable& table);
+const char* make_colour_table(std::span<const unsigned char> profile, ColourTable& table,
+                              std::size_t workingMemory = kProfileWorkingMemory);
 
 #endif  // TQR7_CONVERSION_TABLE_FROM_PROFILE_H
