@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "conversion/rates.h"
 
+#include "conversion/engine_sample.h"
+
 namespace {
 
 /// 100 × part / whole to the nearest whole number, halves upwards.
@@ -9,24 +11,6 @@ unsigned char per_cent(std::uint64_t part, std::uint64_t whole) {
 }
 
 }  // namespace
-
-void add_samples(RateSum& sum, const EngineSample* samples, std::size_t count) {
-  std::uint64_t total = 0;
-  for (std::size_t i = 0; i < count; ++i) {
-    total += samples[i];
-  }
-  sum.total += total;
-  sum.count += count;
-}
-
-void add_bytes(RateSum& sum, const unsigned char* bytes, std::size_t count) {
-  std::uint64_t total = 0;
-  for (std::size_t i = 0; i < count; ++i) {
-    total += bytes[i];
-  }
-  sum.total += total;
-  sum.count += count;
-}
 
 unsigned char rgb_rate(const RateSum& samples) {
   const std::uint64_t white = samples.count * kEngineWhite;

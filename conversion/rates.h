@@ -4,10 +4,7 @@
 #ifndef TQR7_CONVERSION_RATES_H
 #define TQR7_CONVERSION_RATES_H
 
-#include <cstddef>
 #include <cstdint>
-
-#include "conversion/colour.h"
 
 /// The overcoat rate of a page without a matte plane: overcoat everywhere.
 inline constexpr unsigned char kFullOvercoat = 100;
@@ -17,9 +14,6 @@ struct RateSum {
   std::uint64_t total = 0;
   std::uint64_t count = 0;
 };
-
-void add_samples(RateSum& sum, const EngineSample* samples, std::size_t count);
-void add_bytes(RateSum& sum, const unsigned char* bytes, std::size_t count);
 
 /// The mean of 1 − sample / 0x3FFF in per cent, rounded: 0 for white paper, 100 for black. Only
 /// for a sum of at least one sample.

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Fuzzes the conversion library with any geometry, strides, settings and pixels. The bands lie in
-// buffers that hold exactly what their geometry promises, so the sanitizer sees every step beyond.
+// Fuzzes the conversion library with any geometry, strides, settings and pixels, on every kind of
+// processor that this computer can play: all must give the same bytes. The bands lie in buffers
+// that hold exactly what their geometry promises, so the sanitizer sees every step beyond.
+#include <hwy/targets.h>
+
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -97,13 +100,23 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const bool with_matte = (input.Take<std::uint8_t>() & 1U) != 0;
   const std::vector<unsigned char> before = destination.bytes;
 
-  unsigned char rgb_rate = 201;
-  unsigned char op_rate = 202;
-  const long code = MVChangeImage(&source.params, &params, &destination.params,
-                                  with_matte ? &matte.params : nullptr, &rgb_rate, &op_rate);
-  const bool refused_cleanly = rgb_rate == 201 && op_rate == 202 && destination.bytes == before;
-  if (code == 0 ? rgb_rate > 100 || op_rate > 100 : !refused_cleanly) {
-    std::abort();
+  std::vector<unsigned char> first;
+  for (const std::int64_t processor : hwy::SupportedAndGeneratedTargets()) {
+    hwy::SetSupportedTargetsForTest(processor);
+    destination.bytes = before;
+    unsigned char rgb_rate = 201;
+    unsigned char op_rate = 202;
+    const long code = MVChangeImage(&source.params, &params, &destination.params,
+                                    with_matte ? &matte.params : nullptr, &rgb_rate, &op_rate);
+    const bool refused_cleanly = rgb_rate == 201 && op_rate == 202 && destination.bytes == before;
+    if (code == 0 ? rgb_rate > 100 || op_rate > 100 : !refused_cleanly) {
+      std::abort();
+    }
+    if (first.empty()) {
+      first = destination.bytes;
+    } else if (destination.bytes != first) {
+      std::abort();
+    }
   }
   return 0;
 }

@@ -34,8 +34,8 @@ void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
 
 namespace {
 
-/// The requests of a sharpened page: its line, and three for the sharpening.
-constexpr int kRequests = 4;
+/// The requests of a page: its planes, three for the sharpening, a table for each channel's tones.
+constexpr int kRequests = 7;
 
 class NoMemory : public testing::Test {
  protected:

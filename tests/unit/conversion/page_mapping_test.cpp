@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The plain mapping: conversion off, tones 0, sharpness None.
+// Device values as they are: conversion off, tones 0, sharpness None.
 #include <gtest/gtest.h>
 
 #include "tests/unit/conversion/test_page.h"
@@ -47,14 +47,6 @@ TEST(PageMapping, EveryValueBecomesTheNearestSample) {
           << "value " << value << ", channel " << channel;
     }
   }
-}
-
-TEST(PageMapping, ColourConversionOnMapsAsOffUntilColoursAreMeasured) {
-  tagMVChangeParams on = plain_params();
-  on.dwFlags |= kChangeFlagColorConversion;
-  on.byOption[2] = 1;
-  EXPECT_EQ(convert(16, 9, on, busy_picture).samples,
-            convert(16, 9, plain_params(), busy_picture).samples);
 }
 
 TEST(PageMapping, FieldsWithoutAMeaningHereChangeNothing) {

@@ -92,11 +92,15 @@ TEST(PageTone, AllThreeTogetherFollowTheOrderGammaContrastBrightness) {
 }
 
 TEST(PageTone, SlidersWorkWithColourConversionOnToo) {
+  // Halfway up, a gamma of 5 gives what an unchanged photo has at 157.
   tagMVChangeParams params = plain_params();
   params.dwFlags |= kChangeFlagColorConversion;
   params.byOption[2] = 1;
-  params.nTone[kGamma] = 5;
-  EXPECT_EQ(convert_grey_ramp(params).samples, ramp_with(kGamma, 5).samples);
+  const auto plain = channel_of(convert_grey_ramp(params).samples, 0);
+  params.nTone[kGamma] = params.nTone[kGamma + 1] = params.nTone[kGamma + 2] = 5;
+  const auto toned = channel_of(convert_grey_ramp(params).samples, 0);
+  EXPECT_GT(toned[128], plain[156]);
+  EXPECT_LT(toned[128], plain[158]);
 }
 
 std::size_t distinct(const std::vector<std::uint16_t>& samples) {

@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
 namespace {
 
 TEST(Rates, WhitePaperTakesNoDyeAndBlackAllOfIt) {
@@ -34,20 +32,6 @@ TEST(Rates, TheLargestBandDoesNotOverflow) {
   EXPECT_EQ(rgb_rate({samples * 16383, samples}), 0);
   const std::uint64_t bytes = std::uint64_t{1} << 34;
   EXPECT_EQ(op_rate({bytes * 255, bytes}), 100);
-}
-
-TEST(Rates, LinesAddUp) {
-  const std::vector<EngineSample> samples{1, 20, 300};
-  const std::vector<unsigned char> bytes{255, 4};
-  RateSum sum;
-  add_samples(sum, samples.data(), 3);
-  add_samples(sum, samples.data(), 2);
-  EXPECT_EQ(sum.total, 342U);
-  EXPECT_EQ(sum.count, 5U);
-  RateSum matte;
-  add_bytes(matte, bytes.data(), 2);
-  EXPECT_EQ(matte.total, 259U);
-  EXPECT_EQ(matte.count, 2U);
 }
 
 }  // namespace

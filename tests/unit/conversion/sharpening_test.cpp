@@ -1,159 +1,190 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The sharpening of engine samples, with values worked out by hand.
+// The sharpening of whole pages, with values worked out by hand and against plain arithmetic.
 #include "conversion/sharpening.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <vector>
+#include <random>
+
+#include "tests/unit/conversion/plain_kernels.h"
 
 namespace {
 
-using Pixel = std::array<EngineSample, 3>;
-using Samples = std::vector<EngineSample>;
+using plain::Bytes;
+using Rows = std::vector<plain::Planes>;
 
-/// A page through the sharpener, lines in and out in their order.
-Samples sharpen(std::size_t width, std::size_t height, int amount,
-                const std::function<Pixel(std::size_t, std::size_t)>& picture) {
+/// A page through the sharpener, line by line. Rows lie top row first.
+Rows sharpen(std::vector<Bytes> page, int strength) {
+  const std::size_t width = page[0].size() / 3;
+  Bytes all;
+  for (const Bytes& row : page) {
+    all.insert(all.end(), row.begin(), row.end());
+  }
+  const BandRows rows{all.data(), static_cast<std::ptrdiff_t>(3 * width), width, page.size()};
   Sharpener sharpener;
   EXPECT_TRUE(sharpener.reserve(width));
-  Samples page(3 * width * height);
-  for (std::size_t next = 0; next < height + kSharpeningReach; ++next) {
-    if (next < height) {
-      for (std::size_t x = 0; x < width; ++x) {
-        const Pixel pixel = picture(x, next);
-        std::copy(pixel.begin(), pixel.end(), sharpener.line(next) + 3 * x);
-      }
-      sharpener.take_line(next);
+  LineMemory memory;
+  EXPECT_TRUE(memory.reserve(3, width));
+  const LinePlanes line{memory.line(0), memory.line(1), memory.line(2)};
+  Rows sharpened;
+  for (std::size_t y = 0; y < page.size(); ++y) {
+    sharpener.sharpen(rows, y, strength, line);
+    plain::Planes planes;
+    for (std::size_t channel = 0; channel < 3; ++channel) {
+      planes[channel].assign(line[channel], line[channel] + width);
     }
-    if (next >= kSharpeningReach) {
-      const std::size_t y = next - kSharpeningReach;
-      sharpener.sharpen_line(y, height, amount, &page[y * 3 * width]);
-    }
+    sharpened.push_back(planes);
   }
-  return page;
+  return sharpened;
 }
 
-Pixel grey(int value) {
-  const auto sample = static_cast<EngineSample>(value);
-  return {sample, sample, sample};
-}
-
-/// Greys of the first row, one number a pixel.
-std::vector<int> first_row(const Samples& page, std::size_t width) {
-  std::vector<int> row;
+/// `width` pixels, each of the colour that `picture` gives for its column.
+template <typename Picture>
+Bytes row_of(std::size_t width, Picture picture) {
+  Bytes row;
   for (std::size_t x = 0; x < width; ++x) {
-    row.push_back(page[3 * x]);
+    const std::array<int, 3> colour = picture(x);
+    for (const int channel : colour) {
+      row.push_back(static_cast<unsigned char>(channel));
+    }
   }
   return row;
 }
 
-TEST(Sharpening, LevelsGoFromALittleToMoreThanTheWholeDifference) {
-  EXPECT_EQ(sharpening_amount(0), 10);
-  EXPECT_EQ(sharpening_amount(1), 20);
-  EXPECT_EQ(sharpening_amount(2), 30);
-  EXPECT_EQ(sharpening_amount(3), 40);
-  EXPECT_EQ(sharpening_amount(4), 50);
-  EXPECT_EQ(sharpening_amount(5), 60);
-  EXPECT_EQ(sharpening_amount(6), 70);
+/// Greys 100 up to column 5, 156 from there on.
+Bytes edge_row() {
+  return row_of(12, [](std::size_t x) {
+    const int grey = x < 6 ? 100 : 156;
+    return std::array<int, 3>{grey, grey, grey};
+  });
+}
+
+Bytes grey_row(std::size_t width, int grey) {
+  return row_of(width, [grey](std::size_t) { return std::array<int, 3>{grey, grey, grey}; });
+}
+
+TEST(Sharpening, EachLevelAddsAnEighth) {
+  EXPECT_EQ(sharpening_strength(0), 1);
+  EXPECT_EQ(sharpening_strength(1), 2);
+  EXPECT_EQ(sharpening_strength(2), 3);
+  EXPECT_EQ(sharpening_strength(3), 4);
+  EXPECT_EQ(sharpening_strength(4), 5);
+  EXPECT_EQ(sharpening_strength(5), 6);
+  EXPECT_EQ(sharpening_strength(6), 7);
 }
 
 TEST(Sharpening, LevelsBeyondAnEndCountAsThatEnd) {
-  EXPECT_EQ(sharpening_amount(-1), 10);
-  EXPECT_EQ(sharpening_amount(-32768), 10);
-  EXPECT_EQ(sharpening_amount(7), 70);
-  EXPECT_EQ(sharpening_amount(32767), 70);
+  EXPECT_EQ(sharpening_strength(-1), 1);
+  EXPECT_EQ(sharpening_strength(-32768), 1);
+  EXPECT_EQ(sharpening_strength(7), 7);
+  EXPECT_EQ(sharpening_strength(32767), 7);
 }
 
-TEST(Sharpening, AnEdgeGetsTheSharesOfOneFourSixFourOneOnBothSides) {
-  // A step of 1600 in a single row: the blurs differ by 1/16 and 5/16 of it, times the amount 1.
-  const Samples page =
-      sharpen(8, 1, 64, [](std::size_t x, std::size_t) { return grey(x < 4 ? 4000 : 5600); });
-  EXPECT_EQ(first_row(page, 8), (std::vector<int>{4000, 4000, 3900, 3500, 6100, 5700, 5600, 5600}));
+TEST(Sharpening, AnEdgeGetsAnOvershootTwoPixelsWideOnEachSide) {
+  // On the fine scale 1600 and 2496. Blurred, the four pixels at the edge are 1730, 1926, 2170,
+  // 2366: 130 and 326 away from what they were. Less the threshold of 48, half of it is added. The
+  // next ones, 32 away, are left alone.
+  const plain::Line expected{1600, 1600, 1600, 1600, 1559, 1461,
+                             2635, 2537, 2496, 2496, 2496, 2496};
+  for (const plain::Planes& row : sharpen(std::vector<Bytes>(7, edge_row()), 4)) {
+    EXPECT_EQ(row[0], expected);
+    EXPECT_EQ(row[1], expected);
+    EXPECT_EQ(row[2], expected);
+  }
 }
 
 TEST(Sharpening, AnEdgeAcrossTheLinesGetsTheSame) {
-  const Samples page =
-      sharpen(1, 8, 64, [](std::size_t, std::size_t y) { return grey(y < 4 ? 4000 : 5600); });
-  EXPECT_EQ(first_row(page, 8), (std::vector<int>{4000, 4000, 3900, 3500, 6100, 5700, 5600, 5600}));
+  std::vector<Bytes> page(6, grey_row(5, 100));
+  page.insert(page.end(), 6, grey_row(5, 156));
+  const Rows rows = sharpen(page, 4);
+  const plain::Line expected{1600, 1600, 1600, 1600, 1559, 1461,
+                             2635, 2537, 2496, 2496, 2496, 2496};
+  for (std::size_t y = 0; y < 12; ++y) {
+    EXPECT_EQ(rows[y][1], plain::Line(5, expected[y])) << "row " << y;
+  }
 }
 
-TEST(Sharpening, ADotSpreadsItsShareOverFiveByFivePixels) {
-  // A dot of 2560 above its surroundings, in 256ths: 10 times the products of 1 4 6 4 1.
-  const Samples page = sharpen(
-      7, 7, 64, [](std::size_t x, std::size_t y) { return grey(x == 3 && y == 3 ? 6560 : 4000); });
-  const auto row = [&page](std::size_t y) {
-    std::vector<int> greys;
-    for (std::size_t x = 0; x < 7; ++x) {
-      greys.push_back(page[(y * 7 + x) * 3]);
+TEST(Sharpening, AllChannelsMoveByTheDifferenceOfTheirLuma) {
+  // Only green steps, by 64: luma by 183/256 of 1024, 732.
+  const auto colours = [](std::size_t x) { return std::array<int, 3>{200, x < 6 ? 60 : 124, 90}; };
+  const plain::Planes row = sharpen({row_of(12, colours)}, 7)[0];
+  for (std::size_t x = 0; x < 12; ++x) {
+    const int moved = row[0][x] - 16 * 200;
+    EXPECT_EQ(row[1][x] - 16 * (x < 6 ? 60 : 124), moved) << "column " << x;
+    EXPECT_EQ(row[2][x] - 16 * 90, moved) << "column " << x;
+  }
+  EXPECT_LT(row[0][5], 16 * 200 - 150);
+  EXPECT_GT(row[0][6], 16 * 200 + 150);
+}
+
+TEST(Sharpening, FlatFieldsStayExactlyAsTheyAre) {
+  for (int value = 0; value < 256; ++value) {
+    const auto flat = [value](std::size_t) {
+      return std::array<int, 3>{value, 255 - value, value / 2};
+    };
+    for (const plain::Planes& row : sharpen(std::vector<Bytes>(5, row_of(5, flat)), 7)) {
+      ASSERT_EQ(row[0], plain::Line(5, static_cast<std::uint16_t>(16 * value)));
+      ASSERT_EQ(row[1], plain::Line(5, static_cast<std::uint16_t>(16 * (255 - value))));
+      ASSERT_EQ(row[2], plain::Line(5, static_cast<std::uint16_t>(16 * (value / 2))));
     }
-    return greys;
+  }
+}
+
+TEST(Sharpening, ABlackToWhiteEdgeStaysWithinTheScale) {
+  const auto edge = [](std::size_t x) {
+    return std::array<int, 3>{x < 6 ? 2 : 253, x < 6 ? 2 : 253, x < 6 ? 2 : 253};
   };
-  EXPECT_EQ(row(0), (std::vector<int>{4000, 4000, 4000, 4000, 4000, 4000, 4000}));
-  EXPECT_EQ(row(1), (std::vector<int>{4000, 3990, 3960, 3940, 3960, 3990, 4000}));
-  EXPECT_EQ(row(2), (std::vector<int>{4000, 3960, 3840, 3760, 3840, 3960, 4000}));
-  EXPECT_EQ(row(3), (std::vector<int>{4000, 3940, 3760, 8760, 3760, 3940, 4000}));
-  EXPECT_EQ(row(4), row(2));
-  EXPECT_EQ(row(5), row(1));
-  EXPECT_EQ(row(6), row(0));
+  const plain::Planes row = sharpen({row_of(12, edge)}, 7)[0];
+  EXPECT_EQ(row[0][5], 0);
+  EXPECT_EQ(row[0][6], 4080);
 }
 
-TEST(Sharpening, TheAmountIsIn64ths) {
-  const Samples page =
-      sharpen(8, 1, 16, [](std::size_t x, std::size_t) { return grey(x < 4 ? 4000 : 5600); });
-  EXPECT_EQ(first_row(page, 8), (std::vector<int>{4000, 4000, 3975, 3875, 5725, 5625, 5600, 5600}));
+TEST(Sharpening, WhatRunsIntoThePagesEdgeIsSharpenedThereAsInTheMiddle) {
+  std::vector<Bytes> page(21, edge_row());
+  const Rows rows = sharpen(page, 7);
+  EXPECT_EQ(rows.front(), rows[10]);
+  EXPECT_EQ(rows.back(), rows[10]);
 }
 
-TEST(Sharpening, BeyondThePageItsOutermostPixelsContinue) {
-  // The left pixel alone is lighter by 1600; beyond the edge it counts twice more.
-  const Samples page =
-      sharpen(4, 1, 64, [](std::size_t x, std::size_t) { return grey(x == 0 ? 5600 : 4000); });
-  EXPECT_EQ(first_row(page, 4), (std::vector<int>{6100, 3500, 3900, 4000}));
-  const Samples column =
-      sharpen(1, 4, 64, [](std::size_t, std::size_t y) { return grey(y == 3 ? 5600 : 4000); });
-  EXPECT_EQ(first_row(column, 4), (std::vector<int>{4000, 3900, 3500, 6100}));
-}
-
-TEST(Sharpening, AllChannelsMoveByTheDifferenceOfTheirLuminance) {
-  // Only green steps, by 2560: the luminance by 150/256 of it, 1500, of which 5/16 is 469.
-  const Samples page = sharpen(6, 1, 64, [](std::size_t x, std::size_t) {
-    return Pixel{8000, static_cast<EngineSample>(x < 3 ? 4000 : 6560), 7000};
-  });
-  EXPECT_EQ(page[6], 8000 - 469);
-  EXPECT_EQ(page[7], 4000 - 469);
-  EXPECT_EQ(page[8], 7000 - 469);
-  EXPECT_EQ(page[9], 8000 + 469);
-  EXPECT_EQ(page[10], 6560 + 469);
-  EXPECT_EQ(page[11], 7000 + 469);
-}
-
-TEST(Sharpening, FlatFieldsOfEveryLevelStayExactlyAsTheyAre) {
-  for (int value = 0; value <= 16383; value += 13) {
-    const Pixel pixel{static_cast<EngineSample>(value), static_cast<EngineSample>(16383 - value),
-                      static_cast<EngineSample>(value / 2)};
-    const Samples page = sharpen(3, 3, 70, [&pixel](std::size_t, std::size_t) { return pixel; });
-    for (std::size_t i = 0; i < page.size(); ++i) {
-      ASSERT_EQ(page[i], pixel[i % 3]) << "value " << value;
+TEST(Sharpening, APixelReachesFourPixelsFar) {
+  std::mt19937 generator(4);
+  std::vector<Bytes> page;
+  for (std::size_t y = 0; y < 19; ++y) {
+    page.push_back(row_of(19, [&generator](std::size_t) {
+      const int grey = static_cast<int>(generator() % 256);
+      return std::array<int, 3>{grey, grey, grey};
+    }));
+  }
+  page[9][27] = page[9][28] = page[9][29] = 0;
+  const Rows dark = sharpen(page, 7);
+  page[9][27] = page[9][28] = page[9][29] = 255;
+  const Rows light = sharpen(page, 7);
+  std::size_t changed = 0;
+  for (std::size_t y = 0; y < 19; ++y) {
+    for (std::size_t x = 0; x < 19; ++x) {
+      if (dark[y][0][x] != light[y][0][x]) {
+        ++changed;
+        EXPECT_TRUE(x >= 5 && x <= 13 && y >= 5 && y <= 13) << "column " << x << ", row " << y;
+      }
     }
   }
+  EXPECT_GT(changed, 20U);
 }
 
-TEST(Sharpening, NothingLeavesTheFourteenBits) {
-  const Samples page = sharpen(16, 16, 70, [](std::size_t x, std::size_t y) {
-    return grey((x / 2 + y / 3) % 2 == 0 ? 0 : 16383);
-  });
-  for (const EngineSample sample : page) {
-    ASSERT_LE(sample, 16383);
+TEST(Sharpening, PagesOfEveryShapeComeOutAsPlainArithmeticHasThem) {
+  std::mt19937 generator(5);
+  for (const std::size_t width : {1, 2, 3, 4, 5, 8, 9, 17, 33, 100}) {
+    for (const std::size_t height : {1, 2, 3, 4, 5, 6, 9, 11}) {
+      std::vector<Bytes> page(height, Bytes(3 * width));
+      for (Bytes& row : page) {
+        for (unsigned char& byte : row) {
+          byte = static_cast<unsigned char>(generator() % 256);
+        }
+      }
+      EXPECT_EQ(sharpen(page, 7), plain::sharpen_page(page, 7)) << width << " x " << height;
+    }
   }
-  EXPECT_EQ(page[0], 0);  // what would fall below black stays black
-}
-
-TEST(Sharpening, PagesOfASingleRowColumnOrPixelWork) {
-  const auto flat = [](std::size_t, std::size_t) { return grey(900); };
-  EXPECT_EQ(sharpen(1, 1, 70, flat), (Samples{900, 900, 900}));
-  EXPECT_EQ(sharpen(2, 1, 70, flat), Samples(6, 900));
-  EXPECT_EQ(sharpen(1, 2, 70, flat), Samples(6, 900));
 }
 
 }  // namespace

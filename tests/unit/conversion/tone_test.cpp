@@ -7,10 +7,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <set>
 
-#include "conversion/colour.h"
+#include "conversion/engine_sample.h"
 
 namespace {
 
@@ -20,7 +21,7 @@ Samples samples_of(const ChannelTone& tone) {
   const ToneCurve curve = make_tone_curve(tone);
   Samples samples{};
   for (std::size_t value = 0; value < 256; ++value) {
-    samples[value] = sample_of_level(curve[value]);
+    samples[value] = static_cast<int>(std::lround(curve[value] * kEngineWhite));
   }
   return samples;
 }

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "conversion/page_converter.h"
+
+#include <cstdint>
+
+#include "conversion/engine_sample.h"
+#include "conversion/photo_kernels.h"
+#include "conversion/sample_kernels.h"
+
+namespace {
+
+constexpr std::uint16_t kByteWhite = 255;
+
+}  // namespace
+
+bool PageConverter::prepare(const tagMVChangeParams& params, std::size_t width) {
+  sharpen_ = (params.dwFlags & kChangeFlagSharpness) != 0;
+  conversion_ = (params.dwFlags & kChangeFlagColorConversion) != 0;
+  neutralTone_ = conversion_ && tone_is_neutral(params);
+  strength_ = sharpening_strength(params.nSharpness);
+  if (!planes_.reserve(line_.size(), width) || (sharpen_ && !sharpener_.reserve(width))) {
+    return false;
+  }
+  for (std::size_t channel = 0; channel < line_.size(); ++channel) {
+    line_[channel] = planes_.line(channel);
+  }
+  if (conversion_) {
+    printer_.load(params.pszModulePath);
+  }
+  return neutralTone_ || tones_.make(params, sharpen_ ? kFineWhite : kByteWhite,
+                                     conversion_ ? kPositionWhite : kEngineWhite);
+}
+
+void PageConverter::take_line(const BandRows& source, std::size_t y) {
+  if (sharpen_) {
+    sharpener_.sharpen(source, y, strength_, line_);
+  } else {
+    split_line(source.row(y), source.width, line_);
+  }
+}
+
+void PageConverter::set_tones(std::size_t width) {
+  if (!neutralTone_) {
+    tones_.apply(line_, width);
+  } else if (sharpen_) {
+    positions_of_fine(line_, width);
+  } else {
+    positions_of_bytes(line_, width);
+  }
+}
+
+RateSum PageConverter::convert(const BandRows& source, const BandRows& destination) {
+  RateSum sum{0, 3 * std::uint64_t{source.width} * source.height};
+  for (std::size_t y = 0; y < source.height; ++y) {
+    take_line(source, y);
+    set_tones(source.width);
+    sum.total += conversion_
+                     ? interpolate_line(printer_.table(), line_, source.width, destination.row(y))
+                     : join_line(line_, source.width, destination.row(y));
+  }
+  return sum;
+}

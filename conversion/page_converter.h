@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// One page's way from the photo's bytes to the print engine's samples, a line at a time:
+// sharpening, tone, colour. All that is held beside the page is a few lines and the tables.
+#ifndef TQR7_CONVERSION_PAGE_CONVERTER_H
+#define TQR7_CONVERSION_PAGE_CONVERTER_H
+
+#include <cstddef>
+
+#include "conversion/band_rows.h"
+#include "conversion/line_planes.h"
+#include "conversion/printer_table.h"
+#include "conversion/rates.h"
+#include "conversion/sharpening.h"
+#include "conversion/tone_tables.h"
+#include "image/mv_change_image.h"
+
+class PageConverter {
+ public:
+  /// Takes all memory that a page of this width needs, and works out its tables: after that a page
+  /// is converted whole. False when there is not the memory.
+  bool prepare(const tagMVChangeParams& params, std::size_t width);
+
+  /// Converts the page, and returns the sum of the samples written. Only once after prepare().
+  RateSum convert(const BandRows& source, const BandRows& destination);
+
+ private:
+  void take_line(const BandRows& source, std::size_t y);
+  void set_tones(std::size_t width);
+
+  bool sharpen_ = false;
+  bool conversion_ = false;   ///< colours go through the printer's table
+  bool neutralTone_ = false;  ///< the sliders need no tables on the way to the printer's
+  int strength_ = 0;
+  LinePlanes line_{};
+  LineMemory planes_;
+  Sharpener sharpener_;
+  ToneTables tones_;
+  PrinterTable printer_;
+};
+
+#endif  // TQR7_CONVERSION_PAGE_CONVERTER_H

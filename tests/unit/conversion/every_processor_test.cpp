@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// The inner loops on every kind of processor that this computer can play, against plain arithmetic:
+// a photo must not look different on another computer.
+#include <gtest/gtest.h>
+#include <hwy/targets.h>
+
+#include <cstring>
+#include <random>
+
+#include "conversion/photo_kernels.h"
+#include "conversion/sample_kernels.h"
+#include "tests/unit/conversion/plain_kernels.h"
+
+namespace {
+
+/// A line's length for each way that it can end in a vector or in a block of pixels, and a sheet's.
+std::vector<std::size_t> lengths() {
+  std::vector<std::size_t> all{1852, 255, 256, 257, 258};
+  for (std::size_t length = 1; length <= 134; ++length) {
+    all.push_back(length);
+  }
+  return all;
+}
+
+plain::Bytes random_rgb(std::size_t pixels) {
+  std::mt19937 generator(static_cast<unsigned>(pixels));
+  plain::Bytes rgb(3 * pixels);
+  for (unsigned char& byte : rgb) {
+    // Black and white come often: the ends are where clamping happens.
+    const auto number = generator() % 320;
+    byte = static_cast<unsigned char>(number < 256 ? number : number % 2 * 255);
+  }
+  return rgb;
+}
+
+plain::Line random_line(std::size_t pixels, unsigned highest, unsigned seed) {
+  std::mt19937 generator(seed);
+  plain::Line line(pixels);
+  for (std::uint16_t& number : line) {
+    const auto any = generator() % (highest + highest / 4);
+    number = static_cast<std::uint16_t>(any <= highest ? any : any % 2 * highest);
+  }
+  return line;
+}
+
+ColourTable make_random_table() {
+  ColourTable table{};
+  std::mt19937 generator(33);
+  for (ColourNode& node : table.nodes) {
+    for (std::size_t channel = 0; channel < 3; ++channel) {
+      node[channel] = static_cast<std::int16_t>(generator() % 65536 - 32768);
+    }
+  }
+  return table;
+}
+
+/// Nodes anywhere in 16 bits: the loops must not rely on a table that was made with sense.
+const ColourTable& random_table() {
+  static const ColourTable table = make_random_table();
+  return table;
+}
+
+/// Lines in memory as the loops want them.
+class Lines {
+ public:
+  Lines(std::size_t lines, std::size_t pixels) : pixels_(pixels) {
+    EXPECT_TRUE(memory_.reserve(lines, pixels));
+  }
+
+  std::uint16_t* line(std::size_t number) { return memory_.line(number); }
+  LinePlanes planes(std::size_t first) { return {line(first), line(first + 1), line(first + 2)}; }
+  void put(std::size_t number, const plain::Line& numbers) {
+    std::memcpy(line(number), numbers.data(), 2 * numbers.size());
+  }
+  plain::Line get(std::size_t number) { return {line(number), line(number) + pixels_}; }
+  plain::Planes get_planes(std::size_t first) {
+    return {get(first), get(first + 1), get(first + 2)};
+  }
+
+ private:
+  std::size_t pixels_;
+  LineMemory memory_;
+};
+
+class EveryProcessor : public testing::TestWithParam<std::int64_t> {
+ protected:
+  void SetUp() override { hwy::SetSupportedTargetsForTest(GetParam()); }
+  void TearDown() override { hwy::SetSupportedTargetsForTest(0); }
+};
+
+TEST_P(EveryProcessor, TakesThePhotosBytesApart) {
+  for (const std::size_t pixels : lengths()) {
+    const plain::Bytes rgb = random_rgb(pixels);
+    Lines lines(3, pixels);
+    split_line(rgb.data(), pixels, lines.planes(0));
+    for (std::size_t x = 0; x < pixels; ++x) {
+      ASSERT_EQ(lines.line(0)[x], rgb[3 * x]) << pixels << " pixels, at " << x;
+      ASSERT_EQ(lines.line(1)[x], rgb[3 * x + 1]) << pixels << " pixels, at " << x;
+      ASSERT_EQ(lines.line(2)[x], rgb[3 * x + 2]) << pixels << " pixels, at " << x;
+    }
+  }
+}
+
+TEST_P(EveryProcessor, SeesTheSameLuma) {
+  for (const std::size_t pixels : lengths()) {
+    const plain::Bytes rgb = random_rgb(pixels);
+    Lines lines(1, pixels);
+    luma_line(rgb.data(), pixels, lines.line(0));
+    ASSERT_EQ(lines.get(0), plain::luma(rgb)) << pixels << " pixels";
+  }
+}
+
+TEST_P(EveryProcessor, BlursAlongTheLineTheSame) {
+  for (const std::size_t pixels : lengths()) {
+    const plain::Line numbers = random_line(pixels, kFineWhite, 1);
+    Lines lines(2, pixels);
+    lines.put(0, numbers);
+    blur_along(lines.line(0), pixels, lines.line(1));
+    ASSERT_EQ(lines.get(1), plain::blur_along(numbers)) << pixels << " pixels";
+  }
+}
+
+TEST_P(EveryProcessor, BlursAcrossFiveLinesTheSame) {
+  for (const std::size_t pixels : lengths()) {
+    Lines lines(6, pixels);
+    std::array<plain::Line, 5> numbers;
+    for (unsigned i = 0; i < 5; ++i) {
+      numbers[i] = random_line(pixels, kFineWhite, i);
+      lines.put(i, numbers[i]);
+    }
+    blur_across({lines.line(0), lines.line(1), lines.line(2), lines.line(3), lines.line(4)}, pixels,
+                lines.line(5));
+    for (std::size_t x = 0; x < pixels; ++x) {
+      ASSERT_EQ(lines.line(5)[x], plain::weigh(numbers[0][x], numbers[1][x], numbers[2][x],
+                                               numbers[3][x], numbers[4][x]))
+          << pixels << " pixels, at " << x;
+    }
+  }
+}
+
+TEST_P(EveryProcessor, SharpensTheSameAtEveryStrength) {
+  for (int strength = 0; strength <= 7; ++strength) {
+    for (const std::size_t pixels : lengths()) {
+      const plain::Bytes rgb = random_rgb(pixels);
+      const plain::Line blurred = random_line(pixels, kFineWhite, 9);
+      Lines lines(4, pixels);
+      lines.put(3, blurred);
+      sharpen_line(rgb.data(), lines.line(3), pixels, strength, lines.planes(0));
+      ASSERT_EQ(lines.get_planes(0), plain::sharpen(rgb, blurred, strength))
+          << pixels << " pixels, strength " << strength;
+    }
+  }
+}
+
+TEST_P(EveryProcessor, FindsThePlaceOfEveryByteAndEveryFineNumber) {
+  Lines bytes(3, 256);
+  Lines fine(3, 4081);
+  for (std::size_t plane = 0; plane < 3; ++plane) {
+    for (std::uint16_t i = 0; i <= 4080; ++i) {
+      fine.line(plane)[i] = i;
+      bytes.line(plane)[i % 256] = i % 256;
+    }
+  }
+  positions_of_bytes(bytes.planes(0), 256);
+  positions_of_fine(fine.planes(0), 4081);
+  for (std::size_t plane = 0; plane < 3; ++plane) {
+    for (int i = 0; i < 256; ++i) {
+      ASSERT_EQ(bytes.line(plane)[i], (2 * i * 16384 + 255) / 510);
+    }
+    for (int i = 0; i <= 4080; ++i) {
+      ASSERT_EQ(fine.line(plane)[i], (2 * i * 16384 + 4080) / 8160);
+    }
+  }
+}
+
+TEST_P(EveryProcessor, MixesTheSameSamplesFromTheTableAndAddsThemUp) {
+  for (const std::size_t pixels : lengths()) {
+    Lines lines(3, pixels);
+    const plain::Planes places{random_line(pixels, kPositionWhite, 2),
+                               random_line(pixels, kPositionWhite, 3),
+                               random_line(pixels, kPositionWhite, 4)};
+    for (std::size_t channel = 0; channel < 3; ++channel) {
+      lines.put(channel, places[channel]);
+    }
+    plain::Bytes samples(6 * pixels);
+    const std::uint64_t sum =
+        interpolate_line(random_table(), lines.planes(0), pixels, samples.data());
+    std::uint64_t expectedSum = 0;
+    for (std::size_t x = 0; x < pixels; ++x) {
+      std::array<std::uint16_t, 3> pixel{};
+      std::memcpy(pixel.data(), &samples[6 * x], 6);
+      ASSERT_EQ(pixel,
+                plain::interpolate(random_table(), {places[0][x], places[1][x], places[2][x]}))
+          << pixels << " pixels, at " << x;
+      expectedSum += std::uint64_t{pixel[0]} + pixel[1] + pixel[2];
+    }
+    ASSERT_EQ(sum, expectedSum) << pixels << " pixels";
+  }
+}
+
+TEST_P(EveryProcessor, WritesNoByteBesideALinesSamples) {
+  for (std::size_t pixels = 1; pixels <= 134; ++pixels) {
+    Lines lines(3, pixels);
+    plain::Bytes samples(6 * pixels + 32, 0xA5);
+    interpolate_line(random_table(), lines.planes(0), pixels, samples.data() + 1);
+    EXPECT_EQ(samples[0], 0xA5);
+    for (std::size_t i = 1 + 6 * pixels; i < samples.size(); ++i) {
+      ASSERT_EQ(samples[i], 0xA5) << pixels << " pixels";
+    }
+  }
+}
+
+std::string name_of(const testing::TestParamInfo<std::int64_t>& target) {
+  return hwy::TargetName(target.param);
+}
+
+INSTANTIATE_TEST_SUITE_P(OnThisComputer, EveryProcessor,
+                         testing::ValuesIn(hwy::SupportedAndGeneratedTargets()), name_of);
+
+}  // namespace
