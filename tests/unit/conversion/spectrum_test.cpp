@@ -82,7 +82,7 @@ TEST(Spectrum, WhiteNoiseIsLikeItselfOnlyWhereItIsNotMoved) {
 }
 
 TEST(Spectrum, APatternOfFiveColumnsAndSevenRowsIsFoundAgainThere) {
-  std::vector<unsigned char> pattern(64 * 64);
+  std::vector<unsigned char> pattern(4096);
   for (std::size_t y = 0; y < 64; ++y) {
     for (std::size_t x = 0; x < 64; ++x) {
       pattern[y * 64 + x] = (x % 5 == 0 && y % 7 == 0) ? 255 : 0;
