@@ -67,6 +67,16 @@ void add_place_options(CLI::App& app, Options& options) {
       ->type_name("FILE");
 }
 
+void add_colour_options(CLI::App& app, Options& options) {
+  CLI::Option* const profile =
+      app.add_option("--profile", options.profile,
+                     "ICC profile to show the colours of the print through (the model built in)")
+          ->type_name("FILE");
+  app.add_flag("--device-values", options.deviceValues,
+               "show the printer's own values and not the colours of the print")
+      ->excludes(profile);
+}
+
 void add_answer_options(CLI::App& app, Options& options) {
   add_number(
       app, "--status", "error number to answer status requests with (0)", "NUMBER", 0, kNumberMost,
@@ -95,6 +105,7 @@ std::optional<int> read_command_line(int argc, const char* const* argv, Options&
   CLI::App app{"A simulated TQR7 printer: takes jobs over the network and prints them to PNG files",
                "tqr7-printer-sim"};
   add_place_options(app, options);
+  add_colour_options(app, options);
   add_answer_options(app, options);
   add_end_options(app, options);
   try {

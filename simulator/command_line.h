@@ -19,7 +19,9 @@ struct Options {
   std::uint16_t status = 0;
   std::uint16_t enable = 0;
   std::uint64_t busy = 0;
-  std::string record;  ///< empty: no record
+  std::string record;                  ///< empty: no record
+  std::optional<std::string> profile;  ///< none: the printer model built in
+  bool deviceValues = false;           ///< sheets show the device values
   std::optional<std::uint64_t> connections;
 };
 

@@ -47,7 +47,7 @@ void flush_bytes(png_structp /*png*/) {}
 // setjmp is libpng's way to report errors.
 // NOLINTBEGIN(cert-err52-cpp)
 bool begin_png(png_structp png, png_infop info, std::FILE* file, png_uint_32 width,
-               png_uint_32 height) {
+               png_uint_32 height, Meaning meaning) {
   if (setjmp(png_jmpbuf(png)) != 0) {
     return false;
   }
@@ -57,7 +57,9 @@ bool begin_png(png_structp png, png_infop info, std::FILE* file, png_uint_32 wid
   png_set_IHDR(png, info, width, height, 8, PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
                PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
   png_set_pHYs(png, info, kDotsPerMetre, kDotsPerMetre, PNG_RESOLUTION_METER);
-  png_set_sRGB(png, info, PNG_sRGB_INTENT_PERCEPTUAL);
+  if (meaning == Meaning::ScreenColours) {
+    png_set_sRGB(png, info, PNG_sRGB_INTENT_RELATIVE);
+  }
   png_write_info(png, info);
   return true;
 }
@@ -102,7 +104,8 @@ struct PngWriter::Encoder {
   png_infop info;
 };
 
-PngWriter::PngWriter(const std::filesystem::path& folder, std::uint32_t width, std::uint32_t height)
+PngWriter::PngWriter(const std::filesystem::path& folder, std::uint32_t width, std::uint32_t height,
+                     Meaning meaning)
     : temporaryPath_(folder / (".sheet-" + std::to_string(::getpid()) + ".part")),
       encoder_(std::make_unique<Encoder>()) {
   // A link or a device that someone put under the hidden name is not followed.
@@ -113,7 +116,7 @@ PngWriter::PngWriter(const std::filesystem::path& folder, std::uint32_t width, s
     Fail(error_words(errno));
   } else if (encoder_->info == nullptr) {
     Fail("no memory for the PNG");
-  } else if (!begin_png(encoder_->png, encoder_->info, file_, width, height)) {
+  } else if (!begin_png(encoder_->png, encoder_->info, file_, width, height, meaning)) {
     Fail(encoder_->Reason());
   }
 }

@@ -14,12 +14,16 @@
 
 namespace simulator {
 
-/// Writes one file: 8-bit RGB, sRGB, 300 dpi. After a failure further calls do nothing; Error says
+/// What the numbers of a picture are: the file says that they are sRGB, or nothing of colours.
+enum class Meaning : std::uint8_t { ScreenColours, DeviceValues };
+
+/// Writes one file: 8-bit RGB, 300 dpi. After a failure further calls do nothing; Error says
 /// what happened first. A file that was not finished is removed.
 class PngWriter {
  public:
   /// Begins a file in this folder under a name of its own.
-  PngWriter(const std::filesystem::path& folder, std::uint32_t width, std::uint32_t height);
+  PngWriter(const std::filesystem::path& folder, std::uint32_t width, std::uint32_t height,
+            Meaning meaning);
   PngWriter(const PngWriter&) = delete;
   PngWriter& operator=(const PngWriter&) = delete;
   ~PngWriter();

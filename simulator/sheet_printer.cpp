@@ -6,15 +6,17 @@
 namespace simulator {
 
 SheetPrinter::Page::Page(const decoder::Sheet& pageSheet, std::uint64_t pageNumber,
-                         const std::filesystem::path& folder)
+                         const std::filesystem::path& folder, const decoder::SoftProof* proof)
     : sheet(pageSheet),
       number(pageNumber),
-      writer(folder, pageSheet.job.sheetWidth, pageSheet.job.sheetHeight),
-      renderer(pageSheet, [this](std::span<const std::uint8_t> row) { writer.WriteRow(row); }) {}
+      writer(folder, pageSheet.job.sheetWidth, pageSheet.job.sheetHeight,
+             proof != nullptr ? Meaning::ScreenColours : Meaning::DeviceValues),
+      renderer(pageSheet, proof,
+               [this](std::span<const std::uint8_t> row) { writer.WriteRow(row); }) {}
 
 void SheetPrinter::Begin(const decoder::Sheet& sheet) {
   page_.reset();
-  page_ = std::make_unique<Page>(sheet, folder_.TakeNumber(), folder_.Path());
+  page_ = std::make_unique<Page>(sheet, folder_.TakeNumber(), folder_.Path(), proof_);
 }
 
 void SheetPrinter::ImageRow(std::uint32_t row, std::span<const std::uint16_t> samples) {

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "decoder/command_listener.h"
+#include "decoder/soft_proof.h"
 #include "simulator/png_writer.h"
 #include "simulator/sheet_folder.h"
 #include "simulator/sheet_renderer.h"
@@ -28,8 +29,10 @@ struct SheetResult {
 /// Prints one sheet after another into a folder. Holds one sheet at most.
 class SheetPrinter {
  public:
-  /// The folder must outlive the printer.
-  explicit SheetPrinter(SheetFolder& folder) : folder_(folder) {}
+  /// Sheets are drawn through `proof`, or show the device values when it is null. Folder and proof
+  /// must outlive the printer.
+  SheetPrinter(SheetFolder& folder, const decoder::SoftProof* proof)
+      : folder_(folder), proof_(proof) {}
 
   /// A sheet lies in the printer, begun and neither ended nor cut.
   bool Busy() const { return page_ != nullptr; }
@@ -47,7 +50,7 @@ class SheetPrinter {
  private:
   struct Page {
     Page(const decoder::Sheet& pageSheet, std::uint64_t pageNumber,
-         const std::filesystem::path& folder);
+         const std::filesystem::path& folder, const decoder::SoftProof* proof);
 
     decoder::Sheet sheet;
     std::uint64_t number;
@@ -58,6 +61,7 @@ class SheetPrinter {
   SheetResult Close(const std::filesystem::path& name);
 
   SheetFolder& folder_;
+  const decoder::SoftProof* proof_;
   std::unique_ptr<Page> page_;
 };
 

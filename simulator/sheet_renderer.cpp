@@ -27,8 +27,10 @@ std::uint8_t under_matte(std::uint8_t value, std::uint8_t matte) {
   return static_cast<std::uint8_t>((value * share + kMatteScale / 2) / kMatteScale);
 }
 
-SheetRenderer::SheetRenderer(const decoder::Sheet& sheet, RowSink sink)
+SheetRenderer::SheetRenderer(const decoder::Sheet& sheet, const decoder::SoftProof* proof,
+                             RowSink sink)
     : sheet_(sheet),
+      proof_(proof),
       sink_(std::move(sink)),
       pixels_(kChannels * sheet.job.sheetWidth * sheet.job.sheetHeight, kWhite) {}
 
@@ -40,7 +42,11 @@ std::span<std::uint8_t> SheetRenderer::Row(std::size_t row) {
 void SheetRenderer::ImageRow(std::uint32_t row, std::span<const std::uint16_t> samples) {
   const std::size_t sheetRow = std::size_t{sheet_.image.top} + row;
   const auto place = Row(sheetRow).subspan(kChannels * sheet_.image.left, samples.size());
-  std::transform(samples.begin(), samples.end(), place.begin(), sample_to_byte);
+  if (proof_ != nullptr) {
+    proof_->ToScreen(samples, place);
+  } else {
+    std::transform(samples.begin(), samples.end(), place.begin(), sample_to_byte);
+  }
   if (sheet_.image.matteHeight == 0) {
     HandOnUpTo(sheetRow + 1);
   }

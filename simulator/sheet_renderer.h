@@ -3,7 +3,8 @@
 // One sheet as a person would see it: the image on its place on white paper, in 8-bit RGB, and the
 // matte texture over the whole of it.
 //
-// A 14-bit value v becomes round(v × 255 / 16383). With a matte plane, a matte byte m scales each
+// The colours come from a soft proof; without one a 14-bit value v is shown as it is, as
+// round(v × 255 / 16383). With a matte plane, a matte byte m scales each
 // of the dot's values by (1785 + m) / 2040: 0xFF, the full overcoat, leaves them, 0x00 takes an
 // eighth away. The texture so shows as a light grain, and the colours stay to be judged.
 #ifndef TQR7_SIMULATOR_SHEET_RENDERER_H
@@ -15,6 +16,7 @@
 #include <vector>
 
 #include "decoder/command_listener.h"
+#include "decoder/soft_proof.h"
 
 namespace simulator {
 
@@ -31,8 +33,9 @@ std::uint8_t under_matte(std::uint8_t value, std::uint8_t matte);
 /// more. Holds the sheet's pixels, and no more than that.
 class SheetRenderer {
  public:
-  /// `sheet` must have passed the decoder's checks.
-  SheetRenderer(const decoder::Sheet& sheet, RowSink sink);
+  /// `sheet` must have passed the decoder's checks. `proof` must outlive the renderer; null shows
+  /// the device values.
+  SheetRenderer(const decoder::Sheet& sheet, const decoder::SoftProof* proof, RowSink sink);
 
   void ImageRow(std::uint32_t row, std::span<const std::uint16_t> samples);
 
@@ -47,6 +50,7 @@ class SheetRenderer {
   void HandOnUpTo(std::size_t endRow);
 
   decoder::Sheet sheet_;
+  const decoder::SoftProof* proof_;
   RowSink sink_;
   std::vector<std::uint8_t> pixels_;
   std::size_t rowsOut_ = 0;

@@ -4,9 +4,13 @@
 #include <cerrno>
 #include <cstdio>
 #include <exception>
+#include <memory>
 #include <string>
 #include <system_error>
+#include <vector>
 
+#include "decoder/profile_file.h"
+#include "decoder/soft_proof.h"
 #include "simulator/command_line.h"
 #include "simulator/event_log.h"
 #include "simulator/printer_answers.h"
@@ -42,9 +46,37 @@ std::string write_port_file(const std::string& path, std::uint16_t port) {
   return {};
 }
 
+// Why the profile asked for cannot be used; empty when all is well. Device values need no proof.
+std::string make_proof(const Options& options, std::unique_ptr<decoder::SoftProof>& proof) {
+  std::string why;
+  if (options.profile) {
+    const std::vector<std::uint8_t> profile = decoder::read_profile_file(*options.profile, why);
+    if (why.empty()) {
+      proof = decoder::SoftProof::Through(profile, why);
+    }
+  } else if (!options.deviceValues) {
+    proof = decoder::SoftProof::ThroughPrinterModel();
+  }
+  return why;
+}
+
 void say_stopped(const Tally& tally) {
   log_event("stopped after " + counted(tally.connections, "connection") + ", " +
             counted(tally.sheets, "sheet") + ", " + counted(tally.errors, "error"));
+}
+
+int serve(const Options& options, Server& server, int stopDescriptor, SheetPrinter& sheets,
+          StreamRecorder& recorder) {
+  PrinterAnswers answers(options.status, options.enable, options.busy);
+  Tally tally;
+  const std::string trouble =
+      server.Serve({answers, sheets, recorder, tally}, stopDescriptor, options.connections);
+  if (!trouble.empty()) {
+    ++tally.failures;
+    log_event("failure: no further client can be taken: " + trouble);
+  }
+  say_stopped(tally);
+  return tally.errors + tally.failures == 0 ? kExitGood : kExitErrorsSeen;
 }
 
 int run(const Options& options) {
@@ -62,6 +94,10 @@ int run(const Options& options) {
       return cannot_start(options.record, why);
     }
   }
+  std::unique_ptr<decoder::SoftProof> proof;
+  if (const std::string why = make_proof(options, proof); !why.empty()) {
+    return cannot_start(*options.profile, why);
+  }
   Server server;
   if (const std::string why = server.Listen(options.address, options.port); !why.empty()) {
     return cannot_start(options.address + " port " + std::to_string(options.port), why);
@@ -72,18 +108,8 @@ int run(const Options& options) {
     }
   }
   log_event("listening on " + options.address + " port " + std::to_string(server.Port()));
-
-  PrinterAnswers answers(options.status, options.enable, options.busy);
-  SheetPrinter sheets(folder);
-  Tally tally;
-  const std::string trouble =
-      server.Serve({answers, sheets, recorder, tally}, stopDescriptor, options.connections);
-  if (!trouble.empty()) {
-    ++tally.failures;
-    log_event("failure: no further client can be taken: " + trouble);
-  }
-  say_stopped(tally);
-  return tally.errors + tally.failures == 0 ? kExitGood : kExitErrorsSeen;
+  SheetPrinter sheets(folder, proof.get());
+  return serve(options, server, stopDescriptor, sheets, recorder);
 }
 
 }  // namespace

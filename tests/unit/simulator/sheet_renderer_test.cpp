@@ -60,7 +60,7 @@ TEST(Matte, LeavesTheValueAtFullOvercoatAndTakesAnEighthAtMost) {
 
 TEST(Sheet, HasTheImageOnItsPlaceOnWhite) {
   Rows rows;
-  SheetRenderer renderer(small_sheet(0), into(rows));
+  SheetRenderer renderer(small_sheet(0), nullptr, into(rows));
   renderer.ImageRow(0, std::vector<std::uint16_t>{0, 0x1234, 8192, 0x3FFF, 33, 0});
   renderer.Finish();
   ASSERT_EQ(rows.size(), 3U);
@@ -71,7 +71,7 @@ TEST(Sheet, HasTheImageOnItsPlaceOnWhite) {
 
 TEST(Sheet, OfGlossIsHandedOnRowByRow) {
   Rows rows;
-  SheetRenderer renderer(small_sheet(0), into(rows));
+  SheetRenderer renderer(small_sheet(0), nullptr, into(rows));
   EXPECT_EQ(rows.size(), 0U);
   renderer.ImageRow(0, std::vector<std::uint16_t>(6, 0));
   EXPECT_EQ(rows.size(), 2U);
@@ -79,7 +79,7 @@ TEST(Sheet, OfGlossIsHandedOnRowByRow) {
 
 TEST(Sheet, WaitsForTheMatteRows) {
   Rows rows;
-  SheetRenderer renderer(small_sheet(3), into(rows));
+  SheetRenderer renderer(small_sheet(3), nullptr, into(rows));
   renderer.ImageRow(0, std::vector<std::uint16_t>(6, 0));
   EXPECT_EQ(rows.size(), 0U);
   renderer.MatteRow(0, std::vector<std::uint8_t>{0, 128, 255, 255});
@@ -89,7 +89,7 @@ TEST(Sheet, WaitsForTheMatteRows) {
 
 TEST(Sheet, ShowsTheMatteOverTheImageAndNotBelowTheSheet) {
   Rows rows;
-  SheetRenderer renderer(small_sheet(5), into(rows));
+  SheetRenderer renderer(small_sheet(5), nullptr, into(rows));
   renderer.ImageRow(0, std::vector<std::uint16_t>{0, 0x1234, 8192, 0x3FFF, 33, 0});
   for (std::uint32_t row = 0; row < 5; ++row) {
     renderer.MatteRow(row, std::vector<std::uint8_t>{255, 0, 128, 255});
@@ -102,7 +102,7 @@ TEST(Sheet, ShowsTheMatteOverTheImageAndNotBelowTheSheet) {
 
 TEST(Sheet, ThatIsCutStaysWhiteBelow) {
   Rows rows;
-  SheetRenderer renderer(small_sheet(5), into(rows));
+  SheetRenderer renderer(small_sheet(5), nullptr, into(rows));
   renderer.ImageRow(0, std::vector<std::uint16_t>(6, 0));
   renderer.MatteRow(0, std::vector<std::uint8_t>{0, 0, 0, 0});
   renderer.Finish();
