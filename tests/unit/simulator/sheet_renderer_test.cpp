@@ -8,6 +8,8 @@
 
 #include <vector>
 
+#include "tests/unit/simulator/test_profiles.h"
+
 namespace {
 
 using simulator::SheetRenderer;
@@ -67,6 +69,33 @@ TEST(Sheet, HasTheImageOnItsPlaceOnWhite) {
   EXPECT_THAT(rows[0], testing::Each(255));
   EXPECT_THAT(rows[1], ElementsAre(255, 255, 255, 0, 73, 128, 255, 1, 0, 255, 255, 255));
   EXPECT_THAT(rows[2], testing::Each(255));
+}
+
+TEST(Sheet, IsDrawnThroughTheProof) {
+  std::string why;
+  const auto proof = decoder::SoftProof::Through(profiles::linear(), why);
+  ASSERT_NE(proof, nullptr) << why;
+  Rows rows;
+  SheetRenderer renderer(small_sheet(0), proof.get(), into(rows));
+  renderer.ImageRow(0, std::vector<std::uint16_t>{3000, 10000, 8192, 0x3FFF, 0, 20});
+  renderer.Finish();
+  ASSERT_EQ(rows.size(), 3U);
+  EXPECT_THAT(rows[1], ElementsAre(255, 255, 255, 119, 205, 188, 255, 0, 4, 255, 255, 255));
+}
+
+TEST(Sheet, HasTheMatteOverTheProof) {
+  std::string why;
+  const auto proof = decoder::SoftProof::Through(profiles::linear(), why);
+  ASSERT_NE(proof, nullptr) << why;
+  Rows rows;
+  SheetRenderer renderer(small_sheet(3), proof.get(), into(rows));
+  renderer.ImageRow(0, std::vector<std::uint16_t>{3000, 10000, 8192, 0x3FFF, 0, 20});
+  for (std::uint32_t row = 0; row < 3; ++row) {
+    renderer.MatteRow(row, std::vector<std::uint8_t>{255, 0, 128, 0});
+  }
+  ASSERT_EQ(rows.size(), 3U);
+  // 119, 205 and 188 under 0: 104.1, 179.4 and 164.5; 255, 0 and 4 under 128: 239.1, 0 and 3.75.
+  EXPECT_THAT(rows[1], ElementsAre(255, 255, 255, 104, 179, 165, 239, 0, 4, 223, 223, 223));
 }
 
 TEST(Sheet, OfGlossIsHandedOnRowByRow) {

@@ -26,7 +26,8 @@ class Connections : public testing::Test {
   std::string InFolder(const std::string& name) const { return (folder_.Path() / name).string(); }
 
   TemporaryFolder folder_;
-  PrinterProcess printer_{{"--output", folder_.Path().string()}};
+  // Pixels are held against what was sent.
+  PrinterProcess printer_{{"--output", folder_.Path().string(), "--device-values"}};
 };
 
 Bytes cut_job(std::size_t length) {

@@ -55,16 +55,25 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Others, WrongOption,
-    testing::Values(WrongOptions{{"--colour"}, "--colour"},
-                    WrongOptions{{"--once", "--jobs", "2"}, "--jobs excludes --once"},
-                    WrongOptions{{"--port", "0", "--address", "printer.invalid"},
-                                 "printer.invalid port 0: not a numeric address"},
-                    WrongOptions{{"--port", "0", "--output", "/dev/null"},
-                                 "/dev/null: Not a directory"},
-                    WrongOptions{{"--port", "0", "--record", "/dev/null/stream"},
-                                 "/dev/null/stream: Not a directory"},
-                    WrongOptions{{"--port", "0", "--port-file", "/dev/null/port"},
-                                 "/dev/null/port: Not a directory"}));
+    testing::Values(
+        WrongOptions{{"--colour"}, "--colour"},
+        WrongOptions{{"--once", "--jobs", "2"}, "--jobs excludes --once"},
+        WrongOptions{{"--device-values", "--profile", "tqr7.icc"},
+                     "--profile excludes --device-values"},
+        WrongOptions{{"--port", "0", "--profile", "/dev/null/tqr7.icc"},
+                     "/dev/null/tqr7.icc: Not a directory"},
+        WrongOptions{{"--port", "0", "--profile", "/dev"}, "/dev: Is a directory"},
+        WrongOptions{{"--port", "0", "--profile", ""}, "No such file or directory"},
+        WrongOptions{{"--port", "0", "--profile", "/dev/null"}, "/dev/null: not an ICC profile"},
+        WrongOptions{{"--port", "0", "--profile", "/dev/zero"},
+                     "/dev/zero: larger than 4 MiB, which no printer's profile is"},
+        WrongOptions{{"--port", "0", "--address", "printer.invalid"},
+                     "printer.invalid port 0: not a numeric address"},
+        WrongOptions{{"--port", "0", "--output", "/dev/null"}, "/dev/null: Not a directory"},
+        WrongOptions{{"--port", "0", "--record", "/dev/null/stream"},
+                     "/dev/null/stream: Not a directory"},
+        WrongOptions{{"--port", "0", "--port-file", "/dev/null/port"},
+                     "/dev/null/port: Not a directory"}));
 
 TEST(Options, ShowHelpWithStatus0) {
   EXPECT_EQ(run_to_its_end({"--help"}).status, 0);
