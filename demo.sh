@@ -11,7 +11,7 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # shellcheck source=scripts/simulated-printer.sh
 . "$here/scripts/simulated-printer.sh"
 
-photo='' size=RQ_10x15 finish=Gloss output=$PWD/prints
+photo='' size=RQ_10x15 finish=Gloss output=$PWD/prints profile='' compare=''
 lp_options=() printer_options=()
 
 size_names() {
@@ -30,8 +30,15 @@ own printing is touched.
   --finish gloss|matte   finish (gloss)
   -o NAME=VALUE          any option of lp or of the printer, as often as you like
   --output DIR           folder for the PNG of the sheet (./prints)
+  --compare              also makes NAME-compare.png: photo and print beside each other, on a sheet
+                         that the photo (JPEG or PNG) fills
+  --profile FILE         the printer's ICC profile, in place of the model of it that is built in:
+                         the filter prints with it, and the sheet is shown through it
   --printer WORDS        options for the simulated printer, such as '--status 0x2665'
   --help                 this text
+
+The sheet is a soft proof: the colours of the print, not the values that the printer was sent (for
+those: --printer --device-values).
 
 Sizes: $(size_names | sed 's/^RQ_//' | tr '\n' ' ')
 A picture fills the sheet; -o print-scaling=fit shows all of it instead.
@@ -67,12 +74,14 @@ read_arguments() {
   while [ $# -gt 0 ]; do
     case $1 in
       --help | -h) usage && exit 0 ;;
-      --size | --finish | --output | --printer | -o)
+      --compare) compare=yes ;;
+      --size | --finish | --output | --profile | --printer | -o)
         [ $# -ge 2 ] || fail "$1 needs a value (--help shows how)"
         case $1 in
           --size) use_size "$2" ;;
           --finish) use_finish "$2" ;;
           --output) output=$2 ;;
+          --profile) profile=$2 ;;
           --printer) read -ra printer_options <<<"$2" ;;
           -o) lp_options+=(-o "$2") ;;
         esac
@@ -116,8 +125,8 @@ build() {
   echo "Building (the first time takes a minute or two) ..."
   mkdir -p "$here/build"
   local log="$here/build/demo-build.log"
-  if ! build_preset release "$here" rastertoprinter tqr7-printer-sim tqr7.ppd sample-photo \
-    job-state >"$log" 2>&1; then
+  if ! build_preset release "$here" rastertoprinter tqr7.icc tqr7-printer-sim tqr7.ppd \
+    sample-photo job-state compare-prints >"$log" 2>&1; then
     tail -n 30 "$log" >&2
     fail "the build failed; all it said is in $log"
   fi
@@ -161,6 +170,21 @@ explain_failure() {
     tail -n 25 >&2
 }
 
+# Photo and sheet beside each other. The printer's list says where on the sheet the image lies; of
+# two joined prints the first takes the lower half.
+compare_with() {
+  local sheet=$1 target=$2 area
+  area=$(sed -n 's/.*image \([0-9]*\) x \([0-9]*\) at \([0-9]*\), \([0-9]*\),.*/\1 \2 \3 \4/p' \
+    "$sheets/sheets.txt" | head -n 1)
+  [ "$size" != RQ_5x15x2_2 ] || area='1852 616 0 616'
+  # shellcheck disable=SC2086  # four numbers
+  if "$here/build/release/compare-prints" "$photo" "$sheet" "$target" $area; then
+    echo "Photo and sheet, beside each other, are in $target"
+  else
+    echo "Photo and sheet cannot be shown beside each other." >&2
+  fi
+}
+
 # Moves the sheets to where the person wants them, under names that tell them apart.
 keep_sheets() {
   local name number=0 sheet target
@@ -171,18 +195,32 @@ keep_sheets() {
     [ -f "$sheet" ] || continue
     number=$((number + 1))
     target="$output/$name$([ $number -eq 1 ] || echo "-$number").png"
+    [ -z "$compare" ] || [ $number -gt 1 ] || compare_with "$sheet" "$output/$name-compare.png"
     mv -f "$sheet" "$target" || fail "$target cannot be written"
     echo "The sheet is in $target"
   done
   [ $number -gt 0 ]
 }
 
+# The sheet is shown through the profile that the filter prints with, unless the person wants it
+# otherwise.
+add_profile() {
+  case " ${printer_options[*]} " in
+    *' --profile'* | *' --device-values '*) ;;
+    *) printer_options+=(--profile "${profile:-$here/build/release/tqr7.icc}") ;;
+  esac
+}
+
 print_photo() {
   local request job
   sheets=$(mktemp -d /tmp/tqr7-sheets.XXXXXX) || fail "no room for the sheet in /tmp"
+  add_profile
   printer_start "$here/build/release" "$sheets" "${printer_options[@]}" ||
     fail "no simulated printer"
   scheduler_start "$here/build/release" || fail "no private scheduler"
+  if [ -n "$profile" ]; then
+    install -m 644 "$profile" "$SCHEDULER_DIR/filter/tqr7.icc" || fail "no profile"
+  fi
   # A job whose printer is lost is to end, and not to be tried again for hours.
   scheduler_add_queue TQR7 "$(printer_uri "$PRINTER_PORT")" \
     -o printer-error-policy=abort-job || fail "no queue"
