@@ -64,14 +64,21 @@ Profile linear_screen(cmsContext context) {
   return Profile(cmsCreateRGBProfileTHR(context, &white, &primaries, curves.data()));
 }
 
-// Tags that Little CMS takes before matrix and curves.
-constexpr std::array kTableTags = {cmsSigDToB0Tag, cmsSigDToB1Tag, cmsSigDToB2Tag, cmsSigDToB3Tag,
-                                   cmsSigAToB0Tag, cmsSigAToB1Tag, cmsSigAToB2Tag};
+template <std::size_t N>
+bool has_any(cmsHPROFILE profile, const std::array<cmsTagSignature, N>& tags) {
+  return std::any_of(tags.begin(), tags.end(),
+                     [profile](cmsTagSignature tag) { return cmsIsTag(profile, tag) != 0; });
+}
+
+// Chains of elements as long as the file has room for: the time of a proof would have no bound.
+constexpr std::array kElementTags = {cmsSigDToB0Tag, cmsSigDToB1Tag, cmsSigDToB2Tag,
+                                     cmsSigDToB3Tag};
+
+// Tables, which Little CMS takes before matrix and curves.
+constexpr std::array kTableTags = {cmsSigAToB0Tag, cmsSigAToB1Tag, cmsSigAToB2Tag};
 
 bool is_matrix(cmsHPROFILE profile) {
-  return cmsIsMatrixShaper(profile) != 0 &&
-         std::none_of(kTableTags.begin(), kTableTags.end(),
-                      [profile](cmsTagSignature tag) { return cmsIsTag(profile, tag) != 0; });
+  return cmsIsMatrixShaper(profile) != 0 && !has_any(profile, kTableTags);
 }
 
 // Why a profile that can be read is none of a printer, or nothing.
@@ -82,6 +89,9 @@ const char* unfitness(cmsHPROFILE profile) {
   const cmsProfileClassSignature kind = cmsGetDeviceClass(profile);
   if (kind != cmsSigOutputClass && kind != cmsSigDisplayClass) {
     return "not the profile of a printer or a display";
+  }
+  if (has_any(profile, kElementTags)) {
+    return "it holds multi-process elements, which are not supported";
   }
   return nullptr;
 }

@@ -4,7 +4,7 @@
 # shellcheck source=tests/system/system_test.sh
 . "$(dirname "${BASH_SOURCE[0]}")/system_test.sh"
 
-printer_start "$TQR7_BUILD" "$work/slow" || exit 1
+printer_start "$TQR7_BUILD" "$work/slow" --device-values || exit 1
 relay_start "$PRINTER_PORT" stall 1000000
 scheduler_add_queue slow "$(printer_uri "$RELAY_PORT")"
 picture "$work/photo.png" 1852 2434
@@ -23,7 +23,7 @@ expect_equal 'sheets' '' "$(find "$work/slow" -name 'sheet-*.png')"
 picture "$work/next.png" 1852 1232
 print_job slow "${plain[@]}" "$work/next.png"
 expect_completed "$JOB"
-read -ra dots <<<"$(quarters_of 0 0 1852 1232 c82828 28a03c 283cb4 e6c828)"
+read -ra dots <<<"$(quarters_of 0 0 1852 1232 c85a50 50965a 465a96 d2b45a)"
 expect_sheet "$work/slow/sheet-0002.png" 1852 1232 "${dots[@]}"
 
 finish

@@ -4,10 +4,10 @@
 # shellcheck source=tests/system/system_test.sh
 . "$(dirname "${BASH_SOURCE[0]}")/system_test.sh"
 
-add_printer copies
-add_printer files
-add_printer joined
-add_printer joined_copies
+add_printer copies --device-values
+add_printer files --device-values
+add_printer joined --device-values
+add_printer joined_copies --device-values
 
 picture "$work/photo.jpg" 1852 1232
 picture "$work/second.pdf" 1852 1232
@@ -33,15 +33,15 @@ expect_equal 'sheets of two files' 'sheet-0001.png sheet-0002.png' "$(sheets_of 
 expect_equal 'sheets of two joined pages' sheet-0001.png "$(sheets_of joined)"
 expect_equal 'sheets of two joined copies' sheet-0001.png "$(sheets_of joined_copies)"
 
-read -ra whole <<<"$(quarters_of 0 0 1852 1232 c82828 28a03c 283cb4 e6c828)"
+read -ra whole <<<"$(quarters_of 0 0 1852 1232 c85a50 50965a 465a96 d2b45a)"
 for sheet in copies/sheet-0001 copies/sheet-0002 files/sheet-0001 files/sheet-0002; do
   expect_sheet "$work/$sheet.png" 1852 1232 "${whole[@]}"
 done
 # The second page takes the upper half, the first the lower.
-read -ra first <<<"$(quarters_of 0 616 1852 616 c82828 28a03c 283cb4 e6c828)"
-read -ra second <<<"$(quarters_of 0 0 1852 616 28a03c 283cb4 e6c828 c82828)"
+read -ra first <<<"$(quarters_of 0 616 1852 616 c85a50 50965a 465a96 d2b45a)"
+read -ra second <<<"$(quarters_of 0 0 1852 616 50965a 465a96 d2b45a c85a50)"
 expect_sheet "$work/joined/sheet-0001.png" 1852 1232 "${first[@]}" "${second[@]}"
-read -ra upper <<<"$(quarters_of 0 0 1852 616 c82828 28a03c 283cb4 e6c828)"
+read -ra upper <<<"$(quarters_of 0 0 1852 616 c85a50 50965a 465a96 d2b45a)"
 expect_sheet "$work/joined_copies/sheet-0001.png" 1852 1232 "${first[@]}" "${upper[@]}"
 
 expect_no_protocol_errors

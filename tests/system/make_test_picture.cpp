@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
-// Writes a picture of four flat quarters: make-test-picture FILE.jpg|.png|.pdf WIDTH HEIGHT [PAGES]
+// Writes a picture of four flat quarters:
+//
+//   make-test-picture FILE.jpg|.png|.pdf WIDTH HEIGHT [PAGES [vivid]]
 //
 // Page 1 is red (top left), green (top right), blue (bottom left) and yellow (bottom right); each
-// further page moves the colours on by one place. A PDF's pages measure WIDTH x HEIGHT dots at 300
-// dots an inch.
+// further page moves the colours on by one place. Dyes can print them all, but for the vivid ones,
+// which are the screen's own extremes. A PDF's pages measure WIDTH x HEIGHT dots at 300 dots an
+// inch.
 #include <png.h>
 
 #include <array>
@@ -26,26 +29,28 @@ struct Rgb {
   unsigned char red, green, blue;
 };
 
-constexpr std::array<Rgb, 4> kQuarters = {
-    {{200, 40, 40}, {40, 160, 60}, {40, 60, 180}, {230, 200, 40}}};
+using Quarters = std::array<Rgb, 4>;
 
-const Rgb& quarter(int page, bool right, bool bottom) {
-  return kQuarters[static_cast<std::size_t>(page + (right ? 1 : 0) + (bottom ? 2 : 0)) % 4];
+constexpr Quarters kModerate = {{{200, 90, 80}, {80, 150, 90}, {70, 90, 150}, {210, 180, 90}}};
+constexpr Quarters kVivid = {{{255, 0, 0}, {0, 255, 0}, {0, 0, 255}, {255, 255, 0}}};
+
+const Rgb& quarter(const Quarters& colours, int page, bool right, bool bottom) {
+  return colours[static_cast<std::size_t>(page + (right ? 1 : 0) + (bottom ? 2 : 0)) % 4];
 }
 
-std::vector<unsigned char> pixels(int width, int height) {
+std::vector<unsigned char> pixels(const Quarters& colours, int width, int height) {
   std::vector<unsigned char> out;
   for (int y = 0; y < height; ++y) {
     for (int x = 0; x < width; ++x) {
-      const Rgb& colour = quarter(0, x >= width / 2, y >= height / 2);
+      const Rgb& colour = quarter(colours, 0, x >= width / 2, y >= height / 2);
       out.insert(out.end(), {colour.red, colour.green, colour.blue});
     }
   }
   return out;
 }
 
-bool write_jpeg(std::FILE* file, int width, int height) {
-  std::vector<unsigned char> rgb = pixels(width, height);
+bool write_jpeg(std::FILE* file, const Quarters& colours, int width, int height) {
+  std::vector<unsigned char> rgb = pixels(colours, width, height);
   jpeg_error_mgr errors;
   jpeg_compress_struct jpeg;
   jpeg.err = jpeg_std_error(&errors);
@@ -67,8 +72,8 @@ bool write_jpeg(std::FILE* file, int width, int height) {
   return true;
 }
 
-bool write_png(std::FILE* file, int width, int height) {
-  const std::vector<unsigned char> rgb = pixels(width, height);
+bool write_png(std::FILE* file, const Quarters& colours, int width, int height) {
+  const std::vector<unsigned char> rgb = pixels(colours, width, height);
   png_image png{};
   png.version = PNG_IMAGE_VERSION;
   png.width = static_cast<png_uint_32>(width);
@@ -85,23 +90,24 @@ std::string pdf_quarter(const Rgb& colour, double x, double y, double width, dou
   return text;
 }
 
-std::string pdf_page_content(int page, double width, double height) {
+std::string pdf_page_content(const Quarters& colours, int page, double width, double height) {
   const double w = width / 2.0;
   const double h = height / 2.0;
-  return pdf_quarter(quarter(page, false, false), 0.0, h, w, h) +
-         pdf_quarter(quarter(page, true, false), w, h, w, h) +
-         pdf_quarter(quarter(page, false, true), 0.0, 0.0, w, h) +
-         pdf_quarter(quarter(page, true, true), w, 0.0, w, h);
+  return pdf_quarter(quarter(colours, page, false, false), 0.0, h, w, h) +
+         pdf_quarter(quarter(colours, page, true, false), w, h, w, h) +
+         pdf_quarter(quarter(colours, page, false, true), 0.0, 0.0, w, h) +
+         pdf_quarter(quarter(colours, page, true, true), w, 0.0, w, h);
 }
 
 // Objects 1 and 2 are the catalogue and the page tree; each page takes two more.
-std::vector<std::string> pdf_objects(int pages, double width, double height) {
+std::vector<std::string> pdf_objects(const Quarters& colours, int pages, double width,
+                                     double height) {
   char box[80];
   std::snprintf(box, sizeof(box), "[0 0 %.2f %.2f]", width, height);
   std::string kids;
   std::vector<std::string> objects = {"<< /Type /Catalog /Pages 2 0 R >>", ""};
   for (int page = 0; page < pages; ++page) {
-    const std::string content = pdf_page_content(page, width, height);
+    const std::string content = pdf_page_content(colours, page, width, height);
     const std::string stream = std::to_string(objects.size() + 2);
     kids += std::to_string(objects.size() + 1) + " 0 R ";
     objects.push_back("<< /Type /Page /Parent 2 0 R /MediaBox " + std::string(box) +
@@ -113,8 +119,8 @@ std::vector<std::string> pdf_objects(int pages, double width, double height) {
   return objects;
 }
 
-bool write_pdf(std::FILE* file, int width, int height, int pages) {
-  const auto objects = pdf_objects(pages, width * 0.24, height * 0.24);
+bool write_pdf(std::FILE* file, const Quarters& colours, int width, int height, int pages) {
+  const auto objects = pdf_objects(colours, pages, width * 0.24, height * 0.24);
   std::string pdf = "%PDF-1.4\n";
   std::string table = "xref\n0 " + std::to_string(objects.size() + 1) + "\n0000000000 65535 f \n";
   for (std::size_t i = 0; i < objects.size(); ++i) {
@@ -132,11 +138,13 @@ bool write_pdf(std::FILE* file, int width, int height, int pages) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc < 4 || argc > 5) {
-    std::fprintf(stderr, "usage: make-test-picture FILE.jpg|.png|.pdf WIDTH HEIGHT [PAGES]\n");
+  if (argc < 4 || argc > 6) {
+    std::fprintf(stderr,
+                 "usage: make-test-picture FILE.jpg|.png|.pdf WIDTH HEIGHT [PAGES [vivid]]\n");
     return 2;
   }
   const std::string name = argv[1];
+  const Quarters& colours = argc == 6 && argv[5] == std::string("vivid") ? kVivid : kModerate;
   const int width = std::atoi(argv[2]);
   const int height = std::atoi(argv[3]);
   const File file(std::fopen(argv[1], "wb"));
@@ -146,11 +154,11 @@ int main(int argc, char** argv) {
   }
   bool written = false;
   if (name.ends_with(".jpg")) {
-    written = write_jpeg(file.get(), width, height);
+    written = write_jpeg(file.get(), colours, width, height);
   } else if (name.ends_with(".png")) {
-    written = write_png(file.get(), width, height);
+    written = write_png(file.get(), colours, width, height);
   } else if (name.ends_with(".pdf")) {
-    written = write_pdf(file.get(), width, height, argc == 5 ? std::atoi(argv[4]) : 1);
+    written = write_pdf(file.get(), colours, width, height, argc >= 5 ? std::atoi(argv[4]) : 1);
   }
   return written ? 0 : 1;
 }

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: Apache-2.0
-# A JPEG, a PNG and a PDF come out upright, in their colours, on a sheet of the printer's dots.
+# A JPEG, a PNG and a PDF come out upright, in the colours that they have on the screen, on a sheet of
+# the printer's dots.
 # shellcheck source=tests/system/system_test.sh
 . "$(dirname "${BASH_SOURCE[0]}")/system_test.sh"
 
@@ -24,15 +25,15 @@ expect_completed "$drawing"
 expect_completed "$document"
 expect_completed "$portrait"
 
-read -ra upright <<<"$(quarters_of 0 0 1852 1232 c82828 28a03c 283cb4 e6c828)"
+read -ra upright <<<"$(quarters_of 0 0 1852 1232 c85a50 50965a 465a96 d2b45a)"
 expect_sheet "$work/photo/sheet-0001.png" 1852 1232 "${upright[@]}" \
-  4 4 c82828 1847 4 28a03c 4 1227 283cb4 1847 1227 e6c828
+  4 4 c85a50 1847 4 50965a 4 1227 465a96 1847 1227 d2b45a
 expect_sheet "$work/drawing/sheet-0001.png" 1852 1232 "${upright[@]}" \
-  4 4 c82828 1847 4 28a03c 4 1227 283cb4 1847 1227 e6c828
+  4 4 c85a50 1847 4 50965a 4 1227 465a96 1847 1227 d2b45a
 expect_sheet "$work/document/sheet-0001.png" 1852 1232 "${upright[@]}" \
-  4 4 c82828 1847 4 28a03c 4 1227 283cb4 1847 1227 e6c828
+  4 4 c85a50 1847 4 50965a 4 1227 465a96 1847 1227 d2b45a
 # A portrait lies on the sheet with its top at the left: its top right corner comes to the top left.
-read -ra turned <<<"$(quarters_of 0 0 1852 1232 28a03c e6c828 c82828 283cb4)"
+read -ra turned <<<"$(quarters_of 0 0 1852 1232 50965a d2b45a c85a50 465a96)"
 expect_sheet "$work/portrait/sheet-0001.png" 1852 1232 "${turned[@]}"
 
 expect_no_protocol_errors

@@ -23,7 +23,7 @@ RQ_15x20_WB    1852 2434  1684 2286  84 74
 jobs=()
 while read -r name _ _ width height _; do
   [ -n "$name" ] || continue
-  add_printer "$name"
+  add_printer "$name" --device-values
   picture "$work/$name.png" "$width" "$height"
   print_job "$name" "${plain[@]}" -o "PageSize=$name" -o print-scaling=fill "$work/$name.png"
   jobs+=("$JOB")
@@ -35,12 +35,12 @@ done
 
 while read -r name sheet_width sheet_height width height left top; do
   [ -n "$name" ] || continue
-  read -ra dots <<<"$(quarters_of "$left" "$top" "$width" "$height" c82828 28a03c 283cb4 e6c828)"
+  read -ra dots <<<"$(quarters_of "$left" "$top" "$width" "$height" c85a50 50965a 465a96 d2b45a)"
   if [ "$left" -gt 0 ]; then
     # The border's inmost dots, and the image's outmost but for what scaling may leave of an edge.
-    dots+=(83 300 ffffff 300 73 ffffff 88 78 c82828
+    dots+=(83 300 ffffff 300 73 ffffff 88 78 c85a50
       $((left + width)) 300 ffffff 300 $((top + height)) ffffff
-      $((left + width - 5)) $((top + height - 5)) e6c828)
+      $((left + width - 5)) $((top + height - 5)) d2b45a)
   fi
   expect_sheet "$work/$name/sheet-0001.png" "$sheet_width" "$sheet_height" "${dots[@]}"
 done <<<"$sizes"

@@ -12,7 +12,8 @@ tests=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
 tools=$TQR7_BUILD/tests
 failures=0
-# Colours that come out as they went in, whatever the printer's colours are made to be.
+# Colours that reach the printer as they are in the picture. A printer with --device-values shows them
+# so; others show what they look like on paper.
 # shellcheck disable=SC2034  # the tests use it
 plain=(-o RQColorConversion=Disabled -o RQSharpness_Common=None)
 
@@ -49,6 +50,18 @@ expect_contains() {
 expect_sheet() {
   local said
   said=$("$tools/check-sheet" "$@" 2>&1) || fail "$said"
+}
+
+# The sheet is as large as said, and none of the dots has the colour given.
+expect_other_colours() {
+  local sheet=$1 width=$2 height=$3
+  shift 3
+  expect_sheet "$sheet" "$width" "$height"
+  while [ $# -ge 3 ]; do
+    "$tools/check-sheet" "$sheet" "$width" "$height" "$1" "$2" "$3" >/dev/null &&
+      fail "$sheet: at $1, $2 there is $3"
+    shift 3
+  done
 }
 
 # The middles of the quarters of an area of the sheet, as check-sheet takes them.
