@@ -31,46 +31,25 @@ Picture picture_of(const std::string& path, std::size_t width, std::size_t heigh
   return {width, height};
 }
 
-// libjpeg ends in this where it cannot go on.
-void on_jpeg_error(j_common_ptr jpeg) {
-  std::array<char, JMSG_LENGTH_MAX> words{};
-  jpeg->err->format_message(jpeg, words.data());
-  throw std::runtime_error(words.data());
-}
-
-void on_jpeg_warning(j_common_ptr /*jpeg*/) {}
-
-// A decompressor that is released on every path.
-struct Jpeg {
-  Jpeg() {
-    state.err = jpeg_std_error(&errors);
-    errors.error_exit = on_jpeg_error;
-    errors.output_message = on_jpeg_warning;
-    jpeg_create_decompress(&state);
+// What is wrong with a JPEG libjpeg says itself, and ends the program with status 1.
+Picture read_jpeg(const std::string& path, std::FILE* file) {
+  jpeg_error_mgr errors;
+  jpeg_decompress_struct jpeg;
+  jpeg.err = jpeg_std_error(&errors);
+  jpeg_create_decompress(&jpeg);
+  const std::unique_ptr<jpeg_decompress_struct, decltype(&jpeg_destroy_decompress)> destroyed(
+      &jpeg, jpeg_destroy_decompress);
+  jpeg_stdio_src(&jpeg, file);
+  jpeg_read_header(&jpeg, TRUE);
+  jpeg.out_color_space = JCS_RGB;
+  jpeg_start_decompress(&jpeg);
+  Picture picture = picture_of(path, jpeg.output_width, jpeg.output_height);
+  while (jpeg.output_scanline < jpeg.output_height) {
+    std::array<unsigned char*, 1> rows = {picture.At(0, jpeg.output_scanline)};
+    jpeg_read_scanlines(&jpeg, rows.data(), 1);
   }
-  Jpeg(const Jpeg&) = delete;
-  Jpeg& operator=(const Jpeg&) = delete;
-  ~Jpeg() { jpeg_destroy_decompress(&state); }
-
-  jpeg_error_mgr errors{};
-  jpeg_decompress_struct state{};
-};
-
-Picture read_jpeg(const std::string& path, std::FILE* file) try {
-  Jpeg jpeg;
-  jpeg_stdio_src(&jpeg.state, file);
-  jpeg_read_header(&jpeg.state, TRUE);
-  jpeg.state.out_color_space = JCS_RGB;
-  jpeg_start_decompress(&jpeg.state);
-  Picture picture = picture_of(path, jpeg.state.output_width, jpeg.state.output_height);
-  while (jpeg.state.output_scanline < jpeg.state.output_height) {
-    std::array<unsigned char*, 1> rows = {picture.At(0, jpeg.state.output_scanline)};
-    jpeg_read_scanlines(&jpeg.state, rows.data(), 1);
-  }
-  jpeg_finish_decompress(&jpeg.state);
+  jpeg_finish_decompress(&jpeg);
   return picture;
-} catch (const std::runtime_error& error) {
-  fail(path, error.what());
 }
 
 Picture read_png(const std::string& path, std::FILE* file) {

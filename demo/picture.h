@@ -22,7 +22,8 @@ struct Picture {
   std::vector<unsigned char> rgb;
 };
 
-/// Reads a JPEG or PNG file. Throws std::runtime_error, which says why it cannot be read.
+/// Reads a JPEG or PNG file. Throws std::runtime_error, which says why it cannot be read; of a
+/// broken JPEG libjpeg says it, and ends the program with status 1.
 Picture read_picture(const std::string& path);
 
 /// Writes a PNG file that says that it is sRGB. Throws std::runtime_error.
