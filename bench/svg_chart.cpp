@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "bench/svg_chart.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <fstream>
+#include <stdexcept>
+
+#include "bench/table_printer.h"
+
+namespace bench {
+
+namespace {
+
+// Sizes in SVG's units, which a browser shows as pixels.
+constexpr double kPlot = 290.0;
+constexpr double kLeft = 62.0;
+constexpr double kTop = 34.0;
+constexpr double kRight = 14.0;
+constexpr double kLegendTop = 62.0;  // beneath the plot: tick numbers and the axis's name
+constexpr double kLegendLine = 17.0;
+constexpr double kPanel = kLeft + kPlot + kRight;
+
+constexpr const char* kInk = "#222222";
+constexpr const char* kGrid = "#dddddd";
+
+std::string attribute(const char* name, double value) {
+  return std::string(" ") + name + "=\"" + number(value, 1) + "\"";
+}
+
+std::string escaped(const std::string& text) {
+  std::string result;
+  for (const char letter : text) {
+    switch (letter) {
+      case '&':
+        result += "&amp;";
+        break;
+      case '<':
+        result += "&lt;";
+        break;
+      default:
+        result += letter;
+    }
+  }
+  return result;
+}
+
+std::vector<double> ticks_of(const Axis& axis) {
+  const auto steps = static_cast<int>(std::floor((axis.high - axis.low) / axis.step + 1e-3));
+  std::vector<double> ticks;
+  for (int i = 0; i <= steps; ++i) {
+    ticks.push_back(axis.low + i * axis.step);
+  }
+  return ticks;
+}
+
+/// As few decimals as the axis's step needs.
+std::string tick_text(double value, double step) {
+  int decimals = 0;
+  while (decimals < 4 && std::abs(step * std::pow(10.0, decimals) -
+                                  std::round(step * std::pow(10.0, decimals))) > 1e-9) {
+    ++decimals;
+  }
+  const std::string text = number(std::abs(value), decimals);
+  return value < -step / 2.0 ? "−" + text : text;
+}
+
+/// One chart's part of the drawing; everything is placed from its left edge on.
+class Panel {
+ public:
+  Panel(const Chart& chart, double left, std::size_t index)
+      : chart_(chart), left_(left + kLeft), clip_("plot" + std::to_string(index)) {}
+
+  std::string drawn() const {
+    return grid() + curves() + legend() +
+           text(left_ + kPlot / 2.0, kTop - 12.0, "middle", chart_.title, " font-weight=\"bold\"");
+  }
+
+ private:
+  double x_of(double x) const {
+    return left_ + (x - chart_.across.low) / (chart_.across.high - chart_.across.low) * kPlot;
+  }
+  double y_of(double y) const {
+    return kTop + (chart_.up.high - y) / (chart_.up.high - chart_.up.low) * kPlot;
+  }
+
+  static std::string text(double x, double y, const char* anchor, const std::string& words,
+                          const std::string& more = "") {
+    return "<text" + attribute("x", x) + attribute("y", y) + " text-anchor=\"" + anchor + "\"" +
+           more + ">" + escaped(words) + "</text>\n";
+  }
+
+  static std::string line(double x1, double y1, double x2, double y2, const std::string& stroke,
+                          bool dashed = false) {
+    return "<line" + attribute("x1", x1) + attribute("y1", y1) + attribute("x2", x2) +
+           attribute("y2", y2) + " stroke=\"" + stroke + "\"" +
+           (dashed ? " stroke-dasharray=\"5 3\"" : "") + "/>\n";
+  }
+
+  std::string grid() const {
+    std::string svg;
+    const Axis& across = chart_.across;
+    for (const double x : ticks_of(across)) {
+      svg += line(x_of(x), kTop, x_of(x), kTop + kPlot, kGrid);
+      svg += text(x_of(x), kTop + kPlot + 16.0, "middle", tick_text(x, across.step));
+    }
+    const Axis& up = chart_.up;
+    for (const double y : ticks_of(up)) {
+      svg += line(left_, y_of(y), left_ + kPlot, y_of(y), kGrid);
+      svg += text(left_ - 6.0, y_of(y) + 4.0, "end", tick_text(y, up.step));
+    }
+    svg += text(left_ + kPlot / 2.0, kTop + kPlot + 36.0, "middle", across.label);
+    const double middle = kTop + kPlot / 2.0;
+    const double side = left_ - kLeft + 14.0;
+    svg += text(side, middle, "middle", up.label,
+                " transform=\"rotate(-90 " + number(side, 1) + " " + number(middle, 1) + ")\"");
+    return svg;
+  }
+
+  std::string curves() const {
+    std::string svg = "<clipPath id=\"" + clip_ + "\"><rect" + attribute("x", left_) +
+                      attribute("y", kTop) + attribute("width", kPlot) +
+                      attribute("height", kPlot) + "/></clipPath>\n<g clip-path=\"url(#" + clip_ +
+                      ")\" fill=\"none\" stroke-width=\"1.6\" stroke-linejoin=\"round\">\n";
+    for (const Curve& curve : chart_.curves) {
+      svg += drawn_curve(curve);
+    }
+    return svg + "</g>\n";
+  }
+
+  std::string drawn_curve(const Curve& curve) const {
+    std::string svg = "<polyline stroke=\"" + curve.colour + "\"" +
+                      (curve.dashed ? " stroke-dasharray=\"5 3\"" : "") + " points=\"";
+    std::string dots;
+    for (const Point& point : curve.points) {
+      svg += number(x_of(point.x), 1) + "," + number(y_of(point.y), 1) + " ";
+      if (curve.dotted) {
+        dots += "<circle" + attribute("cx", x_of(point.x)) + attribute("cy", y_of(point.y)) +
+                " r=\"2.4\" fill=\"" + curve.colour + "\"/>\n";
+      }
+    }
+    return svg + "\"/>\n" + dots;
+  }
+
+  std::string legend() const {
+    std::string svg = "<g stroke-width=\"1.6\">\n";
+    std::string names;
+    double y = kTop + kPlot + kLegendTop;
+    for (const Curve& curve : chart_.curves) {
+      if (!curve.name.empty()) {
+        svg += line(left_, y - 4.0, left_ + 26.0, y - 4.0, curve.colour, curve.dashed);
+        names += text(left_ + 34.0, y, "start", curve.name);
+        y += kLegendLine;
+      }
+    }
+    return svg + "</g>\n" + names;
+  }
+
+  const Chart& chart_;
+  double left_;
+  std::string clip_;
+};
+
+std::size_t longest_legend(const std::vector<Chart>& charts) {
+  std::size_t longest = 0;
+  for (const Chart& chart : charts) {
+    const auto named = std::count_if(chart.curves.begin(), chart.curves.end(),
+                                     [](const Curve& curve) { return !curve.name.empty(); });
+    longest = std::max(longest, static_cast<std::size_t>(named));
+  }
+  return longest;
+}
+
+}  // namespace
+
+void write_charts(const std::string& path, const std::vector<Chart>& charts) {
+  const double width = kPanel * static_cast<double>(charts.size());
+  const double height =
+      kTop + kPlot + kLegendTop + kLegendLine * static_cast<double>(longest_legend(charts));
+  std::ofstream file(path, std::ios::binary);
+  file << "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 " << number(width, 0) << " "
+       << number(height, 0) << "\" width=\"" << number(width, 0) << "\" height=\""
+       << number(height, 0) << "\" font-family=\"sans-serif\" font-size=\"12\" fill=\"" << kInk
+       << "\">\n<!-- SPDX-License-Identifier: Apache-2.0 -->\n"
+       << "<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n";
+  for (std::size_t i = 0; i < charts.size(); ++i) {
+    file << Panel(charts[i], kPanel * static_cast<double>(i), i).drawn();
+  }
+  file << "</svg>\n";
+  file.close();
+  if (!file) {
+    throw std::runtime_error(path + ": cannot be written");
+  }
+}
+
+}  // namespace bench
