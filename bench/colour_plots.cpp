@@ -188,7 +188,7 @@ void draw_texture(const std::string& folder) {
   bench::write_charts(folder + "/matte-spectrum.svg",
                       {{"Power of the matte texture",
                         {"cycles a dot, any direction", 0, 0.5, 0.1},
-                        {"power; white noise = 1", 0, 3, 0.5},
+                        {"power; white noise = 1", 0, 2.5, 0.5},
                         {texture, white, limit}}});
 }
 
