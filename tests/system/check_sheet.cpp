@@ -11,8 +11,8 @@
 
 namespace {
 
-// What JPEG changes in a flat area, and what the conversion's table and the proof's rounding may, of
-// 255: one each.
+// What JPEG changes in a flat area, and what the conversion's table and the proof's rounding may,
+// of 255: one each.
 constexpr int kTolerance = 2;
 
 struct Picture {
