@@ -5,69 +5,124 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <new>
 
 namespace {
 
-/// Stands before each block: whose it is and how large. Little CMS does not tell either when it
-/// gives a block back.
-struct alignas(std::max_align_t) BlockHead {
-  CmsBudget* budget;  ///< null for the context's own record, made before there is a budget
-  std::size_t size;   ///< bytes with this head
-};
-
-void* take_block(cmsContext context, cmsUInt32Number size) {
-  auto* budget = static_cast<CmsBudget*>(cmsGetContextUserData(context));
-  const std::size_t whole = sizeof(BlockHead) + size;
-  const bool allowed = budget == nullptr || whole <= budget->left;
-  auto* head = allowed ? static_cast<BlockHead*>(std::malloc(whole)) : nullptr;
-  if (head != nullptr) {
-    *head = {budget, whole};
-  }
-  if (budget != nullptr) {
-    budget->left -= head != nullptr ? whole : 0;
-    budget->refused = budget->refused || head == nullptr;
-  }
-  return head != nullptr ? head + 1 : nullptr;
-}
-
-void give_block_back(cmsContext /*context*/, void* block) {
-  if (block == nullptr) {
-    return;
-  }
-  BlockHead* head = static_cast<BlockHead*>(block) - 1;
-  if (head->budget != nullptr) {
-    head->budget->left += head->size;
-  }
-  std::free(head);
-}
-
-void* resize_block(cmsContext context, void* block, cmsUInt32Number size) {
-  void* larger = take_block(context, size);
-  if (larger != nullptr && block != nullptr) {
-    const BlockHead* head = static_cast<const BlockHead*>(block) - 1;
-    std::memcpy(larger, block, std::min<std::size_t>(size, head->size - sizeof(BlockHead)));
-    give_block_back(context, block);
-  }
-  return larger;
-}
+/// The object whose context is being made in this thread: Little CMS asks for a context's first
+/// block before it can tell the context's owner.
+thread_local BoundedCms* beingMade = nullptr;
 
 void say_nothing(cmsContext /*context*/, cmsUInt32Number /*code*/, const char* /*text*/) {}
 
 }  // namespace
 
-CmsContext make_bounded_context(CmsBudget& budget) {
-  cmsPluginMemHandler memory{};
-  memory.base.Magic = cmsPluginMagicNumber;
-  memory.base.ExpectedVersion = 2060;  // the first version that knows contexts
-  memory.base.Type = cmsPluginMemHandlerSig;
-  memory.MallocPtr = take_block;
-  memory.FreePtr = give_block_back;
-  memory.ReallocPtr = resize_block;
-  CmsContext context(cmsCreateContext(&memory, &budget));
-  if (context != nullptr) {
-    cmsSetLogErrorHandlerTHR(context.get(), say_nothing);
+/// Stands before each block.
+struct alignas(std::max_align_t) BoundedCms::Block {
+  BoundedCms* owner;
+  std::size_t whole;  ///< bytes with this head, a multiple of its alignment
+  bool isBeginning;   ///< lies in beginning_
+  Block* previous;
+  Block* next;
+};
+
+BoundedCms::BoundedCms(std::size_t limit) : left_(limit) {
+  cmsPluginMemHandler plugin{};
+  plugin.base.Magic = cmsPluginMagicNumber;
+  plugin.base.ExpectedVersion = 2060;  // the first version that knows contexts
+  plugin.base.Type = cmsPluginMemHandlerSig;
+  plugin.MallocPtr = take;
+  plugin.FreePtr = give_back;
+  plugin.ReallocPtr = resize;
+  beingMade = this;
+  context_ = cmsCreateContext(&plugin, this);
+  beingMade = nullptr;
+  if (context_ != nullptr) {
+    cmsSetLogErrorHandlerTHR(context_, say_nothing);
   }
-  return context;
+}
+
+BoundedCms::~BoundedCms() {
+  if (context_ != nullptr) {
+    cmsDeleteContext(context_);
+  }
+  while (first_ != nullptr) {
+    release(first_);
+  }
+}
+
+const char* BoundedCms::run(const char* (*work)(cmsContext context, void* argument), void* argument,
+                            const char* noMemory) {
+  // NOLINTNEXTLINE(cert-err52-cpp): the frames between are a C library's, which exceptions may not
+  // cross.
+  if (context_ == nullptr || setjmp(refusal_) != 0) {
+    running_ = false;
+    return noMemory;
+  }
+  running_ = true;
+  const char* result = work(context_, argument);
+  running_ = false;
+  return result;
+}
+
+BoundedCms::Block* BoundedCms::allocate(std::size_t whole) {
+  if (!running_ && whole <= kBeginning - beginningUsed_) {
+    void* place = &beginning_[beginningUsed_];
+    beginningUsed_ += whole;
+    return new (place) Block{this, whole, true, nullptr, nullptr};
+  }
+  void* place = whole <= left_ ? std::malloc(whole) : nullptr;
+  if (place == nullptr) {
+    return nullptr;
+  }
+  left_ -= whole;
+  auto* block = new (place) Block{this, whole, false, nullptr, first_};
+  if (first_ != nullptr) {
+    first_->previous = block;
+  }
+  first_ = block;
+  return block;
+}
+
+void BoundedCms::release(Block* block) {
+  if (block->isBeginning) {
+    return;
+  }
+  left_ += block->whole;
+  (block->previous != nullptr ? block->previous->next : first_) = block->next;
+  if (block->next != nullptr) {
+    block->next->previous = block->previous;
+  }
+  std::free(block);
+}
+
+void* BoundedCms::take(cmsContext context, cmsUInt32Number size) {
+  auto* owner =
+      beingMade != nullptr ? beingMade : static_cast<BoundedCms*>(cmsGetContextUserData(context));
+  constexpr std::size_t kStep = alignof(Block);
+  const std::size_t whole = sizeof(Block) + (size + kStep - 1) / kStep * kStep;
+  Block* block = owner->allocate(whole);
+  if (block == nullptr && owner->running_) {
+    std::longjmp(owner->refusal_, 1);  // NOLINT(cert-err52-cpp): as above
+  }
+  return block != nullptr ? block + 1 : nullptr;
+}
+
+void BoundedCms::give_back(cmsContext /*context*/, void* taken) {
+  if (taken != nullptr) {
+    Block* block = static_cast<Block*>(taken) - 1;
+    block->owner->release(block);
+  }
+}
+
+void* BoundedCms::resize(cmsContext context, void* taken, cmsUInt32Number size) {
+  void* other = take(context, size);
+  if (other != nullptr && taken != nullptr) {
+    const Block* block = static_cast<const Block*>(taken) - 1;
+    std::memcpy(other, taken, std::min<std::size_t>(size, block->whole - sizeof(Block)));
+    give_back(context, taken);
+  }
+  return other;
 }
 
 MemoryFile::MemoryFile(cmsContext context, std::span<const unsigned char> bytes) : bytes_(bytes) {

@@ -8,36 +8,51 @@
 #include <lcms2.h>
 #include <lcms2_plugin.h>
 
+#include <array>
+#include <csetjmp>
 #include <cstddef>
-#include <memory>
 #include <span>
-#include <type_traits>
 
-/// The memory of one context.
-struct CmsBudget {
-  std::size_t left;      ///< bytes that it may still take
-  bool refused = false;  ///< a request was not granted, so that what it made may lack something
+/// A Little CMS context of its own for one piece of work: nothing it does touches the context that
+/// the rest of the process may use, it writes no message, and its memory is limited.
+///
+/// Little CMS does not look at every block that it asks for, and uses a null pointer here and
+/// there. So a request that cannot be granted never returns: run() ends the work there and then.
+/// All memory belongs to this object and goes with it, whatever the work has left open.
+class BoundedCms {
+ public:
+  /// `limit`: bytes that the work may take, beside kBeginning.
+  explicit BoundedCms(std::size_t limit);
+  ~BoundedCms();
+  BoundedCms(const BoundedCms&) = delete;
+  BoundedCms& operator=(const BoundedCms&) = delete;
+
+  /// Does `work(context, argument)`, and gives what it returns; `noMemory` when it could not be
+  /// done within the limit. The work may be left at any call of Little CMS, without its frames
+  /// being cleaned up: no object with a destructor may live across one.
+  const char* run(const char* (*work)(cmsContext context, void* argument), void* argument,
+                  const char* noMemory);
+
+ private:
+  struct Block;
+  /// What a context takes for itself comes from here, so that making one cannot fail.
+  static constexpr std::size_t kBeginning = 32768;
+
+  static void* take(cmsContext context, cmsUInt32Number size);
+  static void give_back(cmsContext context, void* taken);
+  static void* resize(cmsContext context, void* taken, cmsUInt32Number size);
+
+  Block* allocate(std::size_t whole);
+  void release(Block* block);
+
+  alignas(std::max_align_t) std::array<unsigned char, kBeginning> beginning_;
+  std::size_t beginningUsed_ = 0;
+  std::size_t left_;
+  Block* first_ = nullptr;  ///< all blocks outside beginning_
+  bool running_ = false;
+  std::jmp_buf refusal_{};
+  cmsContext context_ = nullptr;
 };
-
-struct CmsContextDeleter {
-  void operator()(cmsContext context) const { cmsDeleteContext(context); }
-};
-using CmsContext = std::unique_ptr<std::remove_pointer_t<cmsContext>, CmsContextDeleter>;
-
-struct CmsProfileCloser {
-  void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
-using CmsProfile = std::unique_ptr<void, CmsProfileCloser>;
-
-struct CmsTransformDeleter {
-  void operator()(void* transform) const { cmsDeleteTransform(transform); }
-};
-using CmsTransform = std::unique_ptr<void, CmsTransformDeleter>;
-
-/// A context of its own for one piece of work: nothing it does touches the context that the rest of
-/// the process may use, it writes no message, and it takes its memory out of `budget`, which must
-/// outlive it. Null when there is no memory.
-CmsContext make_bounded_context(CmsBudget& budget);
 
 /// Bytes in memory as a file to Little CMS, which for its own kind of such file takes a second copy
 /// of them. Must outlive the profile that is opened with it.

@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: Apache-2.0
 #
 # Fails unless the conversion library exports MVChangeImage alone, carries the file name that the
-# filter looks for, and needs no library but the compiler's runtime.
+# filter looks for, and needs no library but the compiler's runtime, Little CMS (colours) and
+# Highway (the processor's vector instructions).
 execute_process(COMMAND ${NM} -D --defined-only ${LIBRARY}
   OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX REPLACE "[0-9a-f]+ " "" symbols "${symbols}")
@@ -15,9 +16,9 @@ if(NOT dynamic MATCHES "SONAME[^\n]*\\[libTQR7mervale\\.so\\.1\\]")
   message(FATAL_ERROR "no or another SONAME:\n${dynamic}")
 endif()
 
-set(allowed "^lib(stdc\\+\\+|m|gcc_s|c)\\.so")
+set(allowed "^lib(stdc\\+\\+|m|gcc_s|c|lcms2|hwy)\\.so")
 if(SANITIZE)
-  set(allowed "^lib(stdc\\+\\+|m|gcc_s|c|asan|ubsan)\\.so")
+  set(allowed "^lib(stdc\\+\\+|m|gcc_s|c|lcms2|hwy|asan|ubsan)\\.so")
 endif()
 string(REGEX MATCHALL "NEEDED[^\n]*" needed "${dynamic}")
 foreach(line IN LISTS needed)
