@@ -46,16 +46,17 @@ BoundedCms::~BoundedCms() {
   if (context_ != nullptr) {
     cmsDeleteContext(context_);
   }
-  while (first_ != nullptr) {
-    release(first_);
+  for (Block* block = first_; block != nullptr;) {
+    Block* next = block->next;
+    std::free(block);
+    block = next;
   }
 }
 
 const char* BoundedCms::run(const char* (*work)(cmsContext context, void* argument), void* argument,
                             const char* noMemory) {
-  // NOLINTNEXTLINE(cert-err52-cpp): the frames between are a C library's, which exceptions may not
-  // cross.
-  if (context_ == nullptr || setjmp(refusal_) != 0) {
+  // The frames between are a C library's, which exceptions may not cross.
+  if (context_ == nullptr || setjmp(refusal_) != 0) {  // NOLINT(cert-err52-cpp)
     running_ = false;
     return noMemory;
   }
@@ -103,7 +104,7 @@ void* BoundedCms::take(cmsContext context, cmsUInt32Number size) {
   const std::size_t whole = sizeof(Block) + (size + kStep - 1) / kStep * kStep;
   Block* block = owner->allocate(whole);
   if (block == nullptr && owner->running_) {
-    std::longjmp(owner->refusal_, 1);  // NOLINT(cert-err52-cpp): as above
+    std::longjmp(owner->refusal_, 1);  // NOLINT(cert-err52-cpp)
   }
   return block != nullptr ? block + 1 : nullptr;
 }
