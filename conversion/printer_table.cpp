@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <mutex>
 #include <new>
-#include <span>
 
 #include "conversion/profile_file.h"
 #include "conversion/table_from_profile.h"

@@ -6,6 +6,7 @@
 
 #include <lcms2.h>
 
+#include <cstddef>
 #include <vector>
 
 using ProfileBytes = std::vector<unsigned char>;
@@ -42,8 +43,8 @@ ProfileBytes cmyk_profile();
 ProfileBytes device_link_profile();
 ProfileBytes abstract_profile();
 
-/// The matrix device's profile with its first word of class, colour space or connection space
-/// replaced: `offset` 12, 16 or 20.
+/// A profile with another word at this byte of its header: 0 the size, 12 the class, 16 the colour
+/// space, 20 the connection space.
 ProfileBytes with_header_word(ProfileBytes profile, std::size_t offset, cmsUInt32Number word);
 
 #endif  // TQR7_TESTS_UNIT_CONVERSION_PROFILE_MAKER_H
