@@ -138,38 +138,30 @@ void SharpenLine(const unsigned char* rgb, const std::uint16_t* blurred, std::si
 HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
-namespace {
-
-HWY_EXPORT(SplitLine);
-HWY_EXPORT(LumaLine);
-HWY_EXPORT(BlurAlong);
-HWY_EXPORT(BlurAcross);
-HWY_EXPORT(SharpenLine);
-
-}  // namespace
+#include "conversion/run_on_processor.h"
 
 void split_line(const unsigned char* rgb, std::size_t pixels, const LinePlanes& line) {
-  HWY_DYNAMIC_DISPATCH(SplitLine)(rgb, pixels, line);
+  TQR7_RUN_ON_PROCESSOR(SplitLine(rgb, pixels, line))
 }
 
 void luma_line(const unsigned char* rgb, std::size_t pixels, std::uint16_t* luma) {
-  HWY_DYNAMIC_DISPATCH(LumaLine)(rgb, pixels, luma);
+  TQR7_RUN_ON_PROCESSOR(LumaLine(rgb, pixels, luma))
 }
 
 void blur_along(std::uint16_t* line, std::size_t pixels, std::uint16_t* blurred) {
   std::fill_n(line - 2, 2, line[0]);
   std::fill_n(line + pixels, 2, line[pixels - 1]);
-  HWY_DYNAMIC_DISPATCH(BlurAlong)(line, pixels, blurred);
+  TQR7_RUN_ON_PROCESSOR(BlurAlong(line, pixels, blurred))
 }
 
 void blur_across(const std::array<const std::uint16_t*, 5>& lines, std::size_t pixels,
                  std::uint16_t* blurred) {
-  HWY_DYNAMIC_DISPATCH(BlurAcross)(lines, pixels, blurred);
+  TQR7_RUN_ON_PROCESSOR(BlurAcross(lines, pixels, blurred))
 }
 
 void sharpen_line(const unsigned char* rgb, const std::uint16_t* blurred, std::size_t pixels,
                   int strength, const LinePlanes& fine) {
-  HWY_DYNAMIC_DISPATCH(SharpenLine)
-  (rgb, blurred, pixels, static_cast<std::uint16_t>(strength), fine);
+  TQR7_RUN_ON_PROCESSOR(
+      SharpenLine(rgb, blurred, pixels, static_cast<std::uint16_t>(strength), fine))
 }
 #endif  // HWY_ONCE

@@ -250,26 +250,18 @@ std::uint64_t InterpolateLine(const ColourTable& table, const LinePlanes& positi
 HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
-namespace {
-
-HWY_EXPORT(PositionsOfFine);
-HWY_EXPORT(PositionsOfBytes);
-HWY_EXPORT(InterpolateLine);
-
-}  // namespace
+#include "conversion/run_on_processor.h"
 
 void positions_of_fine(const LinePlanes& line, std::size_t pixels) {
-  HWY_DYNAMIC_DISPATCH(PositionsOfFine)(line, pixels);
+  TQR7_RUN_ON_PROCESSOR(PositionsOfFine(line, pixels))
 }
 
-void positions_of_bytes(const LinePlanes& line, std::size_t pixels) {
-  HWY_DYNAMIC_DISPATCH(PositionsOfBytes)(line, pixels);
-}
+void positions_of_bytes(const LinePlanes& line,
+                        std::size_t pixels){TQR7_RUN_ON_PROCESSOR(PositionsOfBytes(line, pixels))}
 
 std::uint64_t interpolate_line(const ColourTable& table, const LinePlanes& positions,
-                               std::size_t pixels, unsigned char* samples) {
-  return HWY_DYNAMIC_DISPATCH(InterpolateLine)(table, positions, pixels, samples);
-}
+                               std::size_t pixels, unsigned char* samples){
+    TQR7_RUN_ON_PROCESSOR(InterpolateLine(table, positions, pixels, samples))}
 
 std::uint64_t join_line(const LinePlanes& line, std::size_t pixels, unsigned char* samples) {
   std::uint64_t sum = 0;

@@ -3,13 +3,13 @@
 // Fuzzes the conversion library with any geometry, strides, settings and pixels, on every kind of
 // processor that this computer can play: all must give the same bytes. The bands lie in buffers
 // that hold exactly what their geometry promises, so the sanitizer sees every step beyond.
-#include <hwy/targets.h>
 
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <vector>
 
+#include "conversion/processor.h"
 #include "image/mv_change_image.h"
 
 namespace {
@@ -101,8 +101,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::vector<unsigned char> before = destination.bytes;
 
   std::vector<unsigned char> first;
-  for (const std::int64_t processor : hwy::SupportedAndGeneratedTargets()) {
-    hwy::SetSupportedTargetsForTest(processor);
+  for (const std::int64_t processor : usable_targets()) {
+    use_target(processor);
     destination.bytes = before;
     unsigned char rgb_rate = 201;
     unsigned char op_rate = 202;

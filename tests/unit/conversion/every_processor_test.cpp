@@ -3,12 +3,12 @@
 // The inner loops on every kind of processor that this computer can play, against plain arithmetic:
 // a photo must not look different on another computer.
 #include <gtest/gtest.h>
-#include <hwy/targets.h>
 
 #include <cstring>
 #include <random>
 
 #include "conversion/photo_kernels.h"
+#include "conversion/processor.h"
 #include "conversion/sample_kernels.h"
 #include "tests/unit/conversion/plain_kernels.h"
 
@@ -85,8 +85,8 @@ class Lines {
 
 class EveryProcessor : public testing::TestWithParam<std::int64_t> {
  protected:
-  void SetUp() override { hwy::SetSupportedTargetsForTest(GetParam()); }
-  void TearDown() override { hwy::SetSupportedTargetsForTest(0); }
+  void SetUp() override { use_target(GetParam()); }
+  void TearDown() override { use_target(usable_targets().front()); }
 };
 
 TEST_P(EveryProcessor, TakesThePhotosBytesApart) {
@@ -212,10 +212,10 @@ TEST_P(EveryProcessor, WritesNoByteBesideALinesSamples) {
 }
 
 std::string name_of(const testing::TestParamInfo<std::int64_t>& target) {
-  return hwy::TargetName(target.param);
+  return target.param == 0 ? "EveryOne" : "Target" + std::to_string(target.param);
 }
 
-INSTANTIATE_TEST_SUITE_P(OnThisComputer, EveryProcessor,
-                         testing::ValuesIn(hwy::SupportedAndGeneratedTargets()), name_of);
+INSTANTIATE_TEST_SUITE_P(OnThisComputer, EveryProcessor, testing::ValuesIn(usable_targets()),
+                         name_of);
 
 }  // namespace
