@@ -13,6 +13,9 @@ namespace {
 /// Requests still to be granted before one is refused; negative: all are granted.
 int grantsLeft = -1;
 
+/// Bytes asked for so far.
+std::size_t bytesAsked = 0;
+
 bool refuse_next() {
   return grantsLeft >= 0 && grantsLeft-- == 0;
 }
@@ -22,6 +25,7 @@ bool refuse_next() {
 // The library asks in this form only. What is granted comes from the array-new that array-delete
 // belongs to.
 void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
+  bytesAsked += size;
   if (refuse_next()) {
     return nullptr;
   }
@@ -77,6 +81,20 @@ TEST_F(NoMemory, APageThatGetsAllItsMemoryIsConverted) {
 TEST_F(NoMemory, AfterARefusalTheNextPageIsConverted) {
   EXPECT_EQ(callWithGrants(2), 51);
   EXPECT_EQ(callWithGrants(-1), 0);
+}
+
+TEST_F(NoMemory, TheLargestSheetTakesAQuarterOfAMegabyteBesideItsBands) {
+  TestBand sheet(1852, 2434, 3);
+  TestBand engine(1852, 2434, 6);
+  TestBand overcoat(1852, 2446, 1);
+  params.dwFlags |= kChangeFlagColorConversion;
+  params.nTone[0] = 1;
+  bytesAsked = 0;
+  ASSERT_EQ(
+      MVChangeImage(&sheet.record, &params, &engine.record, &overcoat.record, &rates[0], &rates[1]),
+      0);
+  EXPECT_GT(bytesAsked, 3U * 2 * 1852);
+  EXPECT_LT(bytesAsked, 250000U);
 }
 
 }  // namespace
