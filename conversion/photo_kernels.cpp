@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "conversion/compiled_targets.h"
+
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "conversion/photo_kernels.cpp"
 #include "hwy/foreach_target.h"  // this file once more for each kind of processor

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "conversion/processor.h"
 
+#include "conversion/compiled_targets.h"
+//
 #include <hwy/detect_targets.h>
 
 #include <atomic>

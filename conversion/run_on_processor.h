@@ -5,6 +5,8 @@
 #ifndef TQR7_CONVERSION_RUN_ON_PROCESSOR_H
 #define TQR7_CONVERSION_RUN_ON_PROCESSOR_H
 
+#include "conversion/compiled_targets.h"
+//
 #include <hwy/highway.h>
 
 #include "conversion/processor.h"

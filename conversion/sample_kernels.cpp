@@ -5,6 +5,8 @@
 
 #include "conversion/engine_sample.h"
 
+#include "conversion/compiled_targets.h"
+
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "conversion/sample_kernels.cpp"
 #include "hwy/foreach_target.h"  // this file once more for each kind of processor
