@@ -174,8 +174,8 @@ TEST(Sharpening, APixelReachesFourPixelsFar) {
 
 TEST(Sharpening, PagesOfEveryShapeComeOutAsPlainArithmeticHasThem) {
   std::mt19937 generator(5);
-  for (const std::size_t width : {1, 2, 3, 4, 5, 8, 9, 17, 33, 100}) {
-    for (const std::size_t height : {1, 2, 3, 4, 5, 6, 9, 11}) {
+  for (const std::size_t width : {1U, 2U, 3U, 4U, 5U, 8U, 9U, 17U, 33U, 100U}) {
+    for (const std::size_t height : {1U, 2U, 3U, 4U, 5U, 6U, 9U, 11U}) {
       std::vector<Bytes> page(height, Bytes(3 * width));
       for (Bytes& row : page) {
         for (unsigned char& byte : row) {
