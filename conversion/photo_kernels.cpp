@@ -143,27 +143,27 @@ HWY_AFTER_NAMESPACE();
 #include "conversion/run_on_processor.h"
 
 void split_line(const unsigned char* rgb, std::size_t pixels, const LinePlanes& line) {
-  TQR7_RUN_ON_PROCESSOR(SplitLine(rgb, pixels, line))
+  TQR7_RUN_ON_PROCESSOR(SplitLine(rgb, pixels, line));
 }
 
 void luma_line(const unsigned char* rgb, std::size_t pixels, std::uint16_t* luma) {
-  TQR7_RUN_ON_PROCESSOR(LumaLine(rgb, pixels, luma))
+  TQR7_RUN_ON_PROCESSOR(LumaLine(rgb, pixels, luma));
 }
 
 void blur_along(std::uint16_t* line, std::size_t pixels, std::uint16_t* blurred) {
   std::fill_n(line - 2, 2, line[0]);
   std::fill_n(line + pixels, 2, line[pixels - 1]);
-  TQR7_RUN_ON_PROCESSOR(BlurAlong(line, pixels, blurred))
+  TQR7_RUN_ON_PROCESSOR(BlurAlong(line, pixels, blurred));
 }
 
 void blur_across(const std::array<const std::uint16_t*, 5>& lines, std::size_t pixels,
                  std::uint16_t* blurred) {
-  TQR7_RUN_ON_PROCESSOR(BlurAcross(lines, pixels, blurred))
+  TQR7_RUN_ON_PROCESSOR(BlurAcross(lines, pixels, blurred));
 }
 
 void sharpen_line(const unsigned char* rgb, const std::uint16_t* blurred, std::size_t pixels,
                   int strength, const LinePlanes& fine) {
   TQR7_RUN_ON_PROCESSOR(
-      SharpenLine(rgb, blurred, pixels, static_cast<std::uint16_t>(strength), fine))
+      SharpenLine(rgb, blurred, pixels, static_cast<std::uint16_t>(strength), fine));
 }
 #endif  // HWY_ONCE

@@ -44,14 +44,16 @@
 #endif
 
 /// Returns what `call`, a call of a function in the targets' namespaces, returns on this processor.
-#define TQR7_RUN_ON_PROCESSOR(call)     \
-  switch (processor_target()) {         \
-    TQR7_ON_AVX3(call)                  \
-    TQR7_ON_AVX2(call)                  \
-    TQR7_ON_SSE4(call)                  \
-    TQR7_ON_SSSE3(call)                 \
-    default:                            \
-      return HWY_STATIC_DISPATCH(call); \
-  }
+#define TQR7_RUN_ON_PROCESSOR(call)       \
+  do {                                    \
+    switch (processor_target()) {         \
+      TQR7_ON_AVX3(call)                  \
+      TQR7_ON_AVX2(call)                  \
+      TQR7_ON_SSE4(call)                  \
+      TQR7_ON_SSSE3(call)                 \
+      default:                            \
+        return HWY_STATIC_DISPATCH(call); \
+    }                                     \
+  } while (false)
 
 #endif  // TQR7_CONVERSION_RUN_ON_PROCESSOR_H

@@ -153,7 +153,9 @@ using Node = hn::Full64<std::int16_t>;
 /// a[0] × b[0] + a[1] × b[1], and so on for each two neighbours.
 HWY_INLINE hn::Vec<PairSums> MultiplyNeighbours(hn::Vec<Pair> a, hn::Vec<Pair> b) {
   const PairSums d;
-#if HWY_ARCH_X86
+#if HWY_ARCH_X86 && HWY_TARGET != HWY_EMU128
+  // One instruction of x86, which adds neighbours and leaves the second sum alone. Elsewhere the
+  // products are shared out between the two sums in other ways.
   auto none = hn::Zero(d);
   return hn::ReorderWidenMulAccumulate(d, a, b, hn::Zero(d), none);
 #else
@@ -255,15 +257,17 @@ HWY_AFTER_NAMESPACE();
 #include "conversion/run_on_processor.h"
 
 void positions_of_fine(const LinePlanes& line, std::size_t pixels) {
-  TQR7_RUN_ON_PROCESSOR(PositionsOfFine(line, pixels))
+  TQR7_RUN_ON_PROCESSOR(PositionsOfFine(line, pixels));
 }
 
-void positions_of_bytes(const LinePlanes& line,
-                        std::size_t pixels){TQR7_RUN_ON_PROCESSOR(PositionsOfBytes(line, pixels))}
+void positions_of_bytes(const LinePlanes& line, std::size_t pixels) {
+  TQR7_RUN_ON_PROCESSOR(PositionsOfBytes(line, pixels));
+}
 
 std::uint64_t interpolate_line(const ColourTable& table, const LinePlanes& positions,
-                               std::size_t pixels, unsigned char* samples){
-    TQR7_RUN_ON_PROCESSOR(InterpolateLine(table, positions, pixels, samples))}
+                               std::size_t pixels, unsigned char* samples) {
+  TQR7_RUN_ON_PROCESSOR(InterpolateLine(table, positions, pixels, samples));
+}
 
 std::uint64_t join_line(const LinePlanes& line, std::size_t pixels, unsigned char* samples) {
   std::uint64_t sum = 0;
