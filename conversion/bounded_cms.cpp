@@ -55,8 +55,11 @@ BoundedCms::~BoundedCms() {
 
 const char* BoundedCms::run(const char* (*work)(cmsContext context, void* argument), void* argument,
                             const char* noMemory) {
+  if (context_ == nullptr) {
+    return noMemory;
+  }
   // The frames between are a C library's, which exceptions may not cross.
-  if (context_ == nullptr || setjmp(refusal_) != 0) {  // NOLINT(cert-err52-cpp)
+  if (setjmp(refusal_) != 0) {  // NOLINT(cert-err52-cpp)
     running_ = false;
     return noMemory;
   }
@@ -66,7 +69,11 @@ const char* BoundedCms::run(const char* (*work)(cmsContext context, void* argume
   return result;
 }
 
-BoundedCms::Block* BoundedCms::allocate(std::size_t whole) {
+BoundedCms::Block* BoundedCms::allocate(std::uint64_t bytes) {
+  if (bytes > std::max(left_, kBeginning)) {
+    return nullptr;
+  }
+  const auto whole = static_cast<std::size_t>(bytes);
   if (!running_ && whole <= kBeginning - beginningUsed_) {
     void* place = &beginning_[beginningUsed_];
     beginningUsed_ += whole;
@@ -101,7 +108,8 @@ void* BoundedCms::take(cmsContext context, cmsUInt32Number size) {
   auto* owner =
       beingMade != nullptr ? beingMade : static_cast<BoundedCms*>(cmsGetContextUserData(context));
   constexpr std::size_t kStep = alignof(Block);
-  const std::size_t whole = sizeof(Block) + (size + kStep - 1) / kStep * kStep;
+  // A profile may ask for nearly 4 GiB: with the head that is more than 32 bits hold.
+  const std::uint64_t whole = sizeof(Block) + (std::uint64_t{size} + kStep - 1) / kStep * kStep;
   Block* block = owner->allocate(whole);
   if (block == nullptr && owner->running_) {
     std::longjmp(owner->refusal_, 1);  // NOLINT(cert-err52-cpp)

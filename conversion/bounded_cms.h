@@ -11,6 +11,7 @@
 #include <array>
 #include <csetjmp>
 #include <cstddef>
+#include <cstdint>
 #include <span>
 
 /// A Little CMS context of its own for one piece of work: nothing it does touches the context that
@@ -42,7 +43,7 @@ class BoundedCms {
   static void give_back(cmsContext context, void* taken);
   static void* resize(cmsContext context, void* taken, cmsUInt32Number size);
 
-  Block* allocate(std::size_t whole);
+  Block* allocate(std::uint64_t bytes);
   void release(Block* block);
 
   alignas(std::max_align_t) std::array<unsigned char, kBeginning> beginning_;
