@@ -16,8 +16,7 @@ namespace {
 
 constexpr const char* kNoMemory = "there is no memory";
 
-/// The last profile that was not the model's, with what came of it: a table, or a fault. Never
-/// destroyed: a job's end may come by a signal, in the middle of its use.
+/// The last profile that was not the model's, with what came of it: a table, or a fault.
 struct Kept {
   std::mutex lock;
   unsigned char* content = nullptr;  ///< null: none
@@ -26,9 +25,11 @@ struct Kept {
   ColourTable table;
 };
 
+/// Never destroyed: a process may end in the middle of its use, in another thread or by a signal.
 Kept& kept_profile() {
-  static Kept kept;
-  return kept;
+  alignas(Kept) static std::array<std::byte, sizeof(Kept)> place;
+  static Kept* const kept = new (place.data()) Kept;
+  return *kept;
 }
 
 /// Puts the file's profile in the place of the one that is kept.
