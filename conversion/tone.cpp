@@ -64,12 +64,3 @@ double shaped_level(const ToneFactors& factors, double level) {
 double tone_level(const ChannelTone& tone, double level) {
   return shaped_level(tone_factors(tone), level);
 }
-
-ToneCurve make_tone_curve(const ChannelTone& tone) {
-  const ToneFactors factors = tone_factors(tone);
-  ToneCurve curve{};
-  for (std::size_t value = 0; value < curve.size(); ++value) {
-    curve[value] = shaped_level(factors, static_cast<double>(value) / 255.0);
-  }
-  return curve;
-}

@@ -4,9 +4,7 @@
 #ifndef TQR7_CONVERSION_TONE_H
 #define TQR7_CONVERSION_TONE_H
 
-#include <array>
 #include <cstddef>
-#include <cstdint>
 
 #include "image/mv_change_image.h"
 
@@ -28,9 +26,6 @@ struct ToneFactors {
   double odds;   ///< on the ratio of light to dark, by brightness
 };
 
-/// A level (0 black … 1 white) for each 8-bit value.
-using ToneCurve = std::array<double, 256>;
-
 /// The sliders of channel 0 (R), 1 (G) or 2 (B); numbers beyond an end count as that end.
 ChannelTone tone_of_channel(const tagMVChangeParams& params, std::size_t channel);
 
@@ -45,8 +40,5 @@ double tone_level(const ChannelTone& tone, double level);
 
 /// The same with the factors at hand, for many levels of one channel.
 double shaped_level(const ToneFactors& factors, double level);
-
-/// The curve of value / 255 for each 8-bit value.
-ToneCurve make_tone_curve(const ChannelTone& tone);
 
 #endif  // TQR7_CONVERSION_TONE_H

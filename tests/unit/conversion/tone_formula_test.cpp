@@ -75,16 +75,6 @@ TEST(ToneFormula, TheOrderIsGammaThenContrastThenBrightness) {
   EXPECT_NEAR(tone_level({-5, 64, -64}, 0.25), odds * odds / 2 / (1.0 + odds * odds / 2), 1e-12);
 }
 
-TEST(ToneFormula, TheCurveHoldsTheLevelsOfThe256Values) {
-  for (const ChannelTone& tone :
-       {ChannelTone{3, 40, -20}, ChannelTone{-2, -90, 128}, ChannelTone{0, 0, 0}}) {
-    const ToneCurve curve = make_tone_curve(tone);
-    for (int value = 0; value < 256; ++value) {
-      EXPECT_EQ(curve[static_cast<std::size_t>(value)], tone_level(tone, fine_level(16 * value)));
-    }
-  }
-}
-
 TEST(ToneFormula, LevelsBeyondBlackAndWhiteCountAsBlackAndWhite) {
   for (const ChannelTone& tone :
        {ChannelTone{0, 0, 0}, ChannelTone{3, 40, -20}, ChannelTone{-2, -90, 128}}) {

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <set>
@@ -17,11 +18,21 @@ namespace {
 
 using Samples = std::array<int, 256>;
 
+/// What each 8-bit value's level becomes.
+std::array<double, 256> levels_of(const ChannelTone& tone) {
+  const ToneFactors factors = tone_factors(tone);
+  std::array<double, 256> levels{};
+  for (std::size_t value = 0; value < 256; ++value) {
+    levels[value] = shaped_level(factors, static_cast<double>(value) / 255.0);
+  }
+  return levels;
+}
+
 Samples samples_of(const ChannelTone& tone) {
-  const ToneCurve curve = make_tone_curve(tone);
+  const std::array<double, 256> levels = levels_of(tone);
   Samples samples{};
   for (std::size_t value = 0; value < 256; ++value) {
-    samples[value] = static_cast<int>(std::lround(curve[value] * kEngineWhite));
+    samples[value] = static_cast<int>(std::lround(levels[value] * kEngineWhite));
   }
   return samples;
 }
@@ -73,8 +84,8 @@ std::array<int, 3> stops(int end) {
 
 /// How many of the 256 values are neither nearly black nor nearly white.
 long midtones(const ChannelTone& tone) {
-  const ToneCurve curve = make_tone_curve(tone);
-  return std::count_if(curve.begin(), curve.end(),
+  const std::array<double, 256> levels = levels_of(tone);
+  return std::count_if(levels.begin(), levels.end(),
                        [](double level) { return level > 0.05 && level < 0.95; });
 }
 
