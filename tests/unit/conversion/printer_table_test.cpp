@@ -3,11 +3,11 @@
 // Which table a page gets, from the file in the module directory, call after call.
 #include "conversion/printer_table.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <array>
+#include <filesystem>
 #include <fstream>
 #include <new>
 #include <string>
@@ -120,17 +120,12 @@ TEST_F(PrinterTableTest, AnotherProfileInItsPlaceIsUsedFromTheNextCallOn) {
 }
 
 TEST_F(PrinterTableTest, OtherContentOfTheSameSizeAndTimeIsSeen) {
-  const auto timeOf = [](const std::string& path) {
-    struct stat status {};
-    stat(path.c_str(), &status);
-    return std::array<timespec, 2>{status.st_atim, status.st_mtim};
-  };
   put(owners_profile(1));
-  const auto time = timeOf(folder / "tqr7.icc");
+  const auto time = std::filesystem::last_write_time(folder / "tqr7.icc");
   load();
   put(owners_profile(3));
   ASSERT_EQ(owners_profile(1).size(), owners_profile(3).size());
-  ASSERT_EQ(utimensat(AT_FDCWD, (folder / "tqr7.icc").c_str(), time.data(), 0), 0);
+  std::filesystem::last_write_time(folder / "tqr7.icc", time);
   load();
   EXPECT_EQ(middle(printer), kMiddleOfGamma3);
 }
