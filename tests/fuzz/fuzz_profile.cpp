@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // Fuzzes the reading of an owner's profile with any bytes, and with little memory: a table either
-// comes out whole, its nodes within what the interpolation relies on, or not at all.
+// comes out whole, its nodes within what a table may hold, or not at all.
 #include <cstdint>
 #include <cstdlib>
 #include <span>
@@ -33,7 +33,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::abort();
   }
   // The profile's own bytes say how little memory there is, so that a fault comes back.
-  const std::size_t scarce = size > 87 ? std::size_t{data[86]} << 10U | data[87] << 2U : size;
+  const std::size_t scarce =
+      size > 87 ? std::size_t{data[86]} << 10U | std::size_t{data[87]} << 2U : size;
   if (make_colour_table(profile, table, scarce) == nullptr && !is_sound(table)) {
     std::abort();
   }
