@@ -18,8 +18,8 @@
 
 namespace bench {
 
-/// What the figures are held to. Differences are CIEDE2000, distances from neutral thousandths
-/// (1/1023) of full scale.
+/// What the figures are held to. Differences are CIEDE2000, distances from neutral 1/1023 of
+/// full scale.
 namespace target {
 inline constexpr double kRoundTripMean = 0.5;
 inline constexpr double kRoundTripPercentile95 = 1.0;

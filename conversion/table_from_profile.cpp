@@ -12,9 +12,8 @@
 namespace {
 
 constexpr double kFullScale = 0x3FFF;
-// How far outside 0 … 0x3FFF a node may lie: half of full scale to each side, so that the
-// difference of two nodes still fits into 16 bits with its sign. Cells that clipping passes through
-// lie well within.
+// How far outside 0 … 0x3FFF a node may lie: half of full scale to each side, within 16 bits with a
+// sign. Cells that clipping passes through lie well within.
 constexpr double kLowestNode = -8192;
 constexpr double kHighestNode = 24575;
 

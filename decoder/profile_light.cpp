@@ -131,6 +131,9 @@ struct ProfileLight::Engine {
       return why;
     }
     const Profile screen = linear_screen(context);
+    if (screen == nullptr) {
+      return "no memory for Little CMS";
+    }
     // In floating point and as the profile says it: the tables that Little CMS else makes to be
     // quicker are off by up to fourteen of 255 in the shadows.
     transform = cmsCreateTransformTHR(context, device.get(), TYPE_RGB_16, screen.get(),

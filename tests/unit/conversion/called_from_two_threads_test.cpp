@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// No state between calls: pages converted at the same time come out as alone.
+// Pages converted at the same time, or one after the other, come out as alone.
 #include <gtest/gtest.h>
 
 #include <thread>

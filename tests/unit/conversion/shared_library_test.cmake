@@ -1,8 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 #
 # Fails unless the conversion library exports MVChangeImage alone, carries the file name that the
-# filter looks for, and needs no library but the compiler's runtime, Little CMS (colours) and
-# Highway (the processor's vector instructions).
+# filter looks for, and needs no library but the compiler's runtime and Little CMS (colours).
 execute_process(COMMAND ${NM} -D --defined-only ${LIBRARY}
   OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX REPLACE "[0-9a-f]+ " "" symbols "${symbols}")

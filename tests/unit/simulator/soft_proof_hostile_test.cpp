@@ -24,8 +24,8 @@ std::string refusal(const Profile& profile) {
   return SoftProof::Through(profile, why) == nullptr ? why : "it was taken";
 }
 
-// Whether a proof came, or else a reason; a proof must show something of the darkest and the
-// lightest.
+// Whether a proof came, or else a reason. A proof is used from the darkest to the lightest, so that
+// the sanitizers see what the profile makes it do.
 bool serves_or_says_why(const Profile& profile) {
   std::string why;
   const auto proof = SoftProof::Through(profile, why);
