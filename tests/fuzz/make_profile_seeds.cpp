@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <exception>
 #include <fstream>
+#include <stdexcept>
 #include <string>
 
 #include "model/printer_model.h"
@@ -14,6 +15,10 @@ namespace {
 void write(const std::string& path, const ProfileBytes& bytes) {
   std::ofstream file(path, std::ios::binary);
   file << std::string(bytes.begin(), bytes.end());
+  file.close();
+  if (!file) {
+    throw std::runtime_error(path + ": cannot be written");
+  }
 }
 
 ProfileBytes dyes(double version, bool eightBits) {
