@@ -3,8 +3,11 @@
 // The inner loops on every kind of processor that this computer can play, against plain arithmetic:
 // a photo must not look different on another computer.
 #include <gtest/gtest.h>
+#include <sys/mman.h>
+#include <unistd.h>
 
 #include <cstring>
+#include <new>
 #include <random>
 
 #include "conversion/photo_kernels.h"
@@ -62,6 +65,31 @@ const ColourTable& random_table() {
   return table;
 }
 
+/// Memory whose last byte is followed by a wall as thick as itself: a step beyond ends the program.
+class Walled {
+ public:
+  explicit Walled(std::size_t size) : room_(whole_pages(size)) {
+    auto* const room = static_cast<unsigned char*>(pages_);
+    EXPECT_EQ(mprotect(room + room_, room_, PROT_NONE), 0);
+    first_ = room + (room_ - size);
+  }
+  Walled(const Walled&) = delete;
+  Walled& operator=(const Walled&) = delete;
+  ~Walled() { munmap(pages_, 2 * room_); }
+
+  unsigned char* first() { return first_; }
+
+ private:
+  static std::size_t whole_pages(std::size_t size) {
+    const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    return (size + page - 1) / page * page;
+  }
+
+  std::size_t room_;
+  void* pages_ = mmap(nullptr, 2 * room_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANON, -1, 0);
+  unsigned char* first_ = nullptr;
+};
+
 /// Lines in memory as the loops want them.
 class Lines {
  public:
@@ -109,6 +137,21 @@ TEST_P(EveryProcessor, SeesTheSameLuma) {
     Lines lines(1, pixels);
     luma_line(rgb.data(), pixels, lines.line(0));
     ASSERT_EQ(lines.get(0), plain::luma(rgb)) << pixels << " pixels";
+  }
+}
+
+TEST_P(EveryProcessor, ReadsNoByteBehindAPhotosLastRow) {
+  for (std::size_t pixels = 1; pixels <= 134; ++pixels) {
+    const plain::Bytes rgb = random_rgb(pixels);
+    Walled row(rgb.size());
+    std::memcpy(row.first(), rgb.data(), rgb.size());
+    Lines lines(5, pixels);
+    split_line(row.first(), pixels, lines.planes(0));
+    EXPECT_EQ(lines.line(2)[pixels - 1], rgb.back());
+    luma_line(row.first(), pixels, lines.line(3));
+    EXPECT_EQ(lines.get(3), plain::luma(rgb));
+    sharpen_line(row.first(), lines.line(4), pixels, 0, lines.planes(0));
+    EXPECT_EQ(lines.line(2)[pixels - 1], 16 * rgb.back());
   }
 }
 
@@ -198,6 +241,19 @@ TEST_P(EveryProcessor, MixesTheSameSamplesFromTheTableAndAddsThemUp) {
     }
     ASSERT_EQ(sum, expectedSum) << pixels << " pixels";
   }
+}
+
+TEST_P(EveryProcessor, ReadsNoNodeBehindTheTable) {
+  Walled memory(sizeof(ColourTable));
+  auto& table = *new (memory.first()) ColourTable(random_table());
+  table.nodes.back() = {1, 20, 300, 0};
+  Lines lines(3, 3);
+  for (std::size_t plane = 0; plane < 3; ++plane) {
+    lines.put(plane, plain::Line(3, kPositionWhite));
+  }
+  std::array<std::uint16_t, 9> samples{};
+  interpolate_line(table, lines.planes(0), 3, reinterpret_cast<unsigned char*>(samples.data()));
+  EXPECT_EQ(samples, (std::array<std::uint16_t, 9>{1, 20, 300, 1, 20, 300, 1, 20, 300}));
 }
 
 TEST_P(EveryProcessor, WritesNoByteBesideALinesSamples) {
