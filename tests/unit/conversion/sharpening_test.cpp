@@ -173,6 +173,20 @@ TEST(Sharpening, APixelReachesFourPixelsFar) {
   EXPECT_GT(changed, 20U);
 }
 
+TEST(Sharpening, AfterAnotherReserveAnotherPageBeginsAtItsTop) {
+  Bytes bytes = grey_row(5, 90);
+  Bytes others = grey_row(3, 200);
+  Sharpener sharpener;
+  LineMemory memory;
+  ASSERT_TRUE(memory.reserve(3, 5));
+  const LinePlanes line{memory.line(0), memory.line(1), memory.line(2)};
+  ASSERT_TRUE(sharpener.reserve(5));
+  sharpener.sharpen({bytes.data(), 15, 5, 1}, 0, 7, line);
+  ASSERT_TRUE(sharpener.reserve(3));
+  sharpener.sharpen({others.data(), 9, 3, 1}, 0, 7, line);
+  EXPECT_EQ(plain::Line(line[0], line[0] + 3), plain::Line(3, 3200));
+}
+
 TEST(Sharpening, PagesOfEveryShapeComeOutAsPlainArithmeticHasThem) {
   // NOLINTNEXTLINE(cert-msc32-c,cert-msc51-cpp): the same numbers in every run
   std::mt19937 generator(5);
