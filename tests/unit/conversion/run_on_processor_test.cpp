@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 
+#include "conversion/compiled_targets.h"
 #include "conversion/processor.h"
 
 #undef HWY_TARGET_INCLUDE
@@ -33,7 +34,7 @@ HWY_AFTER_NAMESPACE();
 namespace {
 
 std::int64_t target_that_runs() {
-  TQR7_RUN_ON_PROCESSOR(OwnTarget())
+  TQR7_RUN_ON_PROCESSOR(OwnTarget());
 }
 
 class RunOnProcessor : public testing::TestWithParam<std::int64_t> {
