@@ -150,21 +150,13 @@ using Pair = hn::Full128<std::int16_t>;  // two pixels' samples, four numbers ea
 using PairSums = hn::Full128<std::int32_t>;
 using Node = hn::Full64<std::int16_t>;
 
-/// a[0] × b[0] + a[1] × b[1], and so on for each two neighbours.
+/// a[0] × b[0] + a[1] × b[1], and so on for each two neighbours. Some processors add them up at
+/// once, others leave a part in `rest`.
 HWY_INLINE hn::Vec<PairSums> MultiplyNeighbours(hn::Vec<Pair> a, hn::Vec<Pair> b) {
   const PairSums d;
-#if HWY_ARCH_X86 && HWY_TARGET != HWY_EMU128
-  // One instruction of x86, which adds neighbours and leaves the second sum alone. Elsewhere the
-  // products are shared out between the two sums in other ways.
-  auto none = hn::Zero(d);
-  return hn::ReorderWidenMulAccumulate(d, a, b, hn::Zero(d), none);
-#else
-  const auto wideA = hn::BitCast(d, a);
-  const auto wideB = hn::BitCast(d, b);
-  const auto even = hn::Mul(hn::ShiftRight<16>(hn::ShiftLeft<16>(wideA)),
-                            hn::ShiftRight<16>(hn::ShiftLeft<16>(wideB)));
-  return hn::Add(even, hn::Mul(hn::ShiftRight<16>(wideA), hn::ShiftRight<16>(wideB)));
-#endif
+  auto rest = hn::Zero(d);
+  const auto sums = hn::ReorderWidenMulAccumulate(d, a, b, hn::Zero(d), rest);
+  return hn::RearrangeToOddPlusEven(sums, rest);
 }
 
 HWY_INLINE hn::Vec<Pair> TwoNodes(const ColourNode& a, const ColourNode& b) {
