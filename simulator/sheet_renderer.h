@@ -5,8 +5,8 @@
 //
 // The colours come from a soft proof; without one a 14-bit value v is shown as it is, as
 // round(v × 255 / 16383). With a matte plane, a matte byte m scales each of the dot's values by
-// (1785 + m) / 2040: 0xFF, the full overcoat, leaves them, 0x00 takes an eighth away. The texture so
-// shows as a light grain, and the colours stay to be judged.
+// (1785 + m) / 2040: 0xFF, the full overcoat, leaves them, 0x00 takes an eighth away. The texture
+// so shows as a light grain, and the colours stay to be judged.
 #ifndef TQR7_SIMULATOR_SHEET_RENDERER_H
 #define TQR7_SIMULATOR_SHEET_RENDERER_H
 

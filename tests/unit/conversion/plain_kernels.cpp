@@ -74,6 +74,7 @@ Planes sharpen(const Bytes& rgb, const Line& blurred, int strength) {
 
 std::vector<Planes> sharpen_page(const std::vector<Bytes>& page, int strength) {
   std::vector<Line> lines;
+  lines.reserve(page.size());
   for (const Bytes& row : page) {
     lines.push_back(blur_along(blur_along(luma(row))));
   }
@@ -87,7 +88,7 @@ std::vector<Planes> sharpen_page(const std::vector<Bytes>& page, int strength) {
 
 std::array<std::uint16_t, 3> interpolate(const ColourTable& table,
                                          const std::array<std::uint16_t, 3>& position) {
-  constexpr std::array<std::size_t, 3> kSteps{33 * 33, 33, 1};
+  constexpr std::array<std::size_t, 3> kSteps{1089, 33, 1};
   std::size_t node = 0;
   std::array<std::array<int, 2>, 3> parts{};  // how far along the axis, and which axis it is
   for (std::size_t axis = 0; axis < 3; ++axis) {
