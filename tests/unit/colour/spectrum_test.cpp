@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // The measuring instrument itself, on squares whose spectrum is known.
-#include "tests/unit/conversion/spectrum.h"
+#include "bench/spectrum.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +10,9 @@
 #include <random>
 
 namespace {
+
+using bench::cut_out;
+using bench::Square;
 
 /// Random bytes, the same in each run.
 std::vector<unsigned char> white_noise(std::size_t side) {

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// How a texture's energy is spread over frequencies and distances, for the matte finish's tests.
-#ifndef TQR7_TESTS_UNIT_CONVERSION_SPECTRUM_H
-#define TQR7_TESTS_UNIT_CONVERSION_SPECTRUM_H
+// How a texture's energy is spread over frequencies and distances.
+#ifndef TQR7_BENCH_SPECTRUM_H
+#define TQR7_BENCH_SPECTRUM_H
 
 #include <cstddef>
+#include <span>
 #include <vector>
+
+namespace bench {
 
 /// A square of numbers, row by row.
 struct Square {
@@ -19,7 +22,7 @@ struct Square {
 };
 
 /// A square cut out of a plane of bytes at (left, top), less its own mean.
-Square cut_out(const std::vector<unsigned char>& plane, std::size_t planeWidth, std::size_t left,
+Square cut_out(std::span<const unsigned char> plane, std::size_t planeWidth, std::size_t left,
                std::size_t top, std::size_t side);
 
 /// The square faded out to nothing towards its edges by Hann's window, sin²(π (i + ½) / side) each
@@ -39,4 +42,6 @@ double energy_against_white(const Square& power, double from, double below);
 /// and y rows; from the side on, for x − 2 side and y − 2 side.
 Square likeness_of(const Square& square);
 
-#endif  // TQR7_TESTS_UNIT_CONVERSION_SPECTRUM_H
+}  // namespace bench
+
+#endif  // TQR7_BENCH_SPECTRUM_H

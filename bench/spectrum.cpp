@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "tests/unit/conversion/spectrum.h"
+#include "bench/spectrum.h"
 
 #include <cmath>
 #include <complex>
@@ -7,6 +7,7 @@
 #include <numeric>
 #include <utility>
 
+namespace bench {
 namespace {
 
 using Complex = std::complex<double>;
@@ -71,12 +72,12 @@ double frequency(std::size_t place, std::size_t side) {
 
 }  // namespace
 
-Square cut_out(const std::vector<unsigned char>& plane, std::size_t planeWidth, std::size_t left,
+Square cut_out(std::span<const unsigned char> plane, std::size_t planeWidth, std::size_t left,
                std::size_t top, std::size_t side) {
   Square square(side);
   for (std::size_t y = 0; y < side; ++y) {
     for (std::size_t x = 0; x < side; ++x) {
-      square.at(x, y) = plane.at((top + y) * planeWidth + left + x);
+      square.at(x, y) = plane[(top + y) * planeWidth + left + x];
     }
   }
   take_mean_away(square.values);
@@ -154,3 +155,5 @@ Square likeness_of(const Square& square) {
   }
   return likeness;
 }
+
+}  // namespace bench
