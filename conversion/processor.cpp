@@ -12,70 +12,68 @@
 
 namespace {
 
+/// A target, and the features without which it must not run.
+struct Version {
+  std::int64_t target;
+  unsigned needs;
+};
+
+constexpr unsigned kForSse4 = kSsse3 | kSse42 | kPclmul | kAes;
+constexpr unsigned kForAvx2 = kForSse4 | kAvx2 | kBmi | kBmi2 | kFma | kF16c;
+constexpr unsigned kForAvx3 = kForAvx2 | kAvx512f | kAvx512vl | kAvx512dq | kAvx512bw | kAvx512cd;
+
+/// Best first. Elsewhere than on x86 what every processor of the kind has (NEON) serves.
+constexpr Version kVersions[] = {
+    {HWY_AVX3, kForAvx3}, {HWY_AVX2, kForAvx2}, {HWY_SSE4, kForSse4}, {HWY_SSSE3, kSsse3}};
+
 #if HWY_ARCH_X86
 
-bool has_half_floats() {
+unsigned bit_if(int supported, ProcessorFeature feature) {
+  return supported != 0 ? feature : 0U;
+}
+
+int has_half_floats() {
   unsigned a = 0;
   unsigned b = 0;
   unsigned c = 0;
   unsigned d = 0;
-  return __get_cpuid(1, &a, &b, &c, &d) != 0 && (c & bit_F16C) != 0;
+  return static_cast<int>(__get_cpuid(1, &a, &b, &c, &d) != 0 && (c & bit_F16C) != 0);
 }
 
-// Each asks for all that Highway lets the compiler use for the target; the operating system's part
-// (saving the wide registers) is in the compiler's answers.
-bool has_sse4() {
-  return __builtin_cpu_supports("ssse3") && __builtin_cpu_supports("sse4.2") &&
-         __builtin_cpu_supports("pclmul") && __builtin_cpu_supports("aes");
+/// The operating system's part, saving the wide registers, is in the compiler's answers.
+unsigned features_here() {
+  return bit_if(__builtin_cpu_supports("ssse3"), kSsse3) |
+         bit_if(__builtin_cpu_supports("sse4.2"), kSse42) |
+         bit_if(__builtin_cpu_supports("pclmul"), kPclmul) |
+         bit_if(__builtin_cpu_supports("aes"), kAes) |
+         bit_if(__builtin_cpu_supports("avx2"), kAvx2) |
+         bit_if(__builtin_cpu_supports("bmi"), kBmi) |
+         bit_if(__builtin_cpu_supports("bmi2"), kBmi2) |
+         bit_if(__builtin_cpu_supports("fma"), kFma) | bit_if(has_half_floats(), kF16c) |
+         bit_if(__builtin_cpu_supports("avx512f"), kAvx512f) |
+         bit_if(__builtin_cpu_supports("avx512vl"), kAvx512vl) |
+         bit_if(__builtin_cpu_supports("avx512dq"), kAvx512dq) |
+         bit_if(__builtin_cpu_supports("avx512bw"), kAvx512bw) |
+         bit_if(__builtin_cpu_supports("avx512cd"), kAvx512cd);
 }
-
-bool has_avx2() {
-  return has_sse4() && __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi") &&
-         __builtin_cpu_supports("bmi2") && __builtin_cpu_supports("fma") && has_half_floats();
-}
-
-bool has_avx3() {
-  return has_avx2() && __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512vl") &&
-         __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512bw") &&
-         __builtin_cpu_supports("avx512cd");
-}
-
-bool runs_here(std::int64_t target) {
-  switch (target) {
-    case HWY_AVX3:
-      return has_avx3();
-    case HWY_AVX2:
-      return has_avx2();
-    case HWY_SSE4:
-      return has_sse4();
-    case HWY_SSSE3:
-      return __builtin_cpu_supports("ssse3");
-    default:
-      return false;
-  }
-}
-
-constexpr std::int64_t kBestFirst[] = {HWY_AVX3, HWY_AVX2, HWY_SSE4, HWY_SSSE3};
 
 #else
 
-// Elsewhere what every processor of the kind has (NEON) serves.
-bool runs_here(std::int64_t) {
-  return false;
+unsigned features_here() {
+  return 0;
 }
-
-constexpr std::int64_t kBestFirst[] = {0};
 
 #endif
 
-bool usable(std::int64_t target) {
-  return (target & HWY_TARGETS) != 0 && runs_here(target);
+bool runs(const Version& version, unsigned features) {
+  return (version.target & HWY_TARGETS) != 0 && (version.needs & ~features) == 0;
 }
 
 std::int64_t best_target() {
-  for (const std::int64_t target : kBestFirst) {
-    if (usable(target)) {
-      return target;
+  const unsigned features = features_here();
+  for (const Version& version : kVersions) {
+    if (runs(version, features)) {
+      return version.target;
     }
   }
   return 0;
@@ -88,19 +86,23 @@ std::atomic<std::int64_t>& chosen_target() {
 
 }  // namespace
 
+std::vector<std::int64_t> targets_for(unsigned features) {
+  std::vector<std::int64_t> targets;
+  for (const Version& version : kVersions) {
+    if (runs(version, features)) {
+      targets.push_back(version.target);
+    }
+  }
+  targets.push_back(0);
+  return targets;
+}
+
 std::int64_t processor_target() {
   return chosen_target().load(std::memory_order_relaxed);
 }
 
 std::vector<std::int64_t> usable_targets() {
-  std::vector<std::int64_t> targets;
-  for (const std::int64_t target : kBestFirst) {
-    if (usable(target)) {
-      targets.push_back(target);
-    }
-  }
-  targets.push_back(0);
-  return targets;
+  return targets_for(features_here());
 }
 
 void use_target(std::int64_t target) {

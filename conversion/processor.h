@@ -11,11 +11,33 @@
 #include <cstdint>
 #include <vector>
 
+/// What Highway lets the compiler use for one version or another on x86, a bit each.
+enum ProcessorFeature : unsigned {
+  kSsse3 = 1U << 0U,
+  kSse42 = 1U << 1U,
+  kPclmul = 1U << 2U,
+  kAes = 1U << 3U,
+  kAvx2 = 1U << 4U,
+  kBmi = 1U << 5U,
+  kBmi2 = 1U << 6U,
+  kFma = 1U << 7U,
+  kF16c = 1U << 8U,
+  kAvx512f = 1U << 9U,
+  kAvx512vl = 1U << 10U,
+  kAvx512dq = 1U << 11U,
+  kAvx512bw = 1U << 12U,
+  kAvx512cd = 1U << 13U,
+};
+
+/// The targets that were compiled and that run on a processor with these features, best first, 0
+/// last.
+std::vector<std::int64_t> targets_for(unsigned features);
+
 /// One of Highway's targets (HWY_AVX2, …): the best that was compiled and that runs here. 0 where
 /// nothing beyond what every processor of this kind has was compiled.
 std::int64_t processor_target();
 
-/// All targets that were compiled and run here, best first, 0 last.
+/// targets_for() this computer.
 std::vector<std::int64_t> usable_targets();
 
 /// Has the loops run as on that processor, for holding them against each other. Only one of

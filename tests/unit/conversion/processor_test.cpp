@@ -5,17 +5,16 @@
 #include "conversion/processor.h"
 
 #include <gtest/gtest.h>
-#include <hwy/detect_targets.h>
 
 #include <algorithm>
-#include <atomic>
+#include <fstream>
 #include <iterator>
-#include <set>
+#include <sstream>
 #include <string>
-#include <vector>
-#if HWY_ARCH_X86
-#include <cpuid.h>
-#endif
+
+#include "conversion/compiled_targets.h"
+//
+#include <hwy/detect_targets.h>
 
 namespace {
 
@@ -33,51 +32,13 @@ TEST(Processor, TheBestVersionComesFirstAndTheOneForEveryProcessorLast) {
   EXPECT_TRUE(std::is_sorted(targets.begin(), targets.end()));  // Highway's better ones are lower
 }
 
-}  // namespace
-
 #if HWY_ARCH_X86
 
-namespace {
-
-/// What the pretended processor lacks.
-std::set<std::string> lacking;
-
-bool pretended_supports(const char* feature) {
-  return lacking.count(feature) == 0;
-}
-
-int pretended_cpuid(unsigned leaf, unsigned* a, unsigned* b, unsigned* c, unsigned* d) {
-  *a = *b = *c = *d = 0;
-  if (leaf == 1 && lacking.count("f16c") == 0) {
-    *c = bit_F16C;
-  }
-  return 1;
-}
-
-}  // namespace
-
-// The choice once more, as it is made on the pretended processor. What its file includes has been
-// included above, outside the namespace.
-// NOLINTBEGIN(bugprone-reserved-identifier,bugprone-suspicious-include,cert-dcl37-c,cert-dcl51-cpp)
-#define __builtin_cpu_supports(feature) pretended_supports(feature)
-#define __get_cpuid pretended_cpuid
-namespace pretended {
-#include "conversion/processor.cpp"
-}  // namespace pretended
-#undef __builtin_cpu_supports
-#undef __get_cpuid
-// NOLINTEND(bugprone-reserved-identifier,bugprone-suspicious-include,cert-dcl37-c,cert-dcl51-cpp)
-
-namespace {
-
-/// The versions that a processor runs that has all but this: those of `all` that were compiled.
 using Targets = std::vector<std::int64_t>;
 
-Targets targets_without(const std::string& feature) {
-  lacking = {feature};
-  return pretended::usable_targets();
-}
+constexpr unsigned kEverything = ~0U;
 
+/// Those of `all` that were compiled.
 Targets compiled(const Targets& all) {
   Targets targets;
   std::copy_if(all.begin(), all.end(), std::back_inserter(targets),
@@ -85,39 +46,81 @@ Targets compiled(const Targets& all) {
   return targets;
 }
 
-TEST(PretendedProcessor, WithEverythingRunsAllVersions) {
-  EXPECT_EQ(targets_without("nothing"), compiled({HWY_AVX3, HWY_AVX2, HWY_SSE4, HWY_SSSE3, 0}));
+TEST(Processor, WithEverythingRunsAllVersions) {
+  EXPECT_EQ(targets_for(kEverything), compiled({HWY_AVX3, HWY_AVX2, HWY_SSE4, HWY_SSSE3, 0}));
 }
 
-TEST(PretendedProcessor, WithoutAPartOfAvx512RunsAvx2) {
+TEST(Processor, WithoutAPartOfAvx512RunsAvx2) {
   const Targets expected = compiled({HWY_AVX2, HWY_SSE4, HWY_SSSE3, 0});
-  EXPECT_EQ(targets_without("avx512f"), expected);
-  EXPECT_EQ(targets_without("avx512vl"), expected);
-  EXPECT_EQ(targets_without("avx512dq"), expected);
-  EXPECT_EQ(targets_without("avx512bw"), expected);
-  EXPECT_EQ(targets_without("avx512cd"), expected);
+  EXPECT_EQ(targets_for(kEverything - kAvx512f), expected);
+  EXPECT_EQ(targets_for(kEverything - kAvx512vl), expected);
+  EXPECT_EQ(targets_for(kEverything - kAvx512dq), expected);
+  EXPECT_EQ(targets_for(kEverything - kAvx512bw), expected);
+  EXPECT_EQ(targets_for(kEverything - kAvx512cd), expected);
 }
 
-TEST(PretendedProcessor, WithoutAPartOfAvx2RunsSse4) {
+TEST(Processor, WithoutAPartOfAvx2RunsSse4) {
   const Targets expected = compiled({HWY_SSE4, HWY_SSSE3, 0});
-  EXPECT_EQ(targets_without("avx2"), expected);
-  EXPECT_EQ(targets_without("bmi"), expected);
-  EXPECT_EQ(targets_without("bmi2"), expected);
-  EXPECT_EQ(targets_without("fma"), expected);
-  EXPECT_EQ(targets_without("f16c"), expected);
+  EXPECT_EQ(targets_for(kEverything - kAvx2), expected);
+  EXPECT_EQ(targets_for(kEverything - kBmi), expected);
+  EXPECT_EQ(targets_for(kEverything - kBmi2), expected);
+  EXPECT_EQ(targets_for(kEverything - kFma), expected);
+  EXPECT_EQ(targets_for(kEverything - kF16c), expected);
 }
 
-TEST(PretendedProcessor, WithoutAPartOfSse4RunsSsse3) {
+TEST(Processor, WithoutAPartOfSse4RunsSsse3) {
   const Targets expected = compiled({HWY_SSSE3, 0});
-  EXPECT_EQ(targets_without("sse4.2"), expected);
-  EXPECT_EQ(targets_without("pclmul"), expected);
-  EXPECT_EQ(targets_without("aes"), expected);
+  EXPECT_EQ(targets_for(kEverything - kSse42), expected);
+  EXPECT_EQ(targets_for(kEverything - kPclmul), expected);
+  EXPECT_EQ(targets_for(kEverything - kAes), expected);
 }
 
-TEST(PretendedProcessor, WithoutSsse3RunsWhatEveryProcessorHas) {
-  EXPECT_EQ(targets_without("ssse3"), Targets{0});
+TEST(Processor, WithoutSsse3RunsWhatEveryProcessorHas) {
+  EXPECT_EQ(targets_for(kEverything - kSsse3), Targets{0});
+  EXPECT_EQ(targets_for(0), Targets{0});
 }
+
+#ifdef __linux__
+
+/// The kernel's own list of what the processor has.
+bool kernel_tells(const std::string& feature) {
+  std::ifstream file("/proc/cpuinfo");
+  std::string line;
+  while (std::getline(file, line)) {
+    std::istringstream words(line);
+    std::string word;
+    words >> word;
+    if (word == "flags") {
+      return std::find(std::istream_iterator<std::string>(words), {}, feature) !=
+             std::istream_iterator<std::string>();
+    }
+  }
+  return false;
+}
+
+TEST(Processor, ThisOnesFeaturesAreThoseThatTheKernelTells) {
+  unsigned features = 0;
+  const auto add = [&features](const char* name, ProcessorFeature feature) {
+    features |= kernel_tells(name) ? feature : 0U;
+  };
+  add("ssse3", kSsse3);
+  add("sse4_2", kSse42);
+  add("pclmulqdq", kPclmul);
+  add("aes", kAes);
+  add("avx2", kAvx2);
+  add("bmi1", kBmi);
+  add("bmi2", kBmi2);
+  add("fma", kFma);
+  add("f16c", kF16c);
+  add("avx512f", kAvx512f);
+  add("avx512vl", kAvx512vl);
+  add("avx512dq", kAvx512dq);
+  add("avx512bw", kAvx512bw);
+  add("avx512cd", kAvx512cd);
+  EXPECT_EQ(usable_targets(), targets_for(features));
+}
+
+#endif  // __linux__
+#endif  // HWY_ARCH_X86
 
 }  // namespace
-
-#endif  // HWY_ARCH_X86
