@@ -1,28 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Little CMS's profiles and transforms as objects that release themselves; what cannot be made
-// throws std::runtime_error.
+// Little CMS for measuring: what cannot be made throws std::runtime_error.
 #ifndef TQR7_BENCH_LITTLE_CMS_H
 #define TQR7_BENCH_LITTLE_CMS_H
 
 #include <lcms2.h>
 
-#include <memory>
 #include <span>
 #include <string>
 #include <vector>
 
+#include "model/little_cms_handles.h"
+
 namespace bench {
 
-struct ProfileCloser {
-  void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
-using Profile = std::unique_ptr<void, ProfileCloser>;
-
-struct TransformDeleter {
-  void operator()(void* transform) const { cmsDeleteTransform(transform); }
-};
-using Transform = std::unique_ptr<void, TransformDeleter>;
+using cms::Profile;
+using cms::Transform;
 
 /// The pixel layouts for Little CMS's float pipeline, which does not clip.
 inline constexpr cmsUInt32Number kRgbFloat = TYPE_RGB_DBL;

@@ -40,6 +40,13 @@ tagMVChangeParams params_of(const PrintSettings& settings) {
   return params;
 }
 
+/// Throws std::runtime_error when the library refuses the page.
+void run_once(PageConversion& conversion) {
+  if (const long code = conversion.run(); code != 0) {
+    throw std::runtime_error("MVChangeImage() = " + std::to_string(code));
+  }
+}
+
 }  // namespace
 
 PageConversion::PageConversion(const Picture& picture, PrintSettings settings)
@@ -63,9 +70,7 @@ long PageConversion::run() {
 
 std::vector<std::uint16_t> converted(const Picture& picture, const PrintSettings& settings) {
   PageConversion conversion(picture, settings);
-  if (const long code = conversion.run(); code != 0) {
-    throw std::runtime_error("MVChangeImage() = " + std::to_string(code));
-  }
+  run_once(conversion);
   return {conversion.samples().begin(), conversion.samples().end()};
 }
 
@@ -77,9 +82,7 @@ std::vector<unsigned char> matte_plane(std::size_t width, std::size_t height) {
   settings.colourConversion = false;
   settings.matte = true;
   PageConversion conversion(white, settings);
-  if (const long code = conversion.run(); code != 0) {
-    throw std::runtime_error("MVChangeImage() = " + std::to_string(code));
-  }
+  run_once(conversion);
   return {conversion.matte().begin(), conversion.matte().end()};
 }
 

@@ -9,6 +9,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "model/little_cms_handles.h"
+
 namespace decoder {
 namespace {
 
@@ -46,20 +48,13 @@ void keep_first_words(cmsContext context, cmsUInt32Number /*code*/, const char* 
   }
 }
 
-struct CloseProfile {
-  void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
-using Profile = std::unique_ptr<void, CloseProfile>;
-
-struct DeleteCurve {
-  void operator()(cmsToneCurve* curve) const { cmsFreeToneCurve(curve); }
-};
+using cms::Profile;
 
 // The screen with its encoding left away: the primaries and the white of sRGB.
 Profile linear_screen(cmsContext context) {
   const cmsCIExyY white = {0.3127, 0.3290, 1.0};
   const cmsCIExyYTRIPLE primaries = {{0.64, 0.33, 1.0}, {0.30, 0.60, 1.0}, {0.15, 0.06, 1.0}};
-  const std::unique_ptr<cmsToneCurve, DeleteCurve> line(cmsBuildGamma(context, 1.0));
+  const cms::Curve line(cmsBuildGamma(context, 1.0));
   const std::array<cmsToneCurve*, 3> curves = {line.get(), line.get(), line.get()};
   return Profile(cmsCreateRGBProfileTHR(context, &white, &primaries, curves.data()));
 }

@@ -8,20 +8,15 @@
 #include <cstddef>
 #include <memory>
 
+#include "model/little_cms_handles.h"
+
 namespace {
 
 using Vector = std::array<double, 3>;
 using Matrix = std::array<Vector, 3>;  ///< rows
 
-struct ProfileCloser {
-  void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
-using Profile = std::unique_ptr<void, ProfileCloser>;
-
-struct CurveFreer {
-  void operator()(cmsToneCurve* curve) const { cmsFreeToneCurve(curve); }
-};
-using Curve = std::unique_ptr<cmsToneCurve, CurveFreer>;
+using cms::Curve;
+using cms::Profile;
 
 struct TextFreer {
   void operator()(cmsMLU* text) const { cmsMLUfree(text); }
