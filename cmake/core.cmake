@@ -9,6 +9,7 @@ add_library(tqr7_core STATIC
   diag/image_files.cpp
   filter/descriptors.cpp
   filter/filter_hooks.cpp
+  filter/job_options.cpp
   filter/job_state.cpp
   filter/module_path.cpp
   filter/page_conversion.cpp
@@ -22,6 +23,7 @@ add_library(tqr7_core STATIC
   protocol/plane_transfer.cpp
   protocol/print_image.cpp
   protocol/readiness_check.cpp
+  status/connection_check.cpp
   status/printer_check.cpp
   status/printer_exchange.cpp
   status/printer_state.cpp

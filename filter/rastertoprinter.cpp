@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // The filter's main: checks before the job, the page loop, the clean-up and the exit status.
-#include <cups/cups.h>
 #include <cups/ppd.h>
 #include <cups/raster.h>
-#include <cups/sidechannel.h>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -14,15 +12,16 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "diag/enum_names.h"
 #include "filter/descriptors.h"
 #include "filter/filter_hooks.h"
+#include "filter/job_options.h"
 #include "filter/job_state.h"
 #include "filter/module_path.h"
 #include "filter/ppd_options.h"
 #include "filter/sheet_assembly.h"
 #include "image/band_image.h"
 #include "protocol/job_header.h"
+#include "status/connection_check.h"
 #include "status/printer_check.h"
 
 namespace {
@@ -30,7 +29,6 @@ namespace {
 constexpr int kArgumentOptions = 5;
 constexpr int kArgumentFile = 6;
 constexpr unsigned int kPauseBeforeFailure = 1;  // seconds
-constexpr double kBidiTimeout = 30.0;            // seconds
 constexpr int kModulePathSize = 1024;
 constexpr int kBytesPerPixel = 3;
 constexpr unsigned int kLinesPerReport = 128;
@@ -59,32 +57,6 @@ bool open_raster_file(int argc, char* argv[], JobInput* input) {
   perror("ERROR: Unable to open raster file - ");
   sleep(kPauseBeforeFailure);
   return false;
-}
-
-void mark_options(ppd_file_t* ppd, const char* text) {
-  cups_option_t* options = nullptr;
-  const int count = cupsParseOptions(text, 0, &options);
-  ppdMarkDefaults(ppd);
-  cupsMarkOptions(ppd, count, options);
-  cupsFreeOptions(count, options);
-}
-
-// The printer's answers are needed throughout the job: without a way back there is no printing.
-bool connection_is_bidirectional() {
-  char reply[512] = {};
-  int length = sizeof reply;
-  const cups_sc_status_t status =
-      cupsSideChannelDoRequest(CUPS_SC_CMD_GET_BIDI, reply, &length, kBidiTimeout);
-  std::fprintf(stderr, "DEBUG: CUPS_SC_CMD_GET_BIDI=%s(%d)\n", to_string(status),
-               static_cast<int>(status));
-  const bool supported = status == CUPS_SC_STATUS_OK && length == 1 &&
-                         static_cast<signed char>(reply[0]) == CUPS_SC_BIDI_SUPPORTED;
-  if (!supported) {
-    std::fprintf(stderr,
-                 "DEBUG: Unable to retrieve supply status from printer - nobidirectional I/O "
-                 "available!\n");
-  }
-  return supported;
 }
 
 void report_progress(unsigned int percent) {
@@ -197,7 +169,6 @@ int main(int argc, char* argv[]) {
     return 1;
   }
   input.raster = cupsRasterOpen(input.descriptor, CUPS_RASTER_READ);
-  input.ppd = ppdOpenFile(std::getenv("PPD"));
-  mark_options(input.ppd, argv[kArgumentOptions]);
+  input.ppd = open_marked_ppd(argv[kArgumentOptions]);
   return run_job(input);
 }

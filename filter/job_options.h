@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// The queue's PPD with the choices that the job's options make.
+#ifndef TQR7_FILTER_JOB_OPTIONS_H
+#define TQR7_FILTER_JOB_OPTIONS_H
+
+#include <cups/ppd.h>
+
+/// Opens the PPD that the environment names, and marks its defaults, then the choices of the
+/// options text. Null when there is none that can be read; the caller closes it.
+ppd_file_s* open_marked_ppd(const char* options);
+
+#endif  // TQR7_FILTER_JOB_OPTIONS_H
