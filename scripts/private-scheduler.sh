@@ -11,7 +11,8 @@
 #   scheduler_job_state JOB          pending, held, processing, stopped, canceled, aborted, completed
 #   scheduler_stop                   ends it with all it started, and removes the folder
 #
-# Set SCHEDULER_FILTER_PRELOAD to a library to have the filter, and nothing else, run with it.
+# Set SCHEDULER_FILTER_PRELOAD to a library to have the printer's two filters, and nothing else, run
+# with it.
 
 # The folder of the system's backends and filters.
 : "${CUPS_SERVERBIN:=/usr/lib/cups}"
@@ -67,20 +68,24 @@ CONF
 }
 
 # A scheduler that runs as root starts only filters that root alone can change, and the build folder
-# may be anyone's: the filter, what lies beside it and a PPD that names it there are copied. The
+# may be anyone's: the filters, what lies beside them and a PPD that names them there are copied. The
 # scheduler is copied too, because a confined /usr/sbin/cupsd may not write below /tmp.
 scheduler_copy_programs() {
   local build=$1 filter="$SCHEDULER_DIR/filter"
   cp "$(PATH=$PATH:/usr/sbin command -v cupsd)" "$SCHEDULER_DIR/cupsd"
-  cp "$build/rastertoprinter" "$build"/libTQR7mervale.so.1 "$build/tqr7.icc" "$filter/"
+  cp "$build/rastertoprinter" "$build/commandtoprinter" "$build"/libTQR7mervale.so.1 \
+    "$build/tqr7.icc" "$filter/"
   if [ -n "${SCHEDULER_FILTER_PRELOAD:-}" ]; then
     cp "$SCHEDULER_FILTER_PRELOAD" "$filter/preload.so"
-    mv "$filter/rastertoprinter" "$filter/filter-proper"
-    printf '#!/bin/sh\nLD_PRELOAD=%s exec %s "$@"\n' "$filter/preload.so" "$filter/filter-proper" \
-      >"$filter/rastertoprinter"
+    local name
+    for name in rastertoprinter commandtoprinter; do
+      mv "$filter/$name" "$filter/$name-proper"
+      printf '#!/bin/sh\nLD_PRELOAD=%s exec %s "$@"\n' "$filter/preload.so" \
+        "$filter/$name-proper" >"$filter/$name"
+    done
   fi
   chmod 755 "$filter"/*
-  sed "s|^\(\*cupsFilter: \"application/vnd.cups-raster 0 \).*\"|\1$filter/rastertoprinter\"|" \
+  sed "s|^\(\*cupsFilter: \"[^ ]* 0 \).*/\([a-z]*\)\"|\1$filter/\2\"|" \
     "$build/tqr7.ppd" >"$SCHEDULER_DIR/tqr7.ppd"
 }
 

@@ -95,10 +95,26 @@ TEST(PpdLines, NameThePrinterInWordsThatDoNotChange) {
 TEST(PpdLines, SendRasterToTheFilterByItsAbsolutePath) {
   const Ppd ppd = open_ppd();
   ASSERT_NE(ppd, nullptr);
-  ASSERT_EQ(ppd->num_filters, 1);
+  ASSERT_EQ(ppd->num_filters, 2);
   EXPECT_STREQ(ppd->filters[0],
                "application/vnd.cups-raster 0 " TQR7_FILTER_DIR "/rastertoprinter");
   EXPECT_EQ(std::string(TQR7_FILTER_DIR).front(), '/');
+}
+
+TEST(PpdLines, SendCommandsToTheCommandFilterBesideTheFilter) {
+  const Ppd ppd = open_ppd();
+  ASSERT_NE(ppd, nullptr);
+  ASSERT_EQ(ppd->num_filters, 2);
+  EXPECT_STREQ(ppd->filters[1],
+               "application/vnd.cups-command 0 " TQR7_FILTER_DIR "/commandtoprinter");
+}
+
+TEST(PpdLines, NameTheCommands) {
+  const Ppd ppd = open_ppd();
+  ASSERT_NE(ppd, nullptr);
+  const ppd_attr_t* commands = ppdFindAttr(ppd.get(), "cupsCommands", nullptr);
+  ASSERT_NE(commands, nullptr);
+  EXPECT_STREQ(commands->value, "ReportStatus PrintSelfTestPage");
 }
 
 TEST(PpdLines, HoldNoVariableThatWasLeftUnset) {
