@@ -19,9 +19,10 @@
 
 namespace filter_test {
 
-/// One run of the filter.
+/// One run of a filter.
 struct Job {
-  std::string input = {};   ///< raster stream on standard input
+  std::string program = FILTER_TEST_PROGRAM;
+  std::string input = {};   ///< raster stream, or commands, on standard input
   bool more_input = false;  ///< standard input stays open for Feed
   std::string options = {};
   std::optional<std::vector<std::string>> arguments = {};  ///< in place of the usual five

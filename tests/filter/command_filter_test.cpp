@@ -1,0 +1,420 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// The command filter as a process: what it sends, what it logs and how it ends for each command.
+#include <gtest/gtest.h>
+
+#include "decoder/stream_parser.h"
+#include "tests/filter/comparison.h"
+#include "tests/filter/filter_process.h"
+#include "tests/filter/seeded_random.h"
+#include "tests/filter/small_job.h"
+
+namespace filter_test {
+namespace {
+
+const std::string kMark = "#CUPS-COMMAND\n";
+const std::string kGoodWords = "INFO: The printer is good.\n";
+const std::string kBadWords = "INFO: The printer is not good; the queue's reasons say why.\n";
+const std::string kNoAnswers =
+    "ERROR: The printer's answers do not come back over this connection.\n";
+const std::string kGoodCheck = StatusExchange() + GoodState() + kCleaned;
+const std::string kSmallestSheet = "PageSize=RQ_5x15";
+const Settings kSmallest{.paper = &k5x15};
+constexpr std::size_t kImageStart = 8 + 8 + 3 * 512;  // two status requests, three blocks
+
+Job CommandJob(const std::string& commands) {
+  return {.program = FILTER_TEST_COMMAND_PROGRAM, .input = kMark + commands};
+}
+
+Job SelfTestJob(const std::string& options = kSmallestSheet) {
+  Job job = CommandJob("PrintSelfTestPage\n");
+  job.options = options;
+  return job;
+}
+
+std::string Skipped(const std::string& name) {
+  return "WARNING: The printer has no command \"" + name + "\", which is skipped.\n";
+}
+
+void ExpectOutcome(const Outcome& outcome, int status, const std::string& log,
+                   const std::string& stream) {
+  EXPECT_EQ(outcome.status, status);
+  EXPECT_TRUE(SameLog(outcome.log, log));
+  EXPECT_TRUE(SameStream(outcome.stream, stream));
+}
+
+std::uint64_t ErrorsIn(const std::string& stream) {
+  decoder::CommandListener listener;
+  decoder::StreamParser parser(listener);
+  parser.Feed({reinterpret_cast<const std::uint8_t*>(stream.data()), stream.size()});
+  parser.EndOfStream();
+  return parser.ErrorCount();
+}
+
+/// The stand-in's three samples at a dot, as the bytes of the picture that they were made of.
+std::string DotOfImage(const std::string& stream, int width, int x, int y) {
+  const std::size_t at =
+      kImageStart + 6 * (static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+                         static_cast<std::size_t>(x));
+  std::string dot;
+  for (std::size_t channel = 0; channel < 3; ++channel) {
+    const unsigned low = static_cast<unsigned char>(stream.at(at + 2 * channel));
+    const unsigned high = static_cast<unsigned char>(stream.at(at + 2 * channel + 1));
+    char text[4];
+    std::snprintf(text, sizeof text, "%02X", (high * 256 + low) / 64);
+    dot += text;
+  }
+  return dot;
+}
+
+TEST(CommandFilter, ExplainsItsArgumentsWhenThereAreTooFewOrTooMany) {
+  const std::string usage = "ERROR: commandtoprinter job-id user title copies options [file]\n";
+  for (const std::vector<std::string>& arguments : {std::vector<std::string>{},
+                                                    {"7", "anna", "Beach", "1"},
+                                                    {"7", "a", "b", "1", "", "/", "x"}}) {
+    Job job = CommandJob("ReportStatus\n");
+    job.arguments = arguments;
+    ExpectOutcome(Print(job), 1, usage, "");
+  }
+}
+
+TEST(CommandFilter, FailsForAFileThatIsMissing) {
+  Job job = CommandJob("");
+  job.arguments = {"7", "anna", "Beach", "1", "", "/nonexistent/commands"};
+  ExpectOutcome(Print(job), 1,
+                "ERROR: Unable to open the file of printer commands: No such file or directory\n",
+                "");
+}
+
+TEST(CommandFilter, FailsForAFileOfSomethingElse) {
+  Job job = CommandJob("");
+  job.input = "%PDF-1.4\nReportStatus\n";
+  ExpectOutcome(Print(job), 1, "ERROR: This is no file of printer commands.\n", "");
+}
+
+TEST(CommandFilter, FailsForAnEmptyFile) {
+  Job job = CommandJob("");
+  job.input = "";
+  ExpectOutcome(Print(job), 1, "ERROR: This is no file of printer commands.\n", "");
+}
+
+TEST(CommandFilter, ReadsItsFileArgument) {
+  const TemporaryFolder folder;
+  Job job = CommandJob("");
+  job.input = "";
+  job.arguments = {"7", "anna", "Beach", "1", "", folder.Write("job", kMark + "Clean all\n")};
+  ExpectOutcome(Print(job), 0, Skipped("Clean"), "");
+}
+
+TEST(CommandFilter, DoesNothingForAFileWithoutCommands) {
+  const Outcome outcome = Print(CommandJob("# nothing to do\n\n"));
+
+  ExpectOutcome(outcome, 0, "", "");
+  EXPECT_EQ(outcome.notes, "");
+}
+
+TEST(CommandFilter, NamesAndSkipsWhatThePrinterDoesNotHave) {
+  const Outcome outcome = Print(CommandJob("Clean all\nAutoConfigure\nReportLevels"));
+
+  ExpectOutcome(outcome, 0, Skipped("Clean") + Skipped("AutoConfigure") + Skipped("ReportLevels"),
+                "");
+  EXPECT_EQ(outcome.notes, "");
+}
+
+TEST(CommandFilter, GoesOnBehindWhatItSkips) {
+  ExpectOutcome(Print(CommandJob("Clean all\nReportStatus\n")), 0,
+                Skipped("Clean") + kTwoWays + kGoodCheck + kGoodWords, StatusRequest());
+}
+
+TEST(CommandFilter, NamesSixteenUnknownCommandsAndNoMore) {
+  std::string commands;
+  std::string log;
+  for (int i = 1; i <= 40; ++i) {
+    commands += "Spin" + std::to_string(i) + "\n";
+    log += i <= 16 ? Skipped("Spin" + std::to_string(i)) : "";
+  }
+  ExpectOutcome(Print(CommandJob(commands)), 0,
+                log + "WARNING: More unknown commands are skipped.\n", "");
+}
+
+TEST(CommandFilter, NamesUnknownCommandsInPrintableLettersAndCutShort) {
+  ExpectOutcome(Print(CommandJob("a\x1B\0\xFFz\n"s + std::string(5000, 'l') + "\n")), 0,
+                Skipped("a???z") + Skipped(std::string(32, 'l')), "");
+}
+
+TEST(CommandFilter, TakesAnyBytesWithoutHarm) {
+  std::mt19937 random = SeededRandom(31);
+  for (int round = 0; round < 5; ++round) {
+    std::string bytes(60'000, ' ');
+    for (char& byte : bytes) {
+      byte = static_cast<char>(random());
+    }
+    const Outcome outcome = Print(CommandJob(bytes));
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.stream, "");
+  }
+}
+
+TEST(ReportStatus, AsksAGoodPrinterAndWithdrawsAllReasons) {
+  const Outcome outcome = Print(CommandJob("ReportStatus\n"));
+
+  ExpectOutcome(outcome, 0, kTwoWays + kGoodCheck + kGoodWords, StatusRequest());
+  EXPECT_EQ(outcome.notes,
+            "side channel 3, room 512, 30.0 s\n"
+            "side channel 2, room 512, 5.0 s\n"
+            "back channel, room 512, 1.0 s\n");
+}
+
+TEST(ReportStatus, RaisesTheReasonOfAPrinterInErrorAndSucceeds) {
+  const std::string reply = StatusReply(0x26, 0x65);
+  Job job = CommandJob("ReportStatus\n");
+  job.printer = {.status = {Answer(reply)}};
+
+  ExpectOutcome(Print(job), 0,
+                kTwoWays + StatusExchange(reply) +
+                    KnownError("0x2665", "com.corvantiel-error0008_2665") + kStop + kBadWords,
+                StatusRequest());
+}
+
+TEST(ReportStatus, RaisesTheReasonOfAPrinterThatDoesNotAnswerAndSucceeds) {
+  Job job = CommandJob("ReportStatus\n");
+  job.environment = kRealWaits;
+  job.printer = {.status = {kSilence}};
+
+  ExpectOutcome(Print(job), 0,
+                kTwoWays + FailedStatusExchange() + UnknownError("UNAVAILABLE") + kStop + kBadWords,
+                StatusRequest());
+}
+
+TEST(ReportStatus, FailsWithoutAWayBackBeforeAnythingIsSent) {
+  Job job = CommandJob("ReportStatus\nClean all\n");
+  job.printer = {.bidi = {.data = "\0"s}};
+
+  ExpectOutcome(Print(job), 1, kTwoWays + kNoTwoWays + kNoAnswers, "");
+}
+
+TEST(ReportStatus, NeedsNoPpd) {
+  Job job = CommandJob("ReportStatus\n");
+  job.ppd = std::nullopt;
+
+  ExpectOutcome(Print(job), 0, kTwoWays + kGoodCheck + kGoodWords, StatusRequest());
+}
+
+TEST(ReportStatus, MayBeWrittenInAnyLetters) {
+  ExpectOutcome(Print(CommandJob("reportSTATUS")), 0, kTwoWays + kGoodCheck + kGoodWords,
+                StatusRequest());
+}
+
+TEST(ReportStatus, AsksOnceAJob) {
+  ExpectOutcome(Print(CommandJob("ReportStatus\nReportStatus\nREPORTSTATUS\n")), 0,
+                kTwoWays + kGoodCheck + kGoodWords +
+                    "DEBUG: ReportStatus was carried out before\n"
+                    "DEBUG: ReportStatus was carried out before\n",
+                StatusRequest());
+}
+
+TEST(SelfTest, IsASheetLikeAPhotos) {
+  const Outcome outcome = Print(SelfTestJob());
+
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(SameLog(outcome.log, kTwoWays + kGoodCheck + PageRead(1, "0") +
+                                       Conversion(33, 33, 44, 44) +
+                                       SheetLog(kSmallest, 1, 1852, 631)));
+  const std::string before = StatusRequest() + StatusRequest() + ReadinessQuery(kSmallest) +
+                             JobHeader(kSmallest) + ImageHeader(kSmallest);
+  ASSERT_EQ(outcome.stream.size(), before.size() + std::size_t{1852} * 631 * 6 + 6);
+  EXPECT_TRUE(SameStream(outcome.stream.substr(0, before.size()), before));
+  EXPECT_TRUE(SameStream(outcome.stream.substr(outcome.stream.size() - 6), PrintOut()));
+  EXPECT_EQ(ErrorsIn(outcome.stream), 0U);
+}
+
+TEST(SelfTest, HasItsPatchesInTheImage) {
+  const Outcome outcome = Print(SelfTestJob());
+
+  EXPECT_EQ(DotOfImage(outcome.stream, 1852, 0, 0), "FFFFFF");
+  EXPECT_EQ(DotOfImage(outcome.stream, 1852, 110, 110), "FF0000");
+  EXPECT_EQ(DotOfImage(outcome.stream, 1852, 820, 110), "8000FF");
+  EXPECT_EQ(DotOfImage(outcome.stream, 1852, 110, 208), "F6D7C3");
+  EXPECT_EQ(DotOfImage(outcome.stream, 1852, 211, 310), "242424");
+}
+
+TEST(SelfTest, IsPrintedWithTheJobsOptions) {
+  const Outcome outcome =
+      Print(SelfTestJob("PageSize=RQ_9x13_WB RQPrintFinish=Matte RQPrintMode=Fast RQWaitTime=30"));
+
+  const Settings settings{.paper = &k9x13WhiteBorder, .wait = 30, .finish = kMatte, .mode = 5};
+  EXPECT_EQ(outcome.status, 0);
+  const std::string before = StatusRequest() + StatusRequest() + ReadinessQuery(settings) +
+                             JobHeader(settings) + ImageHeader(settings);
+  const std::string behind = MatteData(k9x13WhiteBorder) + PrintOut(30);
+  EXPECT_TRUE(SameStream(outcome.stream.substr(0, before.size()), before));
+  ASSERT_EQ(outcome.stream.size(), before.size() + std::size_t{1382} * 934 * 6 + behind.size());
+  EXPECT_TRUE(SameStream(outcome.stream.substr(outcome.stream.size() - behind.size()), behind));
+  EXPECT_EQ(ErrorsIn(outcome.stream), 0U);
+}
+
+TEST(SelfTest, IsWholeOnBothHalvesOfAJoinedSheet) {
+  const Settings settings{.paper = &kJoined, .rgb_rate = 66, .op_rate = 88};
+
+  const Outcome outcome = Print(SelfTestJob("PageSize=RQ_5x15x2_2"));
+
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(SameLog(outcome.log, kTwoWays + kGoodCheck + PageRead(1, "0") +
+                                       Conversion(33, 33, 44, 88) + PageRead(2, "0") +
+                                       Conversion(33, 66, 44, 88) +
+                                       SheetLog(settings, 2, 1852, 1232)));
+  EXPECT_EQ(DotOfImage(outcome.stream, 1852, 110, 110), "FF0000");
+  EXPECT_EQ(DotOfImage(outcome.stream, 1852, 110, 616 + 110), "FF0000");
+  EXPECT_EQ(DotOfImage(outcome.stream, 1852, 300, 615), "0060E0");
+  EXPECT_EQ(DotOfImage(outcome.stream, 1852, 300, 616), "FF8000");
+  EXPECT_EQ(ErrorsIn(outcome.stream), 0U);
+}
+
+TEST(SelfTest, IsNotPrintedByAPrinterInError) {
+  const std::string reply = StatusReply(0x26, 0x65);
+  Job job = SelfTestJob();
+  job.printer = {.status = {Answer(reply)}};
+
+  ExpectOutcome(Print(job), 1,
+                kTwoWays + StatusExchange(reply) +
+                    KnownError("0x2665", "com.corvantiel-error0008_2665") + kStop,
+                StatusRequest());
+}
+
+TEST(SelfTest, IsNotPrintedByAPrinterThatGetsIntoError) {
+  const std::string reply = StatusReply(0x26, 0x65);
+  Job job = SelfTestJob();
+  job.printer = {.status = {Answer(kGood), Answer(reply)}};
+
+  ExpectOutcome(Print(job), 1,
+                kTwoWays + kGoodCheck + PageRead(1, "0") + Conversion(33, 33, 44, 44) +
+                    StatusExchange(reply) + KnownError("0x2665", "com.corvantiel-error0008_2665") +
+                    kStop,
+                StatusRequest() + StatusRequest());
+}
+
+TEST(SelfTest, IsNotPrintedByAPrinterThatRefusesTheSheet) {
+  const std::string refusal = EnableReply(0x02, 0x00);
+  Job job = SelfTestJob();
+  job.printer = {.readiness = {Answer(refusal)}};
+
+  ExpectOutcome(Print(job), 1,
+                kTwoWays + kGoodCheck + PageRead(1, "0") + Conversion(33, 33, 44, 44) + kGoodCheck +
+                    kExamine + ReadinessExchange(kSmallest, refusal) +
+                    "DEBUG: CMD_GET_ENABLE[02 + 00]\n"
+                    "STATE: +paused\n"
+                    "ERROR: driver-setting-unmuch 0x0200\n"
+                    "DEBUG: ERROR CMD_GET_ENABLE[02 + 00]\n"
+                    "[sleep 1]\n",
+                StatusRequest() + StatusRequest() + ReadinessQuery(kSmallest));
+}
+
+TEST(SelfTest, FailsWhenThePageCannotBeConverted) {
+  Job job = SelfTestJob();
+  job.environment = {{"FILTER_TEST_RETURNS", "-3"}};
+
+  ExpectOutcome(Print(job), 1,
+                kTwoWays + kGoodCheck + PageRead(1, "0") + "DEBUG: Params=" + kDefaultParams +
+                    "\nDEBUG: MVChangeImage()=-3\nERROR: Unable to convert image (-3)\n",
+                StatusRequest());
+}
+
+TEST(SelfTest, FailsWithoutTheFolderOfTheConversion) {
+  Job job = SelfTestJob();
+  job.ppd = Ppd{.filters = {"application/vnd.cups-command 0 /opt/printer/commandtoprinter"}};
+
+  ExpectOutcome(Print(job), 1, kTwoWays + "ERROR: Unable to find module path\n", "");
+}
+
+TEST(SelfTest, FindsItsFolderInTheRasterFiltersLine) {
+  Job job = SelfTestJob();
+  job.ppd = Ppd{.filters = {"application/vnd.cups-command 0 /elsewhere/commandtoprinter",
+                            "application/vnd.cups-raster 0 /opt/printer/rastertoprinter"}};
+
+  const Outcome outcome = Print(job);
+
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_NE(outcome.calls.find(" /opt/printer/ "), std::string::npos) << outcome.calls;
+}
+
+TEST(SelfTest, FailsWithoutMemoryForItsPage) {
+  Job job = SelfTestJob();
+  job.environment = {{"FILTER_TEST_NO_MEMORY", "3505836 1"}};  // 1852 × 631 dots of 3 bytes
+
+  ExpectOutcome(Print(job), 1,
+                kTwoWays + kGoodCheck + "PAGE: 1 1\nERROR: Unable to allocate memory for page 1\n",
+                StatusRequest());
+}
+
+TEST(SelfTest, IsPrintedOnceAJob) {
+  Job job = SelfTestJob();
+  job.input += "PrintSelfTestPage\n";
+
+  const Outcome outcome = Print(job);
+
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.stream.size(), kImageStart + std::size_t{1852} * 631 * 6 + 6);
+  EXPECT_TRUE(outcome.log.ends_with("DEBUG: PrintSelfTestPage was carried out before\n"));
+}
+
+TEST(SelfTest, SharesTheQuestionForTwoWaysWithTheReportBeforeIt) {
+  Job job = SelfTestJob();
+  job.input = kMark + "ReportStatus\nPrintSelfTestPage\n";
+
+  const Outcome outcome = Print(job);
+
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(SameLog(outcome.log, kTwoWays + kGoodCheck + kGoodWords + kGoodCheck +
+                                       PageRead(1, "0") + Conversion(33, 33, 44, 44) +
+                                       SheetLog(kSmallest, 1, 1852, 631)));
+  EXPECT_EQ(ErrorsIn(outcome.stream), 0U);
+}
+
+TEST(SelfTest, ThatFailsEndsTheJob) {
+  Job job = SelfTestJob();
+  job.input += "ReportStatus\nClean all\n";
+  job.printer = {.status = {Answer(StatusReply(0x26, 0x65))}};
+
+  const Outcome outcome = Print(job);
+
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest()));
+  EXPECT_TRUE(outcome.log.ends_with(kStop));
+}
+
+TEST(SelfTest, ThatIsCancelledInItsConversionSendsNothingMore) {
+  Job job = SelfTestJob();
+  job.environment = {{"FILTER_TEST_TERM_CALL", "1"}};
+
+  ExpectOutcome(Print(job), 0,
+                kTwoWays + kGoodCheck + PageRead(1, "0") + "DEBUG: Params=" + kDefaultParams + "\n",
+                StatusRequest());
+}
+
+TEST(SelfTest, LeavesCommandsBehindItToSigterm) {
+  Job job = SelfTestJob();
+  job.more_input = true;
+  FilterProcess filter(job);
+  filter.WaitForLog("[sleep 5]\n");
+  filter.Feed("Clean all\n");
+  filter.WaitForLog(Skipped("Clean"));
+  filter.Terminate();
+
+  const Outcome outcome = filter.Finish();
+
+  EXPECT_EQ(outcome.signal, SIGTERM);
+  EXPECT_TRUE(outcome.stream.ends_with(PrintOut()));
+}
+
+TEST(SelfTest, ThatIsCancelledInItsPauseSendsNoPrintOut) {
+  Job job = SelfTestJob();
+  job.environment = {{"FILTER_TEST_TERM_SLEEP", "1"}};
+
+  const Outcome outcome = Print(job);
+
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.stream.size(), kImageStart + std::size_t{1852} * 631 * 6);
+}
+
+}  // namespace
+}  // namespace filter_test
