@@ -17,7 +17,6 @@
 #include "filter/module_path.h"
 #include "filter/ppd_options.h"
 #include "filter/print_setting.h"
-#include "filter/sheet_assembly.h"
 #include "image/band_image.h"
 #include "protocol/job_header.h"
 #include "status/printer_check.h"
@@ -80,7 +79,6 @@ bool print_sheet(ppd_file_s* ppd, const tagPRINTSETTING& settings, const char* m
       return false;
     }
   }
-  print_last_page(&settings);
   wr_esc_printout(fpOut, &settings);
   const OutputCall call;
   static_cast<void>(std::fflush(fpOut));

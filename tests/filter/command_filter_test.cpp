@@ -98,6 +98,12 @@ TEST(CommandFilter, FailsForAnEmptyFile) {
   ExpectOutcome(Print(job), 1, "ERROR: This is no file of printer commands.\n", "");
 }
 
+TEST(CommandFilter, FailsWithoutItsInput) {
+  Job job = CommandJob("ReportStatus\n");
+  job.closed_descriptors = {0};
+  ExpectOutcome(Print(job), 1, "ERROR: This is no file of printer commands.\n", "");
+}
+
 TEST(CommandFilter, ReadsItsFileArgument) {
   const TemporaryFolder folder;
   Job job = CommandJob("");
@@ -180,6 +186,15 @@ TEST(ReportStatus, RaisesTheReasonOfAPrinterThatDoesNotAnswerAndSucceeds) {
   Job job = CommandJob("ReportStatus\n");
   job.environment = kRealWaits;
   job.printer = {.status = {kSilence}};
+
+  ExpectOutcome(Print(job), 0,
+                kTwoWays + FailedStatusExchange() + UnknownError("UNAVAILABLE") + kStop + kBadWords,
+                StatusRequest());
+}
+
+TEST(ReportStatus, EndsWhenTheBackChannelIsClosed) {
+  Job job = CommandJob("ReportStatus\n");
+  job.closed_descriptors = {3};
 
   ExpectOutcome(Print(job), 0,
                 kTwoWays + FailedStatusExchange() + UnknownError("UNAVAILABLE") + kStop + kBadWords,

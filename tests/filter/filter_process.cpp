@@ -51,7 +51,7 @@ std::map<std::string, std::string> FilterEnvironment(const Job& job,
 }
 
 std::vector<std::string> FilterArguments(const Job& job) {
-  std::vector<std::string> result = {job.program};
+  std::vector<std::string> result = {job.program.empty() ? FILTER_TEST_PROGRAM : job.program};
   const std::vector<std::string> usual = {"7", "anna", "Beach", "1", job.options};
   const std::vector<std::string>& given = job.arguments ? *job.arguments : usual;
   result.insert(result.end(), given.begin(), given.end());

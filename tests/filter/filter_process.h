@@ -21,9 +21,9 @@ namespace filter_test {
 
 /// One run of a filter.
 struct Job {
-  std::string program = FILTER_TEST_PROGRAM;
-  std::string input = {};   ///< raster stream, or commands, on standard input
-  bool more_input = false;  ///< standard input stays open for Feed
+  std::string program = {};  ///< the filter unless told otherwise
+  std::string input = {};    ///< raster stream, or commands, on standard input
+  bool more_input = false;   ///< standard input stays open for Feed
   std::string options = {};
   std::optional<std::vector<std::string>> arguments = {};  ///< in place of the usual five
   std::optional<Ppd> ppd = Ppd{};                          ///< without one, PPD is not set
