@@ -7,13 +7,21 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <system_error>
 
 namespace simulator {
 namespace {
 
-constexpr int kSendTimeoutMilliseconds = 10000;
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::milliseconds kSendTimeout{10000};
+// The smallest buffer that systems give, and one above what they give: they cut it down.
+constexpr std::uint64_t kSmallestBuffer = 4096;
+constexpr std::uint64_t kLargestBuffer = 1 << 20;
+constexpr std::uint64_t kBuffersPerSecond = 4;
+constexpr std::uint64_t kReadsPerSecond = 20;
 
 std::string error_words(int errorNumber) {
   return std::generic_category().message(errorNumber);
@@ -25,8 +33,8 @@ bool is_temporary(int errorNumber) {
 
 }  // namespace
 
-ClientConnection::ClientConnection(int socket, int stopDescriptor)
-    : socket_(socket), stopDescriptor_(stopDescriptor) {
+ClientConnection::ClientConnection(int socket, const Waiter& waiter)
+    : socket_(socket), waiter_(waiter) {
   const int on = 1;
   // Answers leave at once, and a client that vanished without a word is noticed in the end.
   ::setsockopt(socket_, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
@@ -37,53 +45,87 @@ ClientConnection::~ClientConnection() {
   ::close(socket_);
 }
 
-Received ClientConnection::Receive() {
+void ClientConnection::CloseHard() {
+  const linger atOnce{1, 0};
+  ::setsockopt(socket_, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+}
+
+void ClientConnection::ReadSlowly(std::optional<std::uint64_t> bytesPerSecond) {
+  if (bytesPerSecond.has_value() != bytesPerSecond_.has_value()) {
+    const auto length = static_cast<int>(
+        std::clamp(bytesPerSecond.value_or(kBuffersPerSecond * kLargestBuffer) / kBuffersPerSecond,
+                   kSmallestBuffer, kLargestBuffer));
+    ::setsockopt(socket_, SOL_SOCKET, SO_RCVBUF, &length, sizeof length);
+    nextRead_ = Clock::now();
+  }
+  bytesPerSecond_ = bytesPerSecond;
+}
+
+std::size_t ClientConnection::MostNow(std::uint64_t most) const {
+  most = std::min<std::uint64_t>(most, buffer_.size());
+  if (bytesPerSecond_) {
+    most = std::min(most, std::max<std::uint64_t>(*bytesPerSecond_ / kReadsPerSecond, 1));
+  }
+  return static_cast<std::size_t>(most);
+}
+
+Received ClientConnection::ReceiveNow(std::size_t most, bool& again) {
+  const ssize_t count = ::recv(socket_, buffer_.data(), most, MSG_DONTWAIT);
+  if (count > 0) {
+    received_ = static_cast<std::size_t>(count);
+    if (bytesPerSecond_) {
+      nextRead_ = std::max(nextRead_, Clock::now()) +
+                  std::chrono::nanoseconds(std::nano::den * received_ / *bytesPerSecond_);
+    }
+    return Received::Bytes;
+  }
+  if (count == 0) {
+    return Received::EndOfStream;
+  }
+  again = is_temporary(errno);
+  error_ = again ? "" : error_words(errno);
+  return Received::Broken;
+}
+
+Received ClientConnection::Receive(std::uint64_t most) {
   received_ = 0;
+  if (bytesPerSecond_ && !waiter_.Until(nextRead_)) {
+    return Received::Stop;
+  }
   for (;;) {
-    std::array<pollfd, 2> waits{{{stopDescriptor_, POLLIN, 0}, {socket_, POLLIN, 0}}};
-    if (::poll(waits.data(), waits.size(), -1) < 0 && errno != EINTR) {
-      error_ = error_words(errno);
-      return Received::Broken;
+    switch (waiter_.For(socket_, POLLIN)) {
+      case Woken::Stop:
+        return Received::Stop;
+      case Woken::Failed:
+        error_ = error_words(errno);
+        return Received::Broken;
+      case Woken::Ready:
+      case Woken::TimeUp:
+        break;
     }
-    if (waits[0].revents != 0) {
-      return Received::Stop;
-    }
-    if (waits[1].revents == 0) {
-      continue;
-    }
-    const ssize_t count = ::recv(socket_, buffer_.data(), buffer_.size(), MSG_DONTWAIT);
-    if (count > 0) {
-      received_ = static_cast<std::size_t>(count);
-      return Received::Bytes;
-    }
-    if (count == 0) {
-      return Received::EndOfStream;
-    }
-    if (!is_temporary(errno)) {
-      error_ = error_words(errno);
-      return Received::Broken;
+    bool again = false;
+    const Received received = ReceiveNow(MostNow(most), again);
+    if (!again) {
+      return received;
     }
   }
 }
 
 bool ClientConnection::WaitUntilWritable() {
-  for (;;) {
-    std::array<pollfd, 2> waits{{{stopDescriptor_, POLLIN, 0}, {socket_, POLLOUT, 0}}};
-    const int ready = ::poll(waits.data(), waits.size(), kSendTimeoutMilliseconds);
-    if (ready < 0 && errno == EINTR) {
-      continue;
-    }
-    if (ready < 0) {
-      error_ = error_words(errno);
-    } else if (ready == 0) {
-      error_ = "the client takes no answers";
-    } else if (waits[0].revents != 0) {
-      error_ = "stopped";
-    } else {
+  switch (waiter_.For(socket_, POLLOUT, Clock::now() + kSendTimeout)) {
+    case Woken::Ready:
       return true;
-    }
-    return false;
+    case Woken::TimeUp:
+      error_ = "the client takes no answers";
+      return false;
+    case Woken::Stop:
+      error_ = "stopped";
+      return false;
+    case Woken::Failed:
+      error_ = error_words(errno);
+      return false;
   }
+  return false;
 }
 
 bool ClientConnection::Send(std::span<const std::uint8_t> bytes) {

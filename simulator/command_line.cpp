@@ -2,11 +2,9 @@
 #include "simulator/command_line.h"
 
 #include <CLI/CLI.hpp>
-#include <charconv>
 #include <cstdio>
-#include <limits>
-#include <string_view>
-#include <system_error>
+
+#include "simulator/rule_words.h"
 
 namespace simulator {
 namespace {
@@ -15,34 +13,17 @@ constexpr std::uint64_t kPortMost = 65535;
 constexpr std::uint64_t kNumberMost = 0xFFFF;
 constexpr std::uint64_t kCountMost = 1'000'000'000;
 
-// Decimal, or hexadecimal behind 0x; the whole text must be the number. A leading zero does not
-// make it octal.
-std::optional<std::uint64_t> parse_number(std::string_view text) {
-  int base = 10;
-  if (text.starts_with("0x") || text.starts_with("0X")) {
-    base = 16;
-    text.remove_prefix(2);
-  }
-  std::uint64_t number = 0;
-  const char* const end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, number, base);
-  if (error != std::errc{} || stop != end) {
-    return std::nullopt;
-  }
-  return number;
-}
-
 // An option that takes a number between two bounds, decimal or hexadecimal.
 template <typename Store>
 CLI::Option* add_number(CLI::App& app, const std::string& name, const std::string& help,
                         const std::string& metavar, std::uint64_t low, std::uint64_t high,
                         Store store) {
   CLI::Option* const option = app.add_option_function<std::string>(
-      name, [store](const std::string& text) { store(parse_number(text).value_or(0)); }, help);
+      name, [store](const std::string& text) { store(read_number(text).value_or(0)); }, help);
   option->type_name(metavar);
   option->check(CLI::Validator(
       [low, high](const std::string& text) -> std::string {
-        const std::optional<std::uint64_t> number = parse_number(text);
+        const std::optional<std::uint64_t> number = read_number(text);
         if (number && *number >= low && *number <= high) {
           return {};
         }
@@ -77,15 +58,24 @@ void add_colour_options(CLI::App& app, Options& options) {
       ->excludes(profile);
 }
 
-void add_answer_options(CLI::App& app, Options& options) {
-  add_number(
-      app, "--status", "error number to answer status requests with (0)", "NUMBER", 0, kNumberMost,
-      [&options](std::uint64_t number) { options.status = static_cast<std::uint16_t>(number); });
-  add_number(
-      app, "--enable", "enable code to answer readiness queries with (0)", "CODE", 0, kNumberMost,
-      [&options](std::uint64_t number) { options.enable = static_cast<std::uint16_t>(number); });
+void add_fault_options(CLI::App& app, Options& options) {
+  app.add_option("--fault", options.faults.rules,
+                 "a rule of what goes wrong; may come several times")
+      ->type_name("RULE")
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  app.add_option("--script", options.faults.script, "file with one such rule a line")
+      ->type_name("FILE");
+  add_number(app, "--status", "error number to answer status requests with (0)", "NUMBER", 0,
+             kNumberMost, [&options](std::uint64_t number) {
+               options.faults.status = static_cast<std::uint16_t>(number);
+             });
+  add_number(app, "--enable", "enable code to answer readiness queries with (0)", "CODE", 0,
+             kNumberMost, [&options](std::uint64_t number) {
+               options.faults.enable = static_cast<std::uint16_t>(number);
+             });
   add_number(app, "--busy", "answer the first K readiness queries with busy, 0x0100", "K", 0,
-             kCountMost, [&options](std::uint64_t number) { options.busy = number; });
+             kCountMost, [&options](std::uint64_t number) { options.faults.busy = number; });
 }
 
 void add_end_options(CLI::App& app, Options& options) {
@@ -106,7 +96,7 @@ std::optional<int> read_command_line(int argc, const char* const* argv, Options&
                "tqr7-printer-sim"};
   add_place_options(app, options);
   add_colour_options(app, options);
-  add_answer_options(app, options);
+  add_fault_options(app, options);
   add_end_options(app, options);
   try {
     app.parse(argc, argv);

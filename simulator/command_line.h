@@ -8,6 +8,8 @@
 #include <optional>
 #include <string>
 
+#include "simulator/fault_sources.h"
+
 namespace simulator {
 
 /// What the person asked for.
@@ -16,9 +18,7 @@ struct Options {
   std::uint16_t port = 9100;  ///< 0: a free one
   std::string portFile;       ///< empty: none
   std::string output = ".";
-  std::uint16_t status = 0;
-  std::uint16_t enable = 0;
-  std::uint64_t busy = 0;
+  FaultSources faults;
   std::string record;                  ///< empty: no record
   std::optional<std::string> profile;  ///< none: the printer model built in
   bool deviceValues = false;           ///< sheets show the device values
@@ -26,8 +26,9 @@ struct Options {
 };
 
 inline constexpr int kExitGood = 0;
-inline constexpr int kExitErrorsSeen = 1;   ///< wrong streams, or something could not be written
-inline constexpr int kExitCannotStart = 2;  ///< wrong options, port taken, no output folder
+inline constexpr int kExitErrorsSeen = 1;  ///< wrong streams, or something could not be written
+inline constexpr int kExitCannotStart =
+    2;  ///< wrong options or rules, port taken, no output folder
 
 /// Reads the options, or says why not and returns the exit status that the program shall end with.
 std::optional<int> read_command_line(int argc, const char* const* argv, Options& options);

@@ -1,36 +1,26 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "simulator/printer_answers.h"
 
-#include <cstddef>
-
 namespace simulator {
 namespace {
 
-// Clients wait for at least so many bytes. No more are sent: bytes that the client does not take
-// with this answer would be taken for the beginning of the next one.
-constexpr std::size_t kStatusReplyLength = 15;
-constexpr std::size_t kReadinessReplyLength = 6;
 constexpr std::size_t kOffsetNumber = 4;
 
-Answer answer_of(std::size_t length, std::uint16_t number) {
-  Answer answer{number, std::vector<std::uint8_t>(length, 0)};
-  answer.bytes[kOffsetNumber] = static_cast<std::uint8_t>(number >> 8U);
-  answer.bytes[kOffsetNumber + 1] = static_cast<std::uint8_t>(number & 0xFFU);
-  return answer;
+std::vector<std::uint8_t> answer_of(std::size_t length, std::uint16_t number) {
+  std::vector<std::uint8_t> bytes(length, 0);
+  bytes[kOffsetNumber] = static_cast<std::uint8_t>(number >> 8U);
+  bytes[kOffsetNumber + 1] = static_cast<std::uint8_t>(number & 0xFFU);
+  return bytes;
 }
 
 }  // namespace
 
-Answer PrinterAnswers::ToStatusRequest() const {
-  return answer_of(kStatusReplyLength, statusNumber_);
+std::vector<std::uint8_t> status_answer(std::uint16_t number) {
+  return answer_of(kStatusAnswerLength, number);
 }
 
-Answer PrinterAnswers::ToReadinessQuery() {
-  if (busyLeft_ > 0) {
-    --busyLeft_;
-    return answer_of(kReadinessReplyLength, kEnableBusy);
-  }
-  return answer_of(kReadinessReplyLength, enableCode_);
+std::vector<std::uint8_t> readiness_answer(std::uint16_t code) {
+  return answer_of(kReadinessAnswerLength, code);
 }
 
 }  // namespace simulator

@@ -115,34 +115,24 @@ std::string Server::Listen(const std::string& address, std::uint16_t port) {
   return {};
 }
 
-Server::Wait Server::WaitForClient(int stopDescriptor) const {
-  for (;;) {
-    std::array<pollfd, 2> waits{{{stopDescriptor, POLLIN, 0}, {socket_, POLLIN, 0}}};
-    ::poll(waits.data(), waits.size(), -1);
-    if (waits[0].revents != 0) {
-      return Wait::Stop;
-    }
-    if (waits[1].revents != 0) {
-      return Wait::Client;
-    }
-  }
-}
-
-bool Server::ServeClient(Printer printer, int client, int stopDescriptor, const std::string& peer) {
+bool Server::ServeClient(Printer printer, int client, const Waiter& waiter,
+                         const std::string& peer) {
   const std::uint64_t number = ++printer.tally.connections;
   log_event("connection " + std::to_string(number) + ": opened from " + peer);
-  auto connection = std::make_unique<ClientConnection>(client, stopDescriptor);
-  Session session(number, printer, *connection);
+  printer.faults.ConnectionOpens();
+  auto connection = std::make_unique<ClientConnection>(client, waiter);
+  Session session(number, printer, *connection, waiter);
   const bool goOn = session.Run();
   connection.reset();
   session.SayClosed();
+  printer.faults.ConnectionCloses();
   return goOn;
 }
 
-std::string Server::Serve(Printer printer, int stopDescriptor,
+std::string Server::Serve(Printer printer, const Waiter& waiter,
                           std::optional<std::uint64_t> connections) {
   while (!connections || printer.tally.connections < *connections) {
-    if (WaitForClient(stopDescriptor) == Wait::Stop) {
+    if (waiter.For(socket_, POLLIN) == Woken::Stop) {
       return {};
     }
     sockaddr_storage peer{};
@@ -155,7 +145,7 @@ std::string Server::Serve(Printer printer, int stopDescriptor,
       return error_words(errno);
     }
     ::fcntl(client, F_SETFD, FD_CLOEXEC);
-    if (!ServeClient(printer, client, stopDescriptor, in_words(peer, length))) {
+    if (!ServeClient(printer, client, waiter, in_words(peer, length))) {
       return {};
     }
   }

@@ -30,12 +30,12 @@ class Server {
   /// Serves clients until a stop is asked for, or `connections` of them are served (no limit when
   /// absent). A client that comes while another is served waits. Returns why no client can be taken
   /// any more, or nothing.
-  std::string Serve(Printer printer, int stopDescriptor, std::optional<std::uint64_t> connections);
+  std::string Serve(Printer printer, const Waiter& waiter,
+                    std::optional<std::uint64_t> connections);
 
  private:
-  enum class Wait : std::uint8_t { Client, Stop };
-  Wait WaitForClient(int stopDescriptor) const;
-  static bool ServeClient(Printer printer, int client, int stopDescriptor, const std::string& peer);
+  static bool ServeClient(Printer printer, int client, const Waiter& waiter,
+                          const std::string& peer);
 
   int socket_ = -1;
   std::uint16_t port_ = 0;

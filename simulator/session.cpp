@@ -1,32 +1,45 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "simulator/session.h"
 
-#include "simulator/event_log.h"
+#include <chrono>
+#include <limits>
+
+#include "simulator/printer_answers.h"
 #include "simulator/wording.h"
 
 namespace simulator {
 namespace {
 
-// A stream of garbage could fill a disk with lines; after these, errors are counted only.
-constexpr std::uint64_t kErrorLinesMost = 100;
+constexpr std::uint64_t kNoEnd = std::numeric_limits<std::uint64_t>::max();
 
 }  // namespace
 
-Session::Session(std::uint64_t number, Printer printer, ClientConnection& client)
-    : number_(number), printer_(printer), client_(client), parser_(*this) {}
+Session::Session(std::uint64_t number, Printer printer, ClientConnection& client,
+                 const Waiter& waiter)
+    : printer_(printer),
+      client_(client),
+      waiter_(waiter),
+      log_(number, printer.tally),
+      parser_(*this) {}
 
-void Session::Say(const std::string& text) const {
-  log_event("connection " + std::to_string(number_) + ": " + text);
-}
-
-void Session::SayFailure(const std::string& text) {
-  ++printer_.tally.failures;
-  Say("failure: " + text);
+// Nothing when the connection is to be dropped before any further byte.
+std::optional<Received> Session::ReceiveMore() {
+  const std::uint64_t end = printer_.faults.DropAt().value_or(kNoEnd);
+  if (parser_.Offset() >= end) {
+    return std::nullopt;
+  }
+  client_.ReadSlowly(printer_.faults.BytesPerSecond());
+  return client_.Receive(end - parser_.Offset());
 }
 
 bool Session::Run() {
   for (;;) {
-    switch (client_.Receive()) {
+    const std::optional<Received> received = ReceiveMore();
+    if (!received) {
+      Drop();
+      return true;
+    }
+    switch (*received) {
       case Received::Bytes:
         TakeBytes();
         break;
@@ -34,11 +47,11 @@ bool Session::Run() {
         parser_.EndOfStream();
         return true;
       case Received::Broken:
-        Say("broken: " + client_.Error());
+        log_.Say("broken: " + client_.Error());
         parser_.EndOfStream();
         return true;
       case Received::Stop:
-        Stop();
+        Cut("stopped");
         return false;
     }
   }
@@ -47,70 +60,87 @@ bool Session::Run() {
 void Session::TakeBytes() {
   const std::string failure = printer_.recorder.Add(client_.Bytes());
   if (!failure.empty()) {
-    SayFailure("recording ends: " + failure);
+    log_.SayFailure("recording ends: " + failure);
   }
   parser_.Feed(client_.Bytes());
 }
 
-// Cut by the simulator's own end: that is no error of the stream.
-void Session::Stop() {
+// Cut by the simulator itself: that is no error of the stream.
+void Session::Cut(const std::string& how) {
   const decoder::Command within = parser_.Within();
-  Say(std::string("stopped") +
-      (within == decoder::Command::None ? "" : std::string(" within ") + to_string(within)));
+  log_.Say(how +
+           (within == decoder::Command::None ? "" : std::string(" within ") + to_string(within)));
   OnSheetCut();
 }
 
-void Session::SayClosed() const {
-  Say("closed, " + counted(parser_.Offset(), "byte") + ", " + counted(sheets_, "sheet") + ", " +
-      counted(errors_, "error"));
+void Session::Drop() {
+  printer_.faults.Drop();
+  client_.CloseHard();
+  Cut("dropped after " + counted(parser_.Offset(), "byte"));
 }
 
-void Session::SendAnswer(const Answer& answer) {
-  if (!answersLost_ && !client_.Send(answer.bytes)) {
-    answersLost_ = true;
-    Say("answers are lost from here on: " + client_.Error());
+void Session::SayClosed() const {
+  log_.Say("closed, " + counted(parser_.Offset(), "byte") + ", " + counted(sheets_, "sheet") +
+           ", " + counted(log_.Errors(), "error"));
+}
+
+void Session::SendPieces(const AnswerPlan& plan, std::span<const std::uint8_t> answer) {
+  Waiter::TimePoint time = std::chrono::steady_clock::now() + plan.delay;
+  for (const std::vector<std::uint8_t>& piece : pieces_of(plan, answer)) {
+    if (!waiter_.Until(time)) {
+      return;  // the next wait for bytes ends the session
+    }
+    if (!client_.Send(piece)) {
+      answersLost_ = true;
+      log_.Say("answers are lost from here on: " + client_.Error());
+      return;
+    }
+    time = std::chrono::steady_clock::now() + kPieceDistance;
+  }
+}
+
+void Session::SendAnswer(const AnswerPlan& plan, std::span<const std::uint8_t> answer) {
+  if (!answersLost_) {
+    SendPieces(plan, answer);
   }
 }
 
 void Session::OnStatusRequest(std::uint64_t /*offset*/) {
-  const Answer answer = printer_.answers.ToStatusRequest();
-  statusAnswered_ = answer.number;
-  enableAnswered_ = kEnableReady;
-  SendAnswer(answer);
-  Say("status request, answered " + hex_number(answer.number));
+  const AnswerPlan plan = printer_.faults.Answer(Question::Status, !permission_.FileBegins());
+  permission_.StatusAnswered(plan);
+  SendAnswer(plan, status_answer(plan.number));
+  log_.Say("status request, " + answer_words(plan));
+  printer_.faults.EndByCount();
 }
 
 void Session::OnReadinessQuery(std::uint64_t offset, const decoder::JobHeader& header) {
-  if (statusAnswered_ != kStatusGood) {
+  if (!permission_.QueryAllowed()) {
     OnError({offset, decoder::Command::ReadinessQuery, "answer to the status request",
-             "a query after " + hex_number(statusAnswered_), "a query after 0x0000"});
+             "a query after " + permission_.StatusSeen(), "a query after 0x0000"});
   }
-  const Answer answer = printer_.answers.ToReadinessQuery();
-  enableAnswered_ = answer.number;
-  SendAnswer(answer);
-  Say("readiness query, " + sheet_words(header) + ", answered " + hex_number(answer.number));
-}
-
-bool Session::SheetForbidden() const {
-  return statusAnswered_ != kStatusGood || enableAnswered_ != kEnableReady;
+  const AnswerPlan plan = printer_.faults.Answer(Question::Readiness, true);
+  permission_.ReadinessAnswered(plan);
+  SendAnswer(plan, readiness_answer(plan.number));
+  log_.Say("readiness query, " + sheet_words(header) + ", " + answer_words(plan));
+  printer_.faults.EndByCount();
 }
 
 void Session::OnJobHeader(std::uint64_t offset, const decoder::JobHeader& header) {
-  if (enableAnswered_ != kEnableReady) {
+  if (!permission_.JobHeaderAllowed()) {
     OnError({offset, decoder::Command::JobHeader, "answer to the readiness query",
-             "a job header after " + hex_number(enableAnswered_), "a job header after 0x0000"});
+             "a job header after " + permission_.ReadinessSeen(), "a job header after 0x0000"});
   }
-  Say("job header, " + job_header_words(header));
+  log_.Say("job header, " + job_header_words(header));
 }
 
 void Session::OnImageHeader(std::uint64_t /*offset*/, const decoder::ImageHeader& header) {
-  Say("image header, " + image_header_words(header));
+  log_.Say("image header, " + image_header_words(header));
 }
 
 void Session::OnSheetBegin(const decoder::Sheet& sheet) {
   sheet_ = sheet;
-  if (SheetForbidden()) {
-    Say("the sheet is not printed: the printer did not allow it");
+  if (!permission_.SheetAllowed() || !printer_.faults.SuppliesLeft()) {
+    log_.Say("the sheet is not printed: the printer did not allow it");
     return;
   }
   printer_.sheets.Begin(sheet);
@@ -125,8 +155,9 @@ void Session::OnMatteRow(std::uint32_t row, std::span<const std::uint8_t> bytes)
 }
 
 void Session::OnSheetEnd(const decoder::SheetEnd& end) {
+  permission_.SheetDone();
   if (end.badSamples > 1) {
-    Say(counted(end.badSamples, "sample") + " of the sheet above 0x3FFF");
+    log_.Say(counted(end.badSamples, "sample") + " of the sheet above 0x3FFF");
   }
   if (!printer_.sheets.Busy()) {
     return;
@@ -134,14 +165,16 @@ void Session::OnSheetEnd(const decoder::SheetEnd& end) {
   const SheetResult result = printer_.sheets.End();
   const std::string name = "sheet " + std::to_string(result.number);
   if (!result.error.empty()) {
-    SayFailure(name + " could not be written to " + result.path.string() + ": " + result.error);
+    log_.SayFailure(name + " could not be written to " + result.path.string() + ": " +
+                    result.error);
     return;
   }
   ++sheets_;
   ++printer_.tally.sheets;
-  Say(name + " printed to " + result.path.string() + ": " + printed_sheet_words(sheet_));
+  printer_.faults.SheetPrinted();
+  log_.Say(name + " printed to " + result.path.string() + ": " + printed_sheet_words(sheet_));
   if (!result.listError.empty()) {
-    SayFailure("sheets.txt: " + result.listError);
+    log_.SayFailure("sheets.txt: " + result.listError);
   }
 }
 
@@ -152,36 +185,23 @@ void Session::OnSheetCut() {
   const SheetResult result = printer_.sheets.Cut();
   const std::string name = "sheet " + std::to_string(result.number) + " was cut and is not printed";
   if (result.error.empty()) {
-    Say(name + "; what came of it is in " + result.path.string());
+    log_.Say(name + "; what came of it is in " + result.path.string());
   } else {
-    SayFailure(name + "; " + result.path.string() + " could not be written: " + result.error);
+    log_.SayFailure(name + "; " + result.path.string() + " could not be written: " + result.error);
   }
 }
 
 void Session::OnPrintOut(std::uint64_t /*offset*/, std::uint8_t waitByte) {
-  Say("print-out, wait byte " + std::to_string(waitByte));
-}
-
-bool Session::MaySayError() {
-  ++errorLines_;
-  if (errorLines_ == kErrorLinesMost + 1) {
-    Say("further errors of this connection are counted only");
-  }
-  return errorLines_ <= kErrorLinesMost;
+  permission_.PrintOutDone();
+  log_.Say("print-out, wait byte " + std::to_string(waitByte));
 }
 
 void Session::OnError(const decoder::StreamError& error) {
-  ++errors_;
-  ++printer_.tally.errors;
-  if (MaySayError()) {
-    Say("error: " + to_string(error));
-  }
+  log_.SayError(error);
 }
 
 void Session::OnSkipped(std::uint64_t offset, std::uint64_t count) {
-  if (MaySayError()) {
-    Say("skipped " + counted(count, "byte") + " from offset " + std::to_string(offset) + " on");
-  }
+  log_.SaySkipped(offset, count);
 }
 
 }  // namespace simulator

@@ -12,23 +12,19 @@
 #include "decoder/command_listener.h"
 #include "decoder/stream_parser.h"
 #include "simulator/client_connection.h"
-#include "simulator/printer_answers.h"
+#include "simulator/connection_log.h"
+#include "simulator/fault_schedule.h"
+#include "simulator/permission.h"
 #include "simulator/sheet_printer.h"
 #include "simulator/stream_recorder.h"
+#include "simulator/tally.h"
+#include "simulator/waiter.h"
 
 namespace simulator {
 
-/// What a run has seen. `failures` are things that the simulator could not write.
-struct Tally {
-  std::uint64_t connections = 0;
-  std::uint64_t sheets = 0;
-  std::uint64_t errors = 0;
-  std::uint64_t failures = 0;
-};
-
 /// The printer that the connections share.
 struct Printer {
-  PrinterAnswers& answers;
+  FaultSchedule& faults;
   SheetPrinter& sheets;
   StreamRecorder& recorder;
   Tally& tally;
@@ -37,10 +33,12 @@ struct Printer {
 /// Serves one client.
 class Session : private decoder::CommandListener {
  public:
-  /// `number` names the connection in the event lines. Printer and client must outlive the session.
-  Session(std::uint64_t number, Printer printer, ClientConnection& client);
+  /// `number` names the connection in the event lines. Printer, client and waiter must outlive
+  /// the session.
+  Session(std::uint64_t number, Printer printer, ClientConnection& client, const Waiter& waiter);
 
-  /// Until the client has sent all, is gone, or the simulator shall stop; false for the last. The
+  /// Until the client has sent all, is gone or dropped, or the simulator shall stop; false for the
+  /// last. The
   /// caller closes the connection, and should do so at once: clients wait for that.
   bool Run();
 
@@ -61,26 +59,23 @@ class Session : private decoder::CommandListener {
   void OnError(const decoder::StreamError& error) override;
   void OnSkipped(std::uint64_t offset, std::uint64_t count) override;
 
-  bool SheetForbidden() const;
-  void SendAnswer(const Answer& answer);
+  void SendAnswer(const AnswerPlan& plan, std::span<const std::uint8_t> answer);
+  void SendPieces(const AnswerPlan& plan, std::span<const std::uint8_t> answer);
+  std::optional<Received> ReceiveMore();
   void TakeBytes();
-  void Stop();
-  void Say(const std::string& text) const;
-  void SayFailure(const std::string& text);
-  bool MaySayError();
+  void Drop();
+  void Cut(const std::string& how);
 
-  std::uint64_t number_;
   Printer printer_;
   ClientConnection& client_;
+  const Waiter& waiter_;
+  ConnectionLog log_;
   decoder::StreamParser parser_;
 
-  std::uint16_t statusAnswered_ = kStatusGood;
-  std::uint16_t enableAnswered_ = kEnableReady;
+  Permission permission_;
   bool answersLost_ = false;
   decoder::Sheet sheet_{};
   std::uint64_t sheets_ = 0;
-  std::uint64_t errors_ = 0;
-  std::uint64_t errorLines_ = 0;
 };
 
 }  // namespace simulator

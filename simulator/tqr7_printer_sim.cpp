@@ -2,9 +2,11 @@
 //
 // tqr7-printer-sim: a TQR7 on a network port that prints to PNG files and checks every byte.
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <exception>
 #include <memory>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -13,20 +15,26 @@
 #include "decoder/soft_proof.h"
 #include "simulator/command_line.h"
 #include "simulator/event_log.h"
-#include "simulator/printer_answers.h"
+#include "simulator/fault_schedule.h"
+#include "simulator/fault_sources.h"
 #include "simulator/server.h"
 #include "simulator/sheet_folder.h"
 #include "simulator/sheet_printer.h"
-#include "simulator/stop_signal.h"
+#include "simulator/signals.h"
 #include "simulator/stream_recorder.h"
+#include "simulator/waiter.h"
 #include "simulator/wording.h"
 
 namespace simulator {
 namespace {
 
-int cannot_start(const std::string& what, const std::string& why) {
-  std::fprintf(stderr, "tqr7-printer-sim: %s: %s\n", what.c_str(), why.c_str());
+int cannot_start(const std::string& why) {
+  std::fprintf(stderr, "tqr7-printer-sim: %s\n", why.c_str());
   return kExitCannotStart;
+}
+
+int cannot_start(const std::string& what, const std::string& why) {
+  return cannot_start(what + ": " + why);
 }
 
 // Renamed when it is whole: a script that waits for the file never reads half a number.
@@ -65,12 +73,9 @@ void say_stopped(const Tally& tally) {
             counted(tally.sheets, "sheet") + ", " + counted(tally.errors, "error"));
 }
 
-int serve(const Options& options, Server& server, int stopDescriptor, SheetPrinter& sheets,
-          StreamRecorder& recorder) {
-  PrinterAnswers answers(options.status, options.enable, options.busy);
-  Tally tally;
-  const std::string trouble =
-      server.Serve({answers, sheets, recorder, tally}, stopDescriptor, options.connections);
+int serve(const Options& options, Server& server, const Waiter& waiter, Printer printer) {
+  const std::string trouble = server.Serve(printer, waiter, options.connections);
+  Tally& tally = printer.tally;
   if (!trouble.empty()) {
     ++tally.failures;
     log_event("failure: no further client can be taken: " + trouble);
@@ -80,9 +85,13 @@ int serve(const Options& options, Server& server, int stopDescriptor, SheetPrint
 }
 
 int run(const Options& options) {
-  const int stopDescriptor = catch_stop_signals();
-  if (stopDescriptor < 0) {
+  const std::optional<SignalEnds> signals = catch_signals();
+  if (!signals) {
     return cannot_start("signals", std::generic_category().message(errno));
+  }
+  FaultSchedule faults(std::chrono::steady_clock::now, log_event);
+  if (const std::string why = load_faults(options.faults, faults); !why.empty()) {
+    return cannot_start(why);
   }
   SheetFolder folder;
   if (const std::string why = folder.Open(options.output); !why.empty()) {
@@ -107,9 +116,11 @@ int run(const Options& options) {
       return cannot_start(options.portFile, why);
     }
   }
-  log_event("listening on " + options.address + " port " + std::to_string(server.Port()));
+  log_first_line("listening on " + options.address + " port " + std::to_string(server.Port()));
   SheetPrinter sheets(folder, proof.get());
-  return serve(options, server, stopDescriptor, sheets, recorder);
+  Tally tally;
+  const Waiter waiter(*signals, faults, options.faults.script);
+  return serve(options, server, waiter, {faults, sheets, recorder, tally});
 }
 
 }  // namespace

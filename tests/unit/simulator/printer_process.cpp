@@ -12,6 +12,8 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <sstream>
+#include <string_view>
 
 namespace {
 
@@ -49,6 +51,22 @@ Child start(const std::vector<std::string>& options, int descriptor, std::uint64
   }
   ::close(ends[1]);
   return {pid, ends[0]};
+}
+
+// "12:34:56.789 ", which each line but the first begins with.
+std::string without_time(const std::string& line) {
+  constexpr std::size_t kLength = 13;
+  constexpr std::string_view kForm = "dd:dd:dd.ddd ";
+  if (line.size() < kLength) {
+    return line;
+  }
+  for (std::size_t i = 0; i < kLength; ++i) {
+    const bool digit = line[i] >= '0' && line[i] <= '9';
+    if (kForm[i] == 'd' ? !digit : line[i] != kForm[i]) {
+      return line;
+    }
+  }
+  return line.substr(kLength);
 }
 
 int exit_status(int status) {
@@ -119,9 +137,18 @@ std::string PrinterProcess::WaitForLine(const std::string& text) {
     std::string line = output_.substr(searched_, end - searched_);
     searched_ = end + 1;
     if (line.find(text) != std::string::npos) {
-      return line;
+      return without_time(line);
     }
   }
+}
+
+std::string PrinterProcess::Lines() const {
+  std::istringstream stream(output_);
+  std::string lines;
+  for (std::string line; std::getline(stream, line);) {
+    lines += without_time(line) + "\n";
+  }
+  return lines;
 }
 
 std::uint16_t PrinterProcess::Port() {

@@ -41,11 +41,15 @@ class PrinterProcess {
   /// The port of the "listening" line, 0 when none came.
   std::uint16_t Port();
 
-  /// Reads lines until one contains the text, and returns it; empty when none came.
+  /// Reads lines until one contains the text, and returns it without its time; empty when none
+  /// came.
   std::string WaitForLine(const std::string& text);
 
   /// All lines so far, each ending in a newline.
   const std::string& Output() const { return output_; }
+
+  /// All whole lines so far without their times.
+  std::string Lines() const;
 
   /// Goes away as a reader of the lines: what the printer says from now on cannot be written.
   void CloseOutput();

@@ -123,10 +123,11 @@ TEST_F(Sheets, OfAWholeJobAreToldEventByEvent) {
                                                           {0, 0, 0, 0, 0, 0}))));
   EXPECT_EQ(printer_.Stop(), 0);
   const std::string opened = "connection 1: opened from 127.0.0.1 port ";
-  const std::size_t at = printer_.Output().find(opened);
+  const std::string lines = printer_.Lines();
+  const std::size_t at = lines.find(opened);
   ASSERT_NE(at, std::string::npos);
   EXPECT_EQ(
-      printer_.Output().substr(printer_.Output().find('\n', at) + 1),
+      lines.substr(lines.find('\n', at) + 1),
       "connection 1: status request, answered 0x0000\n"
       "connection 1: status request, answered 0x0000\n"
       "connection 1: readiness query, 1852 x 1232, matte, answered 0x0000\n"

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "simulator/answer_plan.h"
+
+#include <algorithm>
+
+#include "simulator/fault_rule.h"
+#include "simulator/wording.h"
+
+namespace simulator {
+
+std::vector<std::vector<std::uint8_t>> pieces_of(const AnswerPlan& plan,
+                                                 std::span<const std::uint8_t> answer) {
+  if (plan.silent) {
+    return {};
+  }
+  std::span<const std::uint8_t> rest = answer.first(static_cast<std::size_t>(
+      std::min<std::uint64_t>(plan.cutTo.value_or(answer.size()), answer.size())));
+  std::vector<std::vector<std::uint8_t>> pieces(1, plan.stray);
+  for (const std::uint64_t length : plan.pieces) {
+    const auto taken = rest.first(std::min<std::size_t>(length, rest.size()));
+    pieces.back().insert(pieces.back().end(), taken.begin(), taken.end());
+    rest = rest.subspan(taken.size());
+    if (rest.empty()) {
+      return pieces;
+    }
+    pieces.emplace_back();
+  }
+  pieces.back().insert(pieces.back().end(), rest.begin(), rest.end());
+  return pieces;
+}
+
+std::string answer_words(const AnswerPlan& plan) {
+  if (plan.silent) {
+    return "not answered";
+  }
+  std::string text = "answered " + hex_number(plan.number);
+  if (plan.cutTo) {
+    text += ", only " + counted(*plan.cutTo, "byte") + " of it";
+  }
+  if (!plan.pieces.empty()) {
+    text += ", in pieces";
+  }
+  if (!plan.stray.empty()) {
+    text += ", behind " + counted(plan.stray.size(), "stray byte");
+  }
+  if (plan.delay.count() > 0) {
+    text += ", " + in_seconds(plan.delay) + " late";
+  }
+  return text;
+}
+
+std::string seen_words(const AnswerPlan& plan) {
+  if (plan.silent) {
+    return "no answer";
+  }
+  return plan.cutTo ? "an answer of " + counted(*plan.cutTo, "byte") : hex_number(plan.number);
+}
+
+}  // namespace simulator

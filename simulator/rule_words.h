@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// The words of one rule, taken one after another, and what was expected where one does not fit.
+#ifndef TQR7_SIMULATOR_RULE_WORDS_H
+#define TQR7_SIMULATOR_RULE_WORDS_H
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace simulator {
+
+/// Words stand between blanks; a colon is a word of its own.
+class RuleWords {
+ public:
+  /// `text` must outlive the words.
+  explicit RuleWords(std::string_view text);
+
+  /// The next word, empty at the end; `ahead` words later.
+  std::string_view Next(std::size_t ahead = 0) const;
+  bool AtEnd() const { return taken_ == words_.size(); }
+
+  /// Takes the next word when it is this one.
+  bool Take(std::string_view word);
+
+  /// As Take; a different word is an error.
+  bool Require(std::string_view word);
+
+  /// Takes a number, decimal or hexadecimal behind 0x; anything else is an error. `unless` names
+  /// what else could have stood there, as in `, "late" or "silent"`.
+  std::optional<std::uint64_t> Number(std::uint64_t low, std::uint64_t high,
+                                      const std::string& unless = {});
+
+  /// Takes a time, "2.5 s", of one millisecond to a day.
+  std::optional<std::chrono::milliseconds> Time();
+
+  /// Takes a byte written as two hexadecimal digits.
+  std::optional<std::uint8_t> Byte();
+
+  /// The next word is none of what could stand there. Always false, to be handed on.
+  bool Fail(const std::string& expected);
+
+  /// Of the first Fail: the column of the word, the word in quotation marks, what was expected.
+  std::size_t ErrorColumn() const { return errorColumn_; }
+  const std::string& Came() const { return came_; }
+  const std::string& Expected() const { return expected_; }
+
+ private:
+  struct Word {
+    std::size_t column;
+    std::string_view text;
+  };
+  std::vector<Word> words_;
+  std::size_t taken_ = 0;
+  std::size_t endColumn_;
+  std::size_t errorColumn_ = 0;
+  std::string came_;
+  std::string expected_;
+};
+
+/// A whole text as a number, decimal or hexadecimal behind 0x. A leading zero does not make it
+/// octal.
+std::optional<std::uint64_t> read_number(std::string_view text);
+
+}  // namespace simulator
+
+#endif  // TQR7_SIMULATOR_RULE_WORDS_H
