@@ -42,8 +42,7 @@ TEST(Plan, OfStrayBytesSendsThemInFront) {
   AnswerPlan plan;
   plan.stray = {0xAA, 0xBB};
   plan.pieces = {1};
-  EXPECT_THAT(pieces_of(plan, kAnswer),
-              ElementsAre(Bytes{0xAA, 0xBB, 1}, Bytes{2, 3, 4, 5, 6}));
+  EXPECT_THAT(pieces_of(plan, kAnswer), ElementsAre(Bytes{0xAA, 0xBB, 1}, Bytes{2, 3, 4, 5, 6}));
 }
 
 TEST(Plan, OfSilenceSendsNothing) {

@@ -262,9 +262,9 @@ TEST_F(Schedule, SaysWhatAPersonHasSeenTo) {
   Rules("status 1");
   Status();
   schedule_.SeenTo();
-  EXPECT_THAT(lines_, ElementsAre("fault \"status 0x0001\" shows",
-                                  "a person has seen to the printer",
-                                  "fault \"status 0x0001\" ended: a person has seen to it"));
+  EXPECT_THAT(lines_,
+              ElementsAre("fault \"status 0x0001\" shows", "a person has seen to the printer",
+                          "fault \"status 0x0001\" ended: a person has seen to it"));
 }
 
 TEST_F(Schedule, KeepsWhatHasAnEndOfItsOwnWhenAPersonSeesToIt) {

@@ -316,8 +316,7 @@ TEST(Script, NamesTheFirstWrongLine) {
 TEST(Script, WithAZeroByteIsWrongThere) {
   const Script script = simulator::read_script(std::string_view("busy 1\0", 7));
   ASSERT_THAT(script.errors, SizeIs(1));
-  EXPECT_EQ(to_string(script.errors[0]),
-            "came \"1\\x00\", expected a number from 1 to 1000000000");
+  EXPECT_EQ(to_string(script.errors[0]), "came \"1\\x00\", expected a number from 1 to 1000000000");
 }
 
 }  // namespace

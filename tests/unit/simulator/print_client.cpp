@@ -47,6 +47,27 @@ bool PrintClient::Send(const stream::Bytes& bytes) const {
   return true;
 }
 
+std::size_t PrintClient::SendForAWhile(const stream::Bytes& bytes) const {
+  constexpr int kSmallBuffer = 16384;
+  constexpr int kWhileMilliseconds = 250;
+  ::setsockopt(socket_, SOL_SOCKET, SO_SNDBUF, &kSmallBuffer, sizeof kSmallBuffer);
+  std::size_t sent = 0;
+  pollfd wait{socket_, POLLOUT, 0};
+  while (sent < bytes.size() && ::poll(&wait, 1, kWhileMilliseconds) > 0) {
+    const ssize_t count =
+        ::send(socket_, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL | MSG_DONTWAIT);
+    sent += count > 0 ? static_cast<std::size_t>(count) : 0;
+  }
+  return sent;
+}
+
+stream::Bytes PrintClient::ReadSome() const {
+  stream::Bytes bytes(512);
+  const ssize_t got = ::recv(socket_, bytes.data(), bytes.size(), 0);
+  bytes.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
+  return bytes;
+}
+
 stream::Bytes PrintClient::Read(std::size_t count) const {
   stream::Bytes bytes(count);
   const ssize_t got = ::recv(socket_, bytes.data(), count, MSG_WAITALL);

@@ -22,6 +22,13 @@ class PrintClient {
   /// Sends all bytes; false when the printer does not take them.
   bool Send(const stream::Bytes& bytes) const;
 
+  /// Sends what the printer takes within a quarter of a second, over buffers that are small; how
+  /// many bytes that were.
+  std::size_t SendForAWhile(const stream::Bytes& bytes) const;
+
+  /// Reads what has come, and waits when nothing has; nothing at the end of the connection.
+  stream::Bytes ReadSome() const;
+
   /// Reads up to `count` bytes, fewer at the end of the connection or when none come.
   stream::Bytes Read(std::size_t count) const;
 
