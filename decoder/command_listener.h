@@ -35,6 +35,10 @@ class CommandListener {
   CommandListener& operator=(const CommandListener&) = delete;
   virtual ~CommandListener() = default;
 
+  /// A whole command as it came, its code included; comes before the errors of its fields.
+  virtual void OnCommandBytes(std::uint64_t /*offset*/, Command /*command*/,
+                              std::span<const std::uint8_t> /*bytes*/) {}
+
   virtual void OnStatusRequest(std::uint64_t /*offset*/) {}
   virtual void OnReadinessQuery(std::uint64_t /*offset*/, const JobHeader& /*header*/) {}
   virtual void OnJobHeader(std::uint64_t /*offset*/, const JobHeader& /*header*/) {}

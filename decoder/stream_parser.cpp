@@ -131,6 +131,7 @@ std::size_t StreamParser::TakeBlock(Bytes bytes) {
 
 void StreamParser::FinishBlock() {
   const std::uint64_t errorsBefore = errorCount_;
+  listener_.OnCommandBytes(BlockOffset(), code_->command, Block());
   check_fields(Block(), code_->fixedBytes, field_rules(code_->command), code_->command,
                BlockOffset(), report_);
   mode_ = Mode::Code;
