@@ -18,7 +18,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kSendTimeout{10000};
 // The smallest buffer that systems give, and one above what they give: they cut it down.
-constexpr std::uint64_t kSmallestBuffer = 4096;
+constexpr std::uint64_t kSmallestBuffer = 65536;
 constexpr std::uint64_t kLargestBuffer = 1 << 20;
 constexpr std::uint64_t kBuffersPerSecond = 4;
 constexpr std::uint64_t kReadsPerSecond = 20;

@@ -48,7 +48,7 @@ void add_place_options(CLI::App& app, Options& options) {
       ->type_name("FILE");
 }
 
-void add_colour_options(CLI::App& app, Options& options) {
+void add_view_options(CLI::App& app, Options& options) {
   CLI::Option* const profile =
       app.add_option("--profile", options.profile,
                      "ICC profile to show the colours of the print through (the model built in)")
@@ -56,6 +56,11 @@ void add_colour_options(CLI::App& app, Options& options) {
   app.add_flag("--device-values", options.deviceValues,
                "show the printer's own values and not the colours of the print")
       ->excludes(profile);
+  app.add_flag("--marks", options.marks,
+               "draw the cut and the white border's edge into the sheets");
+  app.add_flag("--contact-sheet", options.contactSheet,
+               "keep a page of all sheets, index.html, in the folder");
+  app.add_flag("--verbose", options.verbose, "say every field of every command");
 }
 
 void add_fault_options(CLI::App& app, Options& options) {
@@ -95,7 +100,7 @@ std::optional<int> read_command_line(int argc, const char* const* argv, Options&
   CLI::App app{"A simulated TQR7 printer: takes jobs over the network and prints them to PNG files",
                "tqr7-printer-sim"};
   add_place_options(app, options);
-  add_colour_options(app, options);
+  add_view_options(app, options);
   add_fault_options(app, options);
   add_end_options(app, options);
   try {

@@ -22,6 +22,9 @@ struct Options {
   std::string record;                  ///< empty: no record
   std::optional<std::string> profile;  ///< none: the printer model built in
   bool deviceValues = false;           ///< sheets show the device values
+  bool marks = false;                  ///< cut and border drawn into the sheets
+  bool contactSheet = false;           ///< a page of all sheets
+  bool verbose = false;                ///< every field is said
   std::optional<std::uint64_t> connections;
 };
 

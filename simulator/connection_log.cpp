@@ -12,12 +12,23 @@ constexpr std::uint64_t kErrorLinesMost = 100;
 }  // namespace
 
 void ConnectionLog::Say(const std::string& text) const {
-  log_event("connection " + std::to_string(number_) + ": " + text);
+  log_event(WithNumber(text));
+}
+
+std::string ConnectionLog::WithNumber(const std::string& text) const {
+  return "connection " + std::to_string(number_) + ": " + text;
+}
+
+void ConnectionLog::AddToContactSheet(const std::string& text) {
+  if (contactSheet_ != nullptr) {
+    contactSheet_->AddError(WithNumber(text));
+  }
 }
 
 void ConnectionLog::SayFailure(const std::string& text) {
   ++tally_.failures;
   Say("failure: " + text);
+  AddToContactSheet("failure: " + text);
 }
 
 bool ConnectionLog::MaySayError() {
@@ -31,6 +42,7 @@ bool ConnectionLog::MaySayError() {
 void ConnectionLog::SayError(const decoder::StreamError& error) {
   ++errors_;
   ++tally_.errors;
+  AddToContactSheet(to_string(error));
   if (MaySayError()) {
     Say("error: " + to_string(error));
   }

@@ -8,14 +8,20 @@
 #include <string>
 
 #include "decoder/stream_error.h"
+#include "simulator/contact_sheet.h"
 #include "simulator/tally.h"
 
 namespace simulator {
 
-/// Says what happens on a connection, and adds its errors and failures to the run's.
+/// Says what happens on a connection, and adds its errors and failures to the run's and to the
+/// contact sheet.
 class ConnectionLog {
  public:
-  ConnectionLog(std::uint64_t number, Tally& tally) : number_(number), tally_(tally) {}
+  /// `contactSheet` may be null.
+  ConnectionLog(std::uint64_t number, Tally& tally, ContactSheet* contactSheet)
+      : number_(number), tally_(tally), contactSheet_(contactSheet) {}
+
+  std::uint64_t Number() const { return number_; }
 
   void Say(const std::string& text) const;
 
@@ -30,10 +36,13 @@ class ConnectionLog {
   std::uint64_t Errors() const { return errors_; }
 
  private:
+  std::string WithNumber(const std::string& text) const;
   bool MaySayError();
+  void AddToContactSheet(const std::string& text);
 
   std::uint64_t number_;
   Tally& tally_;
+  ContactSheet* contactSheet_;
   std::uint64_t errors_ = 0;
   std::uint64_t errorLines_ = 0;
 };

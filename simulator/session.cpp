@@ -19,7 +19,7 @@ Session::Session(std::uint64_t number, Printer printer, ClientConnection& client
     : printer_(printer),
       client_(client),
       waiter_(waiter),
-      log_(number, printer.tally),
+      log_(number, printer.tally, printer.contactSheet),
       parser_(*this) {}
 
 // Nothing when the connection is to be dropped before any further byte.
@@ -79,7 +79,12 @@ void Session::Drop() {
   Cut("dropped after " + counted(parser_.Offset(), "byte"));
 }
 
-void Session::SayClosed() const {
+void Session::SayClosed() {
+  if (printer_.contactSheet != nullptr) {
+    if (const std::string why = printer_.contactSheet->Write(); !why.empty()) {
+      log_.SayFailure("index.html: " + why);
+    }
+  }
   log_.Say("closed, " + counted(parser_.Offset(), "byte") + ", " + counted(sheets_, "sheet") +
            ", " + counted(log_.Errors(), "error"));
 }
@@ -105,11 +110,28 @@ void Session::SendAnswer(const AnswerPlan& plan, std::span<const std::uint8_t> a
   }
 }
 
+void Session::OnCommandBytes(std::uint64_t /*offset*/, decoder::Command command,
+                             std::span<const std::uint8_t> bytes) {
+  if (printer_.verbose || printer_.contactSheet != nullptr) {
+    fields_ = decoder::named_fields(command, bytes);
+  }
+}
+
+void Session::SayFields(decoder::Command command) const {
+  if (!printer_.verbose) {
+    return;
+  }
+  for (const decoder::NamedField& field : fields_) {
+    log_.Say(std::string(to_string(command)) + ", " + field.name + ": " + field.value);
+  }
+}
+
 void Session::OnStatusRequest(std::uint64_t /*offset*/) {
   const AnswerPlan plan = printer_.faults.Answer(Question::Status, !permission_.FileBegins());
   permission_.StatusAnswered(plan);
   SendAnswer(plan, status_answer(plan.number));
   log_.Say("status request, " + answer_words(plan));
+  SayFields(decoder::Command::StatusRequest);
   printer_.faults.EndByCount();
 }
 
@@ -122,6 +144,7 @@ void Session::OnReadinessQuery(std::uint64_t offset, const decoder::JobHeader& h
   permission_.ReadinessAnswered(plan);
   SendAnswer(plan, readiness_answer(plan.number));
   log_.Say("readiness query, " + sheet_words(header) + ", " + answer_words(plan));
+  SayFields(decoder::Command::ReadinessQuery);
   printer_.faults.EndByCount();
 }
 
@@ -131,10 +154,14 @@ void Session::OnJobHeader(std::uint64_t offset, const decoder::JobHeader& header
              "a job header after " + permission_.ReadinessSeen(), "a job header after 0x0000"});
   }
   log_.Say("job header, " + job_header_words(header));
+  SayFields(decoder::Command::JobHeader);
+  jobFields_ = fields_;
 }
 
 void Session::OnImageHeader(std::uint64_t /*offset*/, const decoder::ImageHeader& header) {
   log_.Say("image header, " + image_header_words(header));
+  SayFields(decoder::Command::ImageHeader);
+  imageFields_ = fields_;
 }
 
 void Session::OnSheetBegin(const decoder::Sheet& sheet) {
@@ -144,14 +171,21 @@ void Session::OnSheetBegin(const decoder::Sheet& sheet) {
     return;
   }
   printer_.sheets.Begin(sheet);
+  progress_.Begin(sheet);
 }
 
 void Session::OnImageRow(std::uint32_t row, std::span<const std::uint16_t> samples) {
-  printer_.sheets.ImageRow(row, samples);
+  if (printer_.sheets.Busy()) {
+    printer_.sheets.ImageRow(row, samples);
+    progress_.Row();
+  }
 }
 
 void Session::OnMatteRow(std::uint32_t row, std::span<const std::uint8_t> bytes) {
-  printer_.sheets.MatteRow(row, bytes);
+  if (printer_.sheets.Busy()) {
+    printer_.sheets.MatteRow(row, bytes);
+    progress_.Row();
+  }
 }
 
 void Session::OnSheetEnd(const decoder::SheetEnd& end) {
@@ -162,7 +196,10 @@ void Session::OnSheetEnd(const decoder::SheetEnd& end) {
   if (!printer_.sheets.Busy()) {
     return;
   }
-  const SheetResult result = printer_.sheets.End();
+  SayPrinted(printer_.sheets.End());
+}
+
+void Session::SayPrinted(const SheetResult& result) {
   const std::string name = "sheet " + std::to_string(result.number);
   if (!result.error.empty()) {
     log_.SayFailure(name + " could not be written to " + result.path.string() + ": " +
@@ -175,6 +212,23 @@ void Session::OnSheetEnd(const decoder::SheetEnd& end) {
   log_.Say(name + " printed to " + result.path.string() + ": " + printed_sheet_words(sheet_));
   if (!result.listError.empty()) {
     log_.SayFailure("sheets.txt: " + result.listError);
+  }
+  if (!result.thumbnailError.empty()) {
+    log_.SayFailure(name + " has no thumbnail: " + result.thumbnailError);
+  }
+  AddToContactSheet(result);
+}
+
+void Session::AddToContactSheet(const SheetResult& result) {
+  if (printer_.contactSheet == nullptr) {
+    return;
+  }
+  const std::string file = result.path.filename().string();
+  const std::string why = printer_.contactSheet->Add(
+      {"Sheet " + std::to_string(result.number) + " of connection " + std::to_string(log_.Number()),
+       file, "thumbnails/" + file, printed_sheet_words(sheet_), jobFields_, imageFields_});
+  if (!why.empty()) {
+    log_.SayFailure("index.html: " + why);
   }
 }
 
@@ -194,6 +248,7 @@ void Session::OnSheetCut() {
 void Session::OnPrintOut(std::uint64_t /*offset*/, std::uint8_t waitByte) {
   permission_.PrintOutDone();
   log_.Say("print-out, wait byte " + std::to_string(waitByte));
+  SayFields(decoder::Command::PrintOut);
 }
 
 void Session::OnError(const decoder::StreamError& error) {

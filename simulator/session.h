@@ -7,15 +7,20 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "decoder/command_listener.h"
+#include "decoder/named_fields.h"
 #include "decoder/stream_parser.h"
 #include "simulator/client_connection.h"
 #include "simulator/connection_log.h"
+#include "simulator/contact_sheet.h"
 #include "simulator/fault_schedule.h"
 #include "simulator/permission.h"
 #include "simulator/sheet_printer.h"
+#include "simulator/sheet_progress.h"
 #include "simulator/stream_recorder.h"
 #include "simulator/tally.h"
 #include "simulator/waiter.h"
@@ -28,6 +33,8 @@ struct Printer {
   SheetPrinter& sheets;
   StreamRecorder& recorder;
   Tally& tally;
+  ContactSheet* contactSheet = nullptr;  ///< none: no such page is kept
+  bool verbose = false;                  ///< every field is said
 };
 
 /// Serves one client.
@@ -43,9 +50,11 @@ class Session : private decoder::CommandListener {
   bool Run();
 
   /// Says what the connection brought, when it is closed.
-  void SayClosed() const;
+  void SayClosed();
 
  private:
+  void OnCommandBytes(std::uint64_t offset, decoder::Command command,
+                      std::span<const std::uint8_t> bytes) override;
   void OnStatusRequest(std::uint64_t offset) override;
   void OnReadinessQuery(std::uint64_t offset, const decoder::JobHeader& header) override;
   void OnJobHeader(std::uint64_t offset, const decoder::JobHeader& header) override;
@@ -64,6 +73,9 @@ class Session : private decoder::CommandListener {
   std::optional<Received> ReceiveMore();
   void TakeBytes();
   void Drop();
+  void SayFields(decoder::Command command) const;
+  void SayPrinted(const SheetResult& result);
+  void AddToContactSheet(const SheetResult& result);
   void Cut(const std::string& how);
 
   Printer printer_;
@@ -75,6 +87,10 @@ class Session : private decoder::CommandListener {
   Permission permission_;
   bool answersLost_ = false;
   decoder::Sheet sheet_{};
+  SheetProgress progress_;
+  std::vector<decoder::NamedField> fields_;  ///< of the last command
+  std::vector<decoder::NamedField> jobFields_;
+  std::vector<decoder::NamedField> imageFields_;
   std::uint64_t sheets_ = 0;
 };
 

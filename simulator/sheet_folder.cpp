@@ -70,6 +70,16 @@ std::filesystem::path SheetFolder::IncompleteName(std::uint64_t number) const {
   return folder_ / file_name(kIncomplete, number);
 }
 
+std::filesystem::path SheetFolder::ThumbnailName(std::uint64_t number) const {
+  return Thumbnails() / file_name(kPrinted, number);
+}
+
+std::string SheetFolder::MakeThumbnails() const {
+  std::error_code error;
+  std::filesystem::create_directory(Thumbnails(), error);
+  return error ? error.message() : "";
+}
+
 std::string SheetFolder::AddLine(const std::string& line) const {
   std::FILE* const file = std::fopen((folder_ / "sheets.txt").c_str(), "ae");
   if (file == nullptr) {

@@ -28,6 +28,13 @@ class SheetFolder {
   /// DIR/incomplete-0001.png, a name that no pattern for printed sheets matches.
   std::filesystem::path IncompleteName(std::uint64_t number) const;
 
+  /// DIR/thumbnails, and DIR/thumbnails/sheet-0001.png
+  std::filesystem::path Thumbnails() const { return folder_ / "thumbnails"; }
+  std::filesystem::path ThumbnailName(std::uint64_t number) const;
+
+  /// Makes the folder for thumbnails where it is missing. Returns what went wrong, or nothing.
+  std::string MakeThumbnails() const;
+
   /// Adds a line to DIR/sheets.txt. Returns what went wrong, or nothing.
   std::string AddLine(const std::string& line) const;
 

@@ -8,13 +8,17 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "decoder/command_listener.h"
 #include "decoder/soft_proof.h"
 #include "simulator/png_writer.h"
 #include "simulator/sheet_folder.h"
+#include "simulator/sheet_marks.h"
 #include "simulator/sheet_renderer.h"
+#include "simulator/thumbnail.h"
 
 namespace simulator {
 
@@ -24,6 +28,13 @@ struct SheetResult {
   std::filesystem::path path;  ///< of the PNG
   std::string error;           ///< why there is no PNG; empty when there is
   std::string listError;       ///< why its line is missing in the list; empty when it is not
+  std::string thumbnailError;  ///< why there is no thumbnail though one was asked for
+};
+
+/// What is made of a sheet beside the plain picture.
+struct SheetExtras {
+  bool marks = false;       ///< lines where it is cut and where its border begins
+  bool thumbnails = false;  ///< a small picture in the folder's folder for them
 };
 
 /// Prints one sheet after another into a folder. Holds one sheet at most.
@@ -31,8 +42,8 @@ class SheetPrinter {
  public:
   /// Sheets are drawn through `proof`, or show the device values when it is null. Folder and proof
   /// must outlive the printer.
-  SheetPrinter(SheetFolder& folder, const decoder::SoftProof* proof)
-      : folder_(folder), proof_(proof) {}
+  SheetPrinter(SheetFolder& folder, const decoder::SoftProof* proof, SheetExtras extras = {})
+      : folder_(folder), proof_(proof), extras_(extras) {}
 
   /// A sheet lies in the printer, begun and neither ended nor cut.
   bool Busy() const { return page_ != nullptr; }
@@ -50,18 +61,25 @@ class SheetPrinter {
  private:
   struct Page {
     Page(const decoder::Sheet& pageSheet, std::uint64_t pageNumber,
-         const std::filesystem::path& folder, const decoder::SoftProof* proof);
+         const std::filesystem::path& folder, const decoder::SoftProof* proof, SheetExtras extras);
+    void TakeRow(std::span<const std::uint8_t> row);
 
     decoder::Sheet sheet;
     std::uint64_t number;
     PngWriter writer;
+    std::optional<SheetMarks> marks;
+    std::optional<Thumbnail> thumbnail;
+    std::size_t rows = 0;
+    std::vector<std::uint8_t> marked;
     SheetRenderer renderer;
   };
 
   SheetResult Close(const std::filesystem::path& name);
+  std::string WriteThumbnail() const;
 
   SheetFolder& folder_;
   const decoder::SoftProof* proof_;
+  SheetExtras extras_;
   std::unique_ptr<Page> page_;
 };
 

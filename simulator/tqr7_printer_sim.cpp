@@ -14,6 +14,7 @@
 #include "decoder/profile_file.h"
 #include "decoder/soft_proof.h"
 #include "simulator/command_line.h"
+#include "simulator/contact_sheet.h"
 #include "simulator/event_log.h"
 #include "simulator/fault_schedule.h"
 #include "simulator/fault_sources.h"
@@ -68,6 +69,16 @@ std::string make_proof(const Options& options, std::unique_ptr<decoder::SoftProo
   return why;
 }
 
+// What is wrong; empty when all is well, or when no contact sheet is asked for.
+std::string begin_contact_sheet(const Options& options, const SheetFolder& folder,
+                                ContactSheet& contactSheet) {
+  if (!options.contactSheet) {
+    return {};
+  }
+  const std::string why = folder.MakeThumbnails();
+  return why.empty() ? contactSheet.Begin(folder.Path()) : why;
+}
+
 void say_stopped(const Tally& tally) {
   log_event("stopped after " + counted(tally.connections, "connection") + ", " +
             counted(tally.sheets, "sheet") + ", " + counted(tally.errors, "error"));
@@ -97,6 +108,10 @@ int run(const Options& options) {
   if (const std::string why = folder.Open(options.output); !why.empty()) {
     return cannot_start(options.output, why);
   }
+  ContactSheet contactSheet;
+  if (const std::string why = begin_contact_sheet(options, folder, contactSheet); !why.empty()) {
+    return cannot_start(options.output, why);
+  }
   StreamRecorder recorder;
   if (!options.record.empty()) {
     if (const std::string why = recorder.Open(options.record); !why.empty()) {
@@ -117,10 +132,12 @@ int run(const Options& options) {
     }
   }
   log_first_line("listening on " + options.address + " port " + std::to_string(server.Port()));
-  SheetPrinter sheets(folder, proof.get());
+  SheetPrinter sheets(folder, proof.get(), {options.marks, options.contactSheet});
   Tally tally;
   const Waiter waiter(*signals, faults, options.faults.script);
-  return serve(options, server, waiter, {faults, sheets, recorder, tally});
+  return serve(options, server, waiter,
+               {faults, sheets, recorder, tally, options.contactSheet ? &contactSheet : nullptr,
+                options.verbose});
 }
 
 }  // namespace
