@@ -18,12 +18,9 @@ constexpr std::uint16_t kOffsetOpRate = 82;
 constexpr std::uint16_t kOffsetFlag = 3;
 constexpr std::uint16_t kOffsetYear = 32;
 constexpr std::uint16_t kOffsetMonth = 34;
-constexpr std::uint16_t kOffsetDay = 35;
 constexpr std::uint16_t kOffsetHour = 36;
 constexpr std::uint16_t kOffsetMinute = 37;
 constexpr std::uint16_t kOffsetSecond = 38;
-
-constexpr std::uint16_t kOffsetPrintOutWait = 5;
 
 constexpr std::array<FieldRule, 4> kStatusRequestFields{{
     {4, 1, "fixed byte 4", Hex, exactly(0x00)},

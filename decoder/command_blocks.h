@@ -59,6 +59,8 @@ inline constexpr std::uint16_t kOffsetImageWidth = 10;
 inline constexpr std::uint16_t kOffsetImageHeight = 12;
 inline constexpr std::uint16_t kOffsetMatteWidth = 20;
 inline constexpr std::uint16_t kOffsetMatteHeight = 22;
+inline constexpr std::uint16_t kOffsetDay = 35;
+inline constexpr std::uint16_t kOffsetPrintOutWait = 5;
 
 /// The fields of a command, in ascending order, from the byte behind its fixed code bytes on.
 std::span<const FieldRule> field_rules(Command command);

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <string>
 
+#include "decoder/date_check.h"
 #include "decoder/geometry_check.h"
 
 namespace decoder {
@@ -146,9 +147,7 @@ void StreamParser::FinishBlock() {
       FinishImageHeader();
       break;
     case Command::PrintOut:
-      query_.reset();
-      job_.reset();
-      listener_.OnPrintOut(BlockOffset(), read_print_out_wait(Block()));
+      FinishPrintOut();
       break;
     default:
       query_.reset();
@@ -177,6 +176,7 @@ void StreamParser::CompareWithQuery() {
 void StreamParser::FinishReadinessQuery(std::uint64_t errorsBefore) {
   const JobHeader header = read_job_header(Block());
   check_sheet(header, code_->command, BlockOffset(), report_);
+  wait_ = header.waitByte;
   job_.reset();
   if (errorCount_ == errorsBefore) {
     CompareWithQuery();
@@ -197,11 +197,13 @@ void StreamParser::FinishJobHeader(std::uint64_t errorsBefore) {
     CompareWithQuery();
   }
   query_.reset();
+  wait_ = header.waitByte;
   listener_.OnJobHeader(BlockOffset(), header);
 }
 
 void StreamParser::FinishImageHeader() {
   const ImageHeader image = read_image_header(Block());
+  check_date(image, BlockOffset(), report_);
   const bool good = job_ && check_image(image, *job_, BlockOffset(), report_);
   listener_.OnImageHeader(BlockOffset(), image);
   if (good) {
@@ -215,6 +217,20 @@ void StreamParser::FinishImageHeader() {
   }
   query_.reset();
   job_.reset();
+}
+
+// The settings are a job's: the wait byte at its end is that of its sheets. A job without sheets
+// has said none.
+void StreamParser::FinishPrintOut() {
+  const std::uint8_t wait = read_print_out_wait(Block());
+  if (wait_ && wait != *wait_) {
+    Report({BlockOffset() + kOffsetPrintOutWait, Command::PrintOut, "wait byte",
+            std::to_string(wait), std::to_string(*wait_) + " as in the last settings block"});
+  }
+  wait_.reset();
+  query_.reset();
+  job_.reset();
+  listener_.OnPrintOut(BlockOffset(), wait);
 }
 
 std::size_t StreamParser::TakeImage(Bytes bytes) {

@@ -75,6 +75,7 @@ class StreamParser {
   void FinishReadinessQuery(std::uint64_t errorsBefore);
   void FinishJobHeader(std::uint64_t errorsBefore);
   void FinishImageHeader();
+  void FinishPrintOut();
   void FinishImageRow();
   void BeginMatte();
   void FinishSheet();
@@ -104,7 +105,8 @@ class StreamParser {
 
   /// The last readiness query, for as long as the next query or job header must repeat it.
   std::optional<std::array<std::uint8_t, kBlockLength>> query_;
-  std::optional<JobHeader> job_;  ///< a job header whose sheet is a paper's
+  std::optional<std::uint8_t> wait_;  ///< of the last settings block since the last print-out
+  std::optional<JobHeader> job_;      ///< a job header whose sheet is a paper's
   Sheet sheet_{};
 };
 

@@ -262,6 +262,79 @@ TEST(Fields, OfThePrintOutAreChecked) {
       ElementsAre("offset 12: print-out, fixed byte 4: came 0x01, allowed 0x00"));
 }
 
+// Year, month and day lie at 1064 to 1067.
+Bytes with_date(std::uint16_t year, std::uint8_t month, std::uint8_t day) {
+  Bytes bytes = stream::headers(stream::paper_10x15(), Finish::Gloss);
+  bytes.at(1064) = static_cast<std::uint8_t>(year >> 8U);
+  bytes.at(1065) = static_cast<std::uint8_t>(year & 0xFFU);
+  bytes.at(1066) = month;
+  bytes.at(1067) = day;
+  return bytes;
+}
+
+TEST(Dates, ThatTheCalendarDoesNotHaveAreNamed) {
+  EXPECT_THAT(errors_open(with_date(2026, 4, 31)),
+              ElementsAre("offset 1067: image header, day: came 31, allowed 1 to 30 in month 4 of "
+                          "2026"));
+  EXPECT_THAT(errors_open(with_date(2026, 2, 30)),
+              ElementsAre("offset 1067: image header, day: came 30, allowed 1 to 28 in month 2 of "
+                          "2026"));
+}
+
+TEST(Dates, KnowTheLeapYears) {
+  EXPECT_THAT(errors_open(with_date(2028, 2, 29)), IsEmpty());
+  EXPECT_THAT(errors_open(with_date(2000, 2, 29)), IsEmpty());
+  EXPECT_THAT(errors_open(with_date(2026, 2, 29)),
+              ElementsAre("offset 1067: image header, day: came 29, allowed 1 to 28 in month 2 of "
+                          "2026"));
+  EXPECT_THAT(errors_open(with_date(2100, 2, 29)),
+              ElementsAre("offset 1067: image header, day: came 29, allowed 1 to 28 in month 2 of "
+                          "2100"));
+}
+
+TEST(Dates, GiveOneErrorForAMonthThatIsNone) {
+  EXPECT_THAT(errors_open(with_date(2026, 13, 31)),
+              ElementsAre("offset 1066: image header, month: came 13, allowed 1 to 12"));
+}
+
+TEST(Dates, MayBeTheLastOfEveryMonth) {
+  const Bytes days{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  for (std::size_t month = 0; month < days.size(); ++month) {
+    EXPECT_THAT(errors_open(with_date(2026, static_cast<std::uint8_t>(month + 1), days[month])),
+                IsEmpty());
+  }
+}
+
+TEST(WaitByte, OfThePrintOutIsThatOfTheJobHeader) {
+  const Bytes sheet = stream::sheet(stream::paper_5x15(), Finish::Gloss, {});
+  EXPECT_THAT(errors_of(stream::join({sheet, {0x1B, 0x42, 0x51, 0x31, 0x00, 0xFF}})),
+              ElementsAre("offset 7013221: print-out, wait byte: came 255, allowed 5 as in the "
+                          "last settings block"));
+}
+
+TEST(WaitByte, OfThePrintOutIsThatOfAQueryThatWasRefused) {
+  EXPECT_THAT(errors_of(stream::join({stream::status_request(),
+                                      stream::readiness_query(stream::paper_5x15(), Finish::Gloss),
+                                      {0x1B, 0x42, 0x51, 0x31, 0x00, 0x06}})),
+              ElementsAre("offset 525: print-out, wait byte: came 6, allowed 5 as in the last "
+                          "settings block"));
+}
+
+TEST(WaitByte, OfAJobWithoutSheetsMayBeAny) {
+  EXPECT_THAT(
+      errors_of(stream::join({stream::status_request(), {0x1B, 0x42, 0x51, 0x31, 0x00, 0xFF}})),
+      IsEmpty());
+}
+
+TEST(WaitByte, IsEachFilesOwn) {
+  const Bytes sheet = stream::sheet(stream::paper_5x15(), Finish::Gloss, {});
+  EXPECT_THAT(errors_of(stream::join({sheet,
+                                      stream::print_out(),
+                                      stream::status_request(),
+                                      {0x1B, 0x42, 0x51, 0x31, 0x00, 0xFF}})),
+              IsEmpty());
+}
+
 TEST(Fields, ArriveInTheRecords) {
   EventRecording recording;
   decode_open(stream::headers(stream::paper_5x15x2(), Finish::Matte), recording);

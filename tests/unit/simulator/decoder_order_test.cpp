@@ -126,6 +126,31 @@ TEST(Order, NeedsAStatusRequestAfterThePrintOut) {
                           "print-out, allowed status request"));
 }
 
+TEST(Order, LeavesNoByteBehindThePrintOut) {
+  EXPECT_THAT(errors_of(join({status(), end(), {0x00}})),
+              ElementsAre("offset 14: stream, command code: came 00, allowed 1B 47 44 30, 1B 47 44 "
+                          "33, 1B 53 50 30, 1B 5A 54 01, 1B 42 51 31"));
+}
+
+TEST(Order, LeavesNoByteBehindASheet) {
+  EXPECT_THAT(errors_of(join({sheet(), {0xFF}, end()})),
+              ElementsAre("offset 7013216: stream, command code: came FF, allowed 1B 47 44 30, 1B "
+                          "47 44 33, 1B 53 50 30, 1B 5A 54 01, 1B 42 51 31"));
+}
+
+TEST(Order, LetsNoSecondJobHeaderFollowTheFirst) {
+  EXPECT_THAT(errors_open(join({status(), query(), job(), job()})),
+              ElementsAre("offset 1032: job header, order of commands: came job header after job "
+                          "header, allowed image header"));
+}
+
+TEST(Order, LetsNoSecondImageHeaderFollowASheet) {
+  EXPECT_THAT(
+      errors_of(join({sheet(), image()})),
+      ElementsAre("offset 7013216: image header, order of commands: came image header after "
+                  "image header, allowed status request or print-out"));
+}
+
 TEST(Order, GoesOnFromACommandOutOfPlace) {
   EXPECT_THAT(errors_of(join({query(), job(), image(), data(), end()})),
               ElementsAre("offset 0: readiness query, order of commands: came readiness query at "
