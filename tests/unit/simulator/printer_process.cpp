@@ -40,9 +40,22 @@ void become_printer(const std::vector<std::string>& options, int from, int descr
   ::_exit(127);
 }
 
-Child start(const std::vector<std::string>& options, int descriptor, std::uint64_t fileSizeLimit) {
+// The end to read from, and the end that is a terminal.
+bool open_terminal(std::array<int, 2>& ends) {
+  ends[0] = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+  if (ends[0] < 0 || ::grantpt(ends[0]) != 0 || ::unlockpt(ends[0]) != 0) {
+    return false;
+  }
+  ends[1] = ::open(::ptsname(ends[0]), O_RDWR | O_NOCTTY | O_CLOEXEC);
+  return ends[1] >= 0;
+}
+
+Child start(const std::vector<std::string>& options, int descriptor, std::uint64_t fileSizeLimit,
+            PrinterProcess::Sink sink = PrinterProcess::Sink::Pipe) {
   std::array<int, 2> ends{};
-  if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
+  const bool opened = sink == PrinterProcess::Sink::Terminal ? open_terminal(ends)
+                                                             : ::pipe2(ends.data(), O_CLOEXEC) == 0;
+  if (!opened) {
     return {-1, -1};
   }
   const pid_t pid = ::fork();
@@ -94,11 +107,11 @@ std::vector<std::string> TemporaryFolder::Names() const {
   return names;
 }
 
-PrinterProcess::PrinterProcess(const std::vector<std::string>& options,
-                               std::uint64_t fileSizeLimit) {
+PrinterProcess::PrinterProcess(const std::vector<std::string>& options, std::uint64_t fileSizeLimit,
+                               Sink sink) {
   std::vector<std::string> all{"--port", "0"};
   all.insert(all.end(), options.begin(), options.end());
-  const Child child = start(all, STDOUT_FILENO, fileSizeLimit);
+  const Child child = start(all, STDOUT_FILENO, fileSizeLimit, sink);
   pid_ = child.pid;
   outputEnd_ = child.outputEnd;
 }

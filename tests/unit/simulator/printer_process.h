@@ -32,8 +32,12 @@ class TemporaryFolder {
 /// of their results. A printer that still runs at the end is killed.
 class PrinterProcess {
  public:
+  /// What the program's standard output is.
+  enum class Sink : std::uint8_t { Pipe, Terminal };
+
   /// Starts the program with these options; `fileSizeLimit` above 0 limits the files it writes.
-  explicit PrinterProcess(const std::vector<std::string>& options, std::uint64_t fileSizeLimit = 0);
+  explicit PrinterProcess(const std::vector<std::string>& options, std::uint64_t fileSizeLimit = 0,
+                          Sink sink = Sink::Pipe);
   PrinterProcess(const PrinterProcess&) = delete;
   PrinterProcess& operator=(const PrinterProcess&) = delete;
   ~PrinterProcess();
