@@ -126,8 +126,8 @@ Explanation explain_row(const PrinterStateReason& row, std::uint16_t number) {
         "that the table does not know.";
     result.remedy =
         "Check first that the printer is on and connected. " + result.remedy +
-        " The scheduler's log at the level debug has a line `DEBUG: " + result.keyword +
-        " …` that ends in UNAVAILABLE when the printer did not answer, and otherwise in the number "
+        " The scheduler's log at the level debug has a line that begins `DEBUG: " + result.keyword +
+        "` and ends in UNAVAILABLE when the printer did not answer, and otherwise in the number "
         "that it reported.";
   }
   return result;

@@ -17,6 +17,8 @@ int run(int argc, char** argv) {
   program.set_version_flag("--version", "tqr7 " TQR7_VERSION, "say the version and end");
   program.get_option("--help")->description("say this and end");
   program.require_subcommand(1);
+  tools::add_inspect(program, status);
+  tools::add_explain(program, status);
   try {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// An error number or a keyword as a person types it.
+#ifndef TQR7_TOOLS_ERROR_TEXT_H
+#define TQR7_TOOLS_ERROR_TEXT_H
+
+#include <string>
+#include <string_view>
+
+#include "tools/explanation.h"
+
+namespace tools {
+
+/// Explains what a person typed, upper or lower case: a number of one to four hexadecimal digits,
+/// with or without "0x"; a class and a number, "0008_2665"; or a keyword, whole or without its
+/// beginning.
+Explanation explain_text(std::string_view text);
+
+/// The text fit to be shown on a terminal: control characters become "?", and what is long is cut.
+std::string printable(std::string_view text);
+
+}  // namespace tools
+
+#endif  // TQR7_TOOLS_ERROR_TEXT_H
