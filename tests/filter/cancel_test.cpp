@@ -117,9 +117,9 @@ TEST(Cancel, InThePauseAfterARefusalEndsTheJobWithoutAnError) {
 }
 
 TEST(Cancel, InATransferThatIsHeldUpEndsTheStreamWhereItStands) {
-  FilterProcess filter(
-      {.input = SmallRaster(),
-       .printer = {.readiness = {{.pieces = {kReady}, .then_hold_stream = true}}}});
+  FilterProcess filter({.input = SmallRaster(),
+                        .printer = {.readiness = {{.pieces = {kReady}, .then_hold_stream = true}}},
+                        .stream_end = StreamEnd::Cut});
   filter.WaitUntilStuck();
   filter.Terminate();
 
@@ -166,7 +166,7 @@ TEST(Cancel, AtAnyMomentLeavesTheBeginningOfTheJob) {
   std::mt19937 random = SeededRandom(19);
   for (int round = 0; round < 25; ++round) {
     SCOPED_TRACE(round);
-    FilterProcess filter({.input = SmallRaster(2)});
+    FilterProcess filter({.input = SmallRaster(2), .stream_end = StreamEnd::Anywhere});
     filter.PlayFor(std::chrono::milliseconds(random() % 120));
     filter.Terminate();
 

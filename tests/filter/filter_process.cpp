@@ -73,6 +73,7 @@ FilterProcess::FilterProcess(const Job& job)
     : backend_(job.printer),
       input_bytes_(job.input),
       more_input_(job.more_input),
+      stream_end_(job.stream_end),
       deadline_(std::chrono::steady_clock::now() + kLongestRun) {
   Start(job);
 }
@@ -215,6 +216,7 @@ Outcome FilterProcess::Finish() {
   }
   process_ = -1;
   backend_.Step();
+  EXPECT_TRUE(PassesInspection(backend_.received(), stream_end_, folder_));
   return {WIFEXITED(status) ? WEXITSTATUS(status) : -1,
           WIFSIGNALED(status) ? WTERMSIG(status) : 0,
           backend_.received(),

@@ -15,6 +15,7 @@
 #include "tests/filter/backend.h"
 #include "tests/filter/ppd_maker.h"
 #include "tests/filter/printer_script.h"
+#include "tests/filter/stream_inspection.h"
 #include "tests/filter/temporary_folder.h"
 
 namespace filter_test {
@@ -31,7 +32,8 @@ struct Job {
   Script printer = {};
   std::vector<int> closed_descriptors = {};
   std::string output_path = {};  ///< standard output is this file instead of the backend's pipe
-  bool broken_pipe_is_an_error = false;  ///< SIGPIPE is ignored, so that a write fails instead
+  bool broken_pipe_is_an_error = false;     ///< SIGPIPE is ignored, so that a write fails instead
+  StreamEnd stream_end = StreamEnd::Whole;  ///< what Finish holds the stream against
 };
 
 /// What a run left behind.
@@ -63,7 +65,7 @@ class FilterProcess {
   void CloseInput() { more_input_ = false; }
   void Terminate() const;
 
-  /// Plays on to the end.
+  /// Plays on to the end, and has the stream inspected.
   Outcome Finish();
 
  private:
@@ -77,6 +79,7 @@ class FilterProcess {
   std::string input_bytes_;
   std::size_t fed_ = 0;
   bool more_input_;
+  StreamEnd stream_end_;
   int input_ = -1;
   int log_pipe_ = -1;
   std::string log_;

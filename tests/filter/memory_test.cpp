@@ -21,6 +21,13 @@ Job JobWithout(const std::string& bytes_and_count, int pages = 1, const std::str
           .environment = {{"FILTER_TEST_NO_MEMORY", bytes_and_count}}};
 }
 
+/// A job whose sheet lacks a plane.
+Job JobWithoutPlane(const std::string& bytes_and_count, const std::string& options = "") {
+  Job job = JobWithout(bytes_and_count, 1, options);
+  job.stream_end = StreamEnd::Cut;
+  return job;
+}
+
 void ExpectFailure(const Outcome& outcome, const std::string& log) {
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest()));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + log));
@@ -70,7 +77,7 @@ TEST(MissingMemory, ForTheJoinedSheetEndsTheJobWithoutAWord) {
 }
 
 TEST(MissingMemory, ForTheImageTransferLeavesTheImageOutUnnoticed) {
-  const Outcome outcome = Print(JobWithout(kStagingBuffer + " 1"));
+  const Outcome outcome = Print(JobWithoutPlane(kStagingBuffer + " 1"));
 
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + StatusRequest() +
                                              ReadinessQuery(kSettings) + JobHeader(kSettings) +
@@ -83,7 +90,7 @@ TEST(MissingMemory, ForTheImageTransferLeavesTheImageOutUnnoticed) {
 TEST(MissingMemory, ForTheMatteTransferLeavesTheMattePlaneOutUnnoticed) {
   const Settings matte{.finish = kMatte};
 
-  const Outcome outcome = Print(JobWithout(kStagingBuffer + " 2", 1, "RQPrintFinish=Matte"));
+  const Outcome outcome = Print(JobWithoutPlane(kStagingBuffer + " 2", "RQPrintFinish=Matte"));
 
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + StatusRequest() + ReadinessQuery(matte) +
                                              JobHeader(matte) + ImageHeader(matte) + SmallImage() +

@@ -100,7 +100,8 @@ TEST(BrokenStream, WithinTheImageStopsTheProgressThere) {
   const Outcome outcome = Print({.input = SmallRaster(),
                                  .options = "RQPrintFinish=Matte",
                                  .printer = {.stream_limit = headers + three_and_a_half_buffers},
-                                 .broken_pipe_is_an_error = true});
+                                 .broken_pipe_is_an_error = true,
+                                 .stream_end = StreamEnd::Cut});
 
   const Settings matte{.finish = kMatte};
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + ReadySheet(matte) +
