@@ -18,6 +18,7 @@ int run(int argc, char** argv) {
   program.get_option("--help")->description("say this and end");
   program.require_subcommand(1);
   tools::add_inspect(program, status);
+  tools::add_proof(program, status);
   tools::add_explain(program, status);
   try {
     program.parse(argc, argv);

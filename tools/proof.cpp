@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// tqr7 proof: the sheets of a captured command stream as PNG files.
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "decoder/profile_file.h"
+#include "decoder/soft_proof.h"
+#include "simulator/sheet_folder.h"
+#include "simulator/sheet_printer.h"
+#include "simulator/wording.h"
+#include "tools/byte_source.h"
+#include "tools/exit_status.h"
+#include "tools/stream_proofer.h"
+#include "tools/subcommands.h"
+
+namespace tools {
+namespace {
+
+struct Options {
+  std::string file;
+  std::string folder;
+  std::optional<std::string> profile;
+  bool deviceValues = false;
+};
+
+int cannot(const std::string& what, const std::string& why) {
+  std::fprintf(stderr, "tqr7 proof: %s: %s\n", what.c_str(), why.c_str());
+  return kExitCannotTell;
+}
+
+// Why the profile asked for cannot be used; empty when all is well. Device values need no proof.
+std::string make_proof(const Options& options, std::unique_ptr<decoder::SoftProof>& proof) {
+  std::string why;
+  if (options.profile) {
+    const std::vector<std::uint8_t> profile = decoder::read_profile_file(*options.profile, why);
+    if (why.empty()) {
+      proof = decoder::SoftProof::Through(profile, why);
+    }
+  } else if (!options.deviceValues) {
+    proof = decoder::SoftProof::ThroughPrinterModel();
+  }
+  return why;
+}
+
+ProofReport report_to_person() {
+  const auto complain = [](const std::string& text) {
+    std::fprintf(stderr, "tqr7 proof: %s\n", text.c_str());
+  };
+  return {[](const std::string& text) { std::printf("%s\n", text.c_str()); }, complain, complain};
+}
+
+int status_of(const ProofTotals& totals) {
+  if (totals.failures > 0) {
+    return kExitCannotTell;
+  }
+  return totals.errors > 0 || totals.bytes == 0 ? kExitNotGood : kExitGood;
+}
+
+int proof(const Options& options) {
+  std::unique_ptr<decoder::SoftProof> softProof;
+  if (const std::string why = make_proof(options, softProof); !why.empty()) {
+    return cannot(*options.profile, why);
+  }
+  simulator::SheetFolder folder;
+  if (const std::string why = folder.Open(options.folder); !why.empty()) {
+    return cannot(options.folder, why);
+  }
+  simulator::SheetPrinter printer(folder, softProof.get());
+  StreamProofer proofer(printer, report_to_person());
+  const std::string why =
+      for_each_piece(options.file, [&proofer](auto bytes) { proofer.Feed(bytes); });
+  const ProofTotals& totals = proofer.Finish();
+  if (!why.empty()) {
+    return cannot(options.file, why);
+  }
+  std::printf("%s, %s\n", simulator::counted(totals.sheets, "sheet").c_str(),
+              simulator::counted(totals.errors, "error").c_str());
+  return status_of(totals);
+}
+
+}  // namespace
+
+void add_proof(CLI::App& program, int& status) {
+  CLI::App* const sub =
+      program.add_subcommand("proof", "show the sheets of a captured command stream as PNG files");
+  const auto options = std::make_shared<Options>();
+  sub->add_option("FILE", options->file, "the stream; - is the standard input")->required();
+  sub->add_option("-o,--output", options->folder, "folder for the sheets, made where it is missing")
+      ->type_name("DIR")
+      ->required();
+  CLI::Option* const profile =
+      sub->add_option("--profile", options->profile,
+                      "ICC profile to show the colours of the print through (the model built in)")
+          ->type_name("FILE");
+  sub->add_flag("--device-values", options->deviceValues,
+                "show the printer's own values and not the colours of the print")
+      ->excludes(profile);
+  sub->get_option("--help")->description("say this and end");
+  sub->callback([options, &status] { status = proof(*options); });
+}
+
+}  // namespace tools
