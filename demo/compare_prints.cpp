@@ -11,9 +11,11 @@
 #include <exception>
 #include <stdexcept>
 
-#include "demo/picture.h"
+#include "tools/picture.h"
 
 namespace {
+
+using tools::Picture;
 
 constexpr std::size_t kGap = 40;
 constexpr unsigned char kGapGrey = 0x80;
@@ -102,9 +104,9 @@ int main(int argc, char** argv) {
     return 2;
   }
   try {
-    const Picture sheet = read_picture(argv[2]);
+    const Picture sheet = tools::read_picture(argv[2]);
     const Area area = area_in(sheet, argv + 4);
-    write_picture(argv[3], side_by_side(read_picture(argv[1]), sheet, area));
+    tools::write_picture(argv[3], side_by_side(tools::read_picture(argv[1]), sheet, area));
   } catch (const std::exception& error) {
     std::fprintf(stderr, "compare-prints: %s\n", error.what());
     return 1;

@@ -19,6 +19,7 @@ int run(int argc, char** argv) {
   program.require_subcommand(1);
   tools::add_inspect(program, status);
   tools::add_proof(program, status);
+  tools::add_check(program, status);
   tools::add_explain(program, status);
   try {
     program.parse(argc, argv);

@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "tools/photo_check.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+#include "tools/exif.h"
+#include "tools/photo_profile.h"
+
+namespace tools {
+namespace {
+
+constexpr double kInch = 300.0;
+
+std::string percent(double share) {
+  constexpr double kPercent = 100.0;
+  std::array<char, 32> text{};
+  std::snprintf(text.data(), text.size(), "%.1f %%", kPercent * share);
+  return text.data();
+}
+
+std::vector<Cut> find_cuts(const Picture& photo, const Placement& placement) {
+  const PixelArea& used = placement.used;
+  const auto width = static_cast<std::uint32_t>(photo.width);
+  const auto height = static_cast<std::uint32_t>(photo.height);
+  const std::array<Cut, 4> sides{{
+      {"left", used.left, 0, 0},
+      {"right", width - used.left - used.width, 0, 0},
+      {"top", used.top, 0, 0},
+      {"bottom", height - used.top - used.height, 0, 0},
+  }};
+  std::vector<Cut> cuts;
+  for (std::size_t i = 0; i < sides.size(); ++i) {
+    Cut cut = sides.at(i);
+    const bool across = i < 2;
+    cut.share = static_cast<double>(cut.pixels) / (across ? width : height);
+    cut.dots =
+        cut.pixels * (across ? placement.DotsPerPixelAcross() : placement.DotsPerPixelDown());
+    if (cut.pixels > 0) {
+      cuts.push_back(cut);
+    }
+  }
+  return cuts;
+}
+
+std::vector<White> find_whites(const tagPAPERINFO& paper, const Placement& placement) {
+  const auto width = static_cast<std::uint32_t>(paper.nImageWidth);
+  const auto height = static_cast<std::uint32_t>(paper.nImageHeight);
+  std::vector<White> whites;
+  if (placement.width < width) {
+    const std::uint32_t dots = width - placement.width;
+    whites.push_back({"right", dots, static_cast<double>(dots) / width});
+  }
+  if (placement.height < height) {
+    const std::uint32_t dots = height - placement.height;
+    whites.push_back({"bottom", dots, static_cast<double>(dots) / height});
+  }
+  return whites;
+}
+
+Sharpness judge_sharpness(double dotsPerInch) {
+  if (dotsPerInch >= kSharpFrom) {
+    return Sharpness::Sharp;
+  }
+  return dotsPerInch >= kSoftFrom ? Sharpness::Soft : Sharpness::Coarse;
+}
+
+std::vector<std::string> find_notes(const PictureFile& photo, const PrintSize& size,
+                                    const Placement& placement) {
+  std::vector<std::string> notes;
+  if (placement.turned) {
+    notes.emplace_back("The photo is turned by a quarter to the left, to lie as the paper does.");
+  }
+  if (const int orientation = exif_orientation(photo.exif); orientation != kExifUpright) {
+    notes.push_back("The camera's note in the file says that the photo must be " +
+                    std::string(exif_orientation_words(orientation)) +
+                    " to be seen upright. Printing does not look at that note: the photo is placed "
+                    "as its pixels lie.");
+  }
+  if (!photo.profile.empty()) {
+    const PhotoProfile profile = judge_photo_profile(photo.profile);
+    if (profile == PhotoProfile::Other) {
+      notes.emplace_back(
+          "The photo has a colour profile that is not sRGB. Printing takes the photo for sRGB, so "
+          "its colours will be off; convert it to sRGB first.");
+    } else if (profile == PhotoProfile::Unreadable) {
+      notes.emplace_back("The photo's colour profile cannot be used; it is taken for sRGB.");
+    }
+  }
+  if (size.TwoOnOnePage()) {
+    notes.emplace_back("The sheet is cut into two prints below line " +
+                       std::to_string(size.paper->nTwoUpSplit) +
+                       "; one photo on the whole page is cut in two.");
+  }
+  if (size.HalfSheet()) {
+    notes.emplace_back("A sheet takes two such pages; the other half of a lone one stays white.");
+  }
+  return notes;
+}
+
+// The other way of scaling, where this one costs something.
+void advise(PhotoCheck& check, PrintScaling scaling) {
+  constexpr double kMuch = 0.01;
+  const bool lost = std::any_of(check.cuts.begin(), check.cuts.end(),
+                                [](const Cut& cut) { return cut.share > kCutMost; });
+  const bool white = std::any_of(check.whites.begin(), check.whites.end(),
+                                 [](const White& side) { return side.share > kMuch; });
+  if (scaling == PrintScaling::Fill && lost) {
+    check.notes.emplace_back(
+        "Nothing is cut off with --scaling fit, which is `lp -o print-scaling=fit`.");
+  }
+  if (scaling == PrintScaling::Fit && white) {
+    check.notes.emplace_back(
+        "The page is covered with --scaling fill, which is `lp -o print-scaling=fill`; what goes "
+        "beyond it is cut off.");
+  }
+}
+
+std::vector<std::string> find_rules_broken(const PhotoCheck& check, const std::string& damage) {
+  std::vector<std::string> broken;
+  if (!damage.empty()) {
+    broken.push_back("damaged: the file is broken (" + damage + ")");
+  }
+  for (const Cut& cut : check.cuts) {
+    if (cut.share > kCutMost) {
+      broken.push_back("lost: more than " + percent(kCutMost) + " is cut off at the " + cut.side);
+    }
+  }
+  if (check.sharpness == Sharpness::Coarse) {
+    std::array<char, 64> text{};
+    std::snprintf(text.data(), text.size(), "coarse: less than %.0f pixels to the inch", kSoftFrom);
+    broken.emplace_back(text.data());
+  }
+  return broken;
+}
+
+}  // namespace
+
+const char* to_string(Sharpness sharpness) {
+  switch (sharpness) {
+    case Sharpness::Sharp:
+      return "sharp";
+    case Sharpness::Soft:
+      return "soft";
+    case Sharpness::Coarse:
+      return "coarse";
+  }
+  return "";
+}
+
+double millimetres(double dots) {
+  constexpr double kMillimetresPerInch = 25.4;
+  return dots * kMillimetresPerInch / kInch;
+}
+
+PhotoCheck check_photo(const PictureFile& photo, const PrintSize& size, PrintScaling scaling,
+                       const Placement& placement) {
+  PhotoCheck check{placement, 0, Sharpness::Sharp, {}, {}, {}, {}};
+  check.dotsPerInch =
+      kInch / std::max(placement.DotsPerPixelAcross(), placement.DotsPerPixelDown());
+  check.sharpness = judge_sharpness(check.dotsPerInch);
+  check.cuts = find_cuts(photo.picture, placement);
+  check.whites = find_whites(*size.paper, placement);
+  check.notes = find_notes(photo, size, placement);
+  advise(check, scaling);
+  check.rulesBroken = find_rules_broken(check, photo.damage);
+  return check;
+}
+
+}  // namespace tools

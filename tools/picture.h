@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// A picture in memory, read from JPEG or PNG with what its file says of itself, and written as PNG.
+#ifndef TQR7_TOOLS_PICTURE_H
+#define TQR7_TOOLS_PICTURE_H
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace tools {
+
+/// 8-bit RGB, rows from the top, white at first.
+struct Picture {
+  Picture() = default;
+  Picture(std::size_t pictureWidth, std::size_t pictureHeight)
+      : width(pictureWidth), height(pictureHeight), rgb(3 * pictureWidth * pictureHeight, 0xFF) {}
+
+  unsigned char* At(std::size_t x, std::size_t y) { return &rgb[3 * (y * width + x)]; }
+  const unsigned char* At(std::size_t x, std::size_t y) const { return &rgb[3 * (y * width + x)]; }
+
+  std::size_t width = 0;
+  std::size_t height = 0;
+  std::vector<unsigned char> rgb;
+};
+
+/// A picture and what stands beside it in the file.
+struct PictureFile {
+  Picture picture;
+  std::vector<std::uint8_t> exif;     ///< the Exif data, a TIFF file; empty where there is none
+  std::vector<std::uint8_t> profile;  ///< the embedded ICC profile; empty where there is none
+  std::string damage;                 ///< what is wrong with a file that could be read all the same
+};
+
+/// Reads a JPEG or PNG file. Throws std::runtime_error, which says why it cannot be read: what
+/// claims more than a hundred million pixels is refused before memory is taken for it.
+PictureFile read_picture_file(const std::string& path);
+
+/// The same without what stands beside the picture.
+Picture read_picture(const std::string& path);
+
+/// Writes a PNG file that says that it is sRGB. Throws std::runtime_error.
+void write_picture(const std::string& path, const Picture& picture);
+
+}  // namespace tools
+
+#endif  // TQR7_TOOLS_PICTURE_H

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
+#include <array>
+#include <csetjmp>
+#include <cstdlib>
+#include <cstring>
+#include <string_view>
+
+#include "tools/picture_formats.h"
+
+// jpeglib.h needs what <cstdio> declares.
+#include <jpeglib.h>
+
+namespace tools {
+namespace {
+
+constexpr std::size_t kChannels = 3;
+constexpr std::size_t kInks = 4;
+constexpr unsigned kMarkerMost = 0xFFFF;  ///< bytes of a marker, all there can be
+constexpr int kExifMarker = JPEG_APP0 + 1;
+constexpr int kProfileMarker = JPEG_APP0 + 2;
+
+// A file that shows a picture in more steps than this only means to take time.
+constexpr int kScansMost = 500;
+
+// All that outlives a jump out of libjpeg, which is how it says that it cannot go on.
+struct Reading {
+  jpeg_decompress_struct jpeg{};
+  jpeg_error_mgr errors{};
+  jpeg_progress_mgr progress{};
+  std::jmp_buf givenUp{};
+  std::array<char, JMSG_LENGTH_MAX> message{};
+  PictureFile* result = nullptr;
+  std::vector<unsigned char> inks;  ///< a row of a picture for the press
+};
+
+Reading& reading_of(j_common_ptr jpeg) {
+  return *static_cast<Reading*>(jpeg->client_data);
+}
+
+[[noreturn]] void give_up(j_common_ptr jpeg) {
+  Reading& reading = reading_of(jpeg);
+  jpeg->err->format_message(jpeg, reading.message.data());
+  std::longjmp(reading.givenUp, 1);  // NOLINT(cert-err52-cpp)
+}
+
+// A warning means a damaged file whose picture can be shown somehow. The first one is kept.
+void note_damage(j_common_ptr jpeg, int level) {
+  Reading& reading = reading_of(jpeg);
+  if (level < 0 && jpeg->err->num_warnings++ == 0) {
+    jpeg->err->format_message(jpeg, reading.message.data());
+  }
+}
+
+void limit_scans(j_common_ptr jpeg) {
+  Reading& reading = reading_of(jpeg);
+  if (reading.jpeg.input_scan_number > kScansMost) {
+    std::strcpy(reading.message.data(), "too many scans");
+    std::longjmp(reading.givenUp, 1);  // NOLINT(cert-err52-cpp)
+  }
+}
+
+void take_exif(const jpeg_decompress_struct& jpeg, std::vector<std::uint8_t>& exif) {
+  constexpr std::string_view kBegin("Exif\0\0", 6);
+  for (const jpeg_marker_struct* marker = jpeg.marker_list; marker != nullptr;
+       marker = marker->next) {
+    if (marker->marker == kExifMarker && marker->data_length > kBegin.size() &&
+        std::equal(kBegin.begin(), kBegin.end(), marker->data)) {
+      exif.assign(marker->data + kBegin.size(), marker->data + marker->data_length);
+      return;
+    }
+  }
+}
+
+void take_profile(jpeg_decompress_struct& jpeg, std::vector<std::uint8_t>& profile) {
+  JOCTET* bytes = nullptr;
+  unsigned length = 0;
+  if (jpeg_read_icc_profile(&jpeg, &bytes, &length) != 0) {
+    profile.assign(bytes, bytes + length);
+    std::free(bytes);
+  }
+}
+
+// Presses count ink, and the files of their programs the other way round: 255 is no ink.
+void inks_to_rgb(const std::vector<unsigned char>& inks, unsigned char* rgb) {
+  constexpr unsigned kFull = 255;
+  for (std::size_t dot = 0; dot < inks.size() / kInks; ++dot) {
+    const unsigned black = inks[kInks * dot + kChannels];
+    for (std::size_t channel = 0; channel < kChannels; ++channel) {
+      rgb[kChannels * dot + channel] =
+          static_cast<unsigned char>(inks[kInks * dot + channel] * black / kFull);
+    }
+  }
+}
+
+void read_rows(Reading& reading) {
+  jpeg_decompress_struct& jpeg = reading.jpeg;
+  Picture& picture = reading.result->picture;
+  const bool forPress = jpeg.out_color_space == JCS_CMYK;
+  reading.inks.resize(forPress ? kInks * picture.width : 0);
+  while (jpeg.output_scanline < jpeg.output_height) {
+    unsigned char* const rgb = picture.At(0, jpeg.output_scanline);
+    JSAMPROW row = forPress ? reading.inks.data() : rgb;
+    jpeg_read_scanlines(&jpeg, &row, 1);
+    if (forPress) {
+      inks_to_rgb(reading.inks, rgb);
+    }
+  }
+}
+
+// Nothing with a destructor lives in this frame: libjpeg may leave it at any call.
+const char* read_all(Reading& reading, std::FILE* file, std::string& refusal) {
+  if (setjmp(reading.givenUp) != 0) {  // NOLINT(cert-err52-cpp)
+    return reading.message.data();
+  }
+  jpeg_decompress_struct& jpeg = reading.jpeg;
+  jpeg_create_decompress(&jpeg);
+  jpeg.progress = &reading.progress;
+  jpeg_stdio_src(&jpeg, file);
+  jpeg_save_markers(&jpeg, kExifMarker, kMarkerMost);
+  jpeg_save_markers(&jpeg, kProfileMarker, kMarkerMost);
+  jpeg_read_header(&jpeg, TRUE);
+  refusal = refuse_size(jpeg.image_width, jpeg.image_height);
+  if (!refusal.empty()) {
+    return refusal.c_str();
+  }
+  take_exif(jpeg, reading.result->exif);
+  take_profile(jpeg, reading.result->profile);
+  const bool forPress = jpeg.jpeg_color_space == JCS_CMYK || jpeg.jpeg_color_space == JCS_YCCK;
+  jpeg.out_color_space = forPress ? JCS_CMYK : JCS_RGB;
+  jpeg_start_decompress(&jpeg);
+  reading.result->picture = Picture(jpeg.output_width, jpeg.output_height);
+  read_rows(reading);
+  jpeg_finish_decompress(&jpeg);
+  return nullptr;
+}
+
+}  // namespace
+
+std::string read_jpeg(std::FILE* file, PictureFile& result) {
+  Reading reading;
+  reading.result = &result;
+  reading.jpeg.err = jpeg_std_error(&reading.errors);
+  reading.jpeg.client_data = &reading;
+  reading.errors.error_exit = give_up;
+  reading.errors.emit_message = note_damage;
+  reading.progress.progress_monitor = limit_scans;
+  std::string refusal;
+  const char* const why = read_all(reading, file, refusal);
+  const std::string text = why != nullptr ? why : "";
+  if (text.empty() && reading.errors.num_warnings > 0) {
+    result.damage = reading.message.data();
+  }
+  jpeg_destroy_decompress(&reading.jpeg);
+  return text;
+}
+
+}  // namespace tools
