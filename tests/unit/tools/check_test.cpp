@@ -1,0 +1,301 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// tqr7 check as a person runs it.
+#include <gmock/gmock.h>
+
+#include <nlohmann/json.hpp>
+#include <string>
+
+#include "tests/unit/simulator/png_file.h"
+#include "tests/unit/simulator/test_profiles.h"
+#include "tests/unit/temp_file.h"
+#include "tests/unit/tools/photo_files.h"
+#include "tests/unit/tools/tool_process.h"
+
+namespace {
+
+using Rgb = PngFile::Rgb;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+ToolRun check(const std::string& photo, std::vector<std::string> options) {
+  const TempFolder folder;
+  std::ofstream(folder / "photo", std::ios::binary) << photo;
+  options.insert(options.begin(), {"check", folder / "photo", "--size"});
+  return run_tool(options);
+}
+
+TEST(Check, OfAPhotoInThePapersShapeIsGood) {
+  const ToolRun run = check(jpeg_file(1852, 1232), {"RQ_10x15", "--scaling", "fill"});
+  EXPECT_EQ(run.out,
+            "Photo:      1852 x 1232 pixels\n"
+            "Paper:      RQ_10x15, 1852 x 1232 dots, 156.8 x 104.3 mm\n"
+            "Scaling:    fill, to 1852 x 1232 dots from the image area's top left corner\n"
+            "Resolution: 300 dpi, sharp (sharp from 240 on, soft from 150, coarse below)\n"
+            "Good:       nothing is lost, and nothing is coarse\n");
+  EXPECT_EQ(run.errors, "");
+  EXPECT_EQ(run.status, 0);
+}
+
+TEST(Check, TellsWhatFillCutsOff) {
+  const ToolRun run = check(jpeg_file(1600, 1200), {"10x15", "--scaling", "fill"});
+  EXPECT_EQ(run.out,
+            "Photo:      1600 x 1200 pixels\n"
+            "Paper:      RQ_10x15, 1852 x 1232 dots, 156.8 x 104.3 mm\n"
+            "Scaling:    fill, to 1852 x 1231 dots from the image area's top left corner\n"
+            "Resolution: 259 dpi, sharp (sharp from 240 on, soft from 150, coarse below)\n"
+            "Cut off:    top of the photo, 67 pixels, 5.6 % (6.6 mm of paper)\n"
+            "Cut off:    bottom of the photo, 69 pixels, 5.8 % (6.8 mm of paper)\n"
+            "Left white: bottom of the image area, 1 dot, 0.1 % (0.1 mm)\n"
+            "Note:       Nothing is cut off with --scaling fit, which is `lp -o "
+            "print-scaling=fit`.\n"
+            "Not good:   lost: more than 1.0 % is cut off at the top\n"
+            "Not good:   lost: more than 1.0 % is cut off at the bottom\n");
+  EXPECT_EQ(run.status, 1);
+}
+
+TEST(Check, TellsWhatFitLeavesWhite) {
+  const ToolRun run = check(jpeg_file(1600, 1200), {"10x15"});
+  EXPECT_EQ(run.out,
+            "Photo:      1600 x 1200 pixels\n"
+            "Paper:      RQ_10x15, 1852 x 1232 dots, 156.8 x 104.3 mm\n"
+            "Scaling:    fit, to 1642 x 1232 dots from the image area's top left corner\n"
+            "Resolution: 292 dpi, sharp (sharp from 240 on, soft from 150, coarse below)\n"
+            "Left white: right of the image area, 210 dots, 11.3 % (17.8 mm)\n"
+            "Note:       The page is covered with --scaling fill, which is `lp -o "
+            "print-scaling=fill`; what goes beyond it is cut off.\n"
+            "Good:       nothing is lost, and nothing is coarse\n");
+  EXPECT_EQ(run.status, 0);
+}
+
+TEST(Check, TellsThatAPortraitPhotoIsTurned) {
+  EXPECT_THAT(check(jpeg_file(1232, 1852), {"10x15"}).out,
+              HasSubstr("Note:       The photo is turned by a quarter to the left, to lie as the "
+                        "paper does.\n"));
+}
+
+TEST(Check, CallsAPhotoSoftThatMayStillBePrinted) {
+  const ToolRun run = check(jpeg_file(1200, 798), {"10x15"});
+  EXPECT_THAT(run.out, HasSubstr("Resolution: 194 dpi, soft ("));
+  EXPECT_EQ(run.status, 0);
+}
+
+TEST(Check, CallsAPhotoCoarseThatShouldNotBePrinted) {
+  const ToolRun run = check(jpeg_file(600, 399), {"10x15"});
+  EXPECT_THAT(run.out, HasSubstr("Resolution: 97 dpi, coarse ("));
+  EXPECT_THAT(run.out, EndsWith("Not good:   coarse: less than 150 pixels to the inch\n"));
+  EXPECT_EQ(run.status, 1);
+}
+
+TEST(Check, TellsTheImageAreaInsideAWhiteBorder) {
+  EXPECT_THAT(check(jpeg_file(1684, 1084), {"10x15_wb"}).out,
+              HasSubstr("Paper:      RQ_10x15_WB, 1852 x 1232 dots, 156.8 x 104.3 mm\n"
+                        "Image area: 1684 x 1084 dots, inside a white border\n"));
+}
+
+TEST(Check, TellsThatAPageIsHalfASheet) {
+  const std::string out = check(jpeg_file(1852, 616), {"5x15x2_2"}).out;
+  EXPECT_THAT(out, HasSubstr("Image area: 1852 x 616 dots, one of two prints on the sheet\n"));
+  EXPECT_THAT(out, HasSubstr("Note:       A sheet takes two such pages; the other half of a lone "
+                             "one stays white.\n"));
+}
+
+TEST(Check, TellsThatASheetIsCutInTwo) {
+  EXPECT_THAT(check(jpeg_file(1852, 1232), {"5x15x2_1"}).out,
+              HasSubstr("Note:       The sheet is cut into two prints below line 616; one photo on "
+                        "the whole page is cut in two.\n"));
+}
+
+class CheckOnASize : public testing::TestWithParam<const char*> {};
+
+TEST_P(CheckOnASize, KnowsItWithAndWithoutItsBeginning) {
+  const std::string size = GetParam();
+  EXPECT_THAT(check(jpeg_file(60, 40), {size}).out, HasSubstr("Paper:      " + size + ", "));
+  EXPECT_THAT(check(jpeg_file(60, 40), {size.substr(3)}).out,
+              HasSubstr("Paper:      " + size + ", "));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, CheckOnASize,
+                         testing::Values("RQ_9x13", "RQ_10x15", "RQ_13x18", "RQ_15x20", "RQ_5x15",
+                                         "RQ_15x15", "RQ_13x13", "RQ_5x15x2_1", "RQ_5x15x2_2",
+                                         "RQ_9x13_WB", "RQ_10x15_WB", "RQ_13x18_WB",
+                                         "RQ_15x20_WB"));
+
+TEST(Check, TellsTheCamerasNoteThatPrintingDoesNotLookAt) {
+  EXPECT_THAT(check(jpeg_file(1852, 1232, exif_data(6)), {"10x15"}).out,
+              HasSubstr("Note:       The camera's note in the file says that the photo must be "
+                        "turned by 90 degrees clockwise to be seen upright. Printing does not look "
+                        "at that note: the photo is placed as its pixels lie.\n"));
+  EXPECT_THAT(check(jpeg_file(1852, 1232, exif_data(1)), {"10x15"}).out, Not(HasSubstr("Note:")));
+}
+
+TEST(Check, TellsAProfileThatIsNotSrgb) {
+  EXPECT_THAT(check(jpeg_file(1852, 1232, {}, profiles::wide_green()), {"10x15"}).out,
+              HasSubstr("Note:       The photo has a colour profile that is not sRGB."));
+  EXPECT_THAT(check(jpeg_file(1852, 1232, {}, profiles::srgb()), {"10x15"}).out,
+              Not(HasSubstr("Note:")));
+}
+
+TEST(Check, TellsAProfileThatCannotBeUsed) {
+  const ToolRun run = check(jpeg_file(1852, 1232, {}, {1, 2, 3}), {"10x15"});
+  EXPECT_THAT(run.out, HasSubstr("Note:       The photo's colour profile cannot be used; it is "
+                                 "taken for sRGB.\n"));
+  EXPECT_EQ(run.status, 0);
+}
+
+TEST(Check, CallsAPhotoDamagedThatIsCutOff) {
+  const std::string whole = jpeg_file(1852, 1232);
+  const ToolRun run = check(whole.substr(0, whole.size() / 2), {"10x15"});
+  EXPECT_THAT(run.out, EndsWith("Not good:   damaged: the file is broken (Premature end of JPEG "
+                                "file)\n"));
+  EXPECT_EQ(run.errors, "");
+  EXPECT_EQ(run.status, 1);
+}
+
+TEST(Check, WritesOneJsonDocument) {
+  const TempFolder folder;
+  std::ofstream(folder / "photo", std::ios::binary) << jpeg_file(1600, 1200);
+  const ToolRun run =
+      run_tool({"check", folder / "photo", "--size", "9x13_WB", "--scaling", "fill", "--json"});
+  nlohmann::json told = nlohmann::json::parse(run.out);
+  EXPECT_EQ(told["photo"],
+            nlohmann::json({{"file", folder / "photo"}, {"width", 1600}, {"height", 1200}}));
+  EXPECT_EQ(told["size"], "RQ_9x13_WB");
+  EXPECT_EQ(told["sheet"], nlohmann::json({{"width", 1550}, {"height", 1082}}));
+  EXPECT_EQ(told["image_area"],
+            nlohmann::json({{"left", 84}, {"top", 74}, {"width", 1382}, {"height", 934}}));
+  EXPECT_EQ(told["scaling"], "fill");
+  EXPECT_EQ(told["turned"], false);
+  EXPECT_EQ(told["used"],
+            nlohmann::json({{"left", 0}, {"top", 59}, {"width", 1600}, {"height", 1081}}));
+  EXPECT_EQ(told["printed"], nlohmann::json({{"width", 1382}, {"height", 933}}));
+  EXPECT_NEAR(told["dots_per_inch"], 347.3, 0.1);
+  EXPECT_EQ(told["sharpness"], "sharp");
+  EXPECT_EQ(told["cut_off"][0]["side"], "top");
+  EXPECT_EQ(told["cut_off"][0]["pixels"], 59);
+  EXPECT_EQ(told["cut_off"][1]["pixels"], 60);
+  EXPECT_EQ(told["left_white"][0]["side"], "bottom");
+  EXPECT_EQ(told["left_white"][0]["dots"], 1);
+  EXPECT_EQ(told["not_good"].size(), 2U);
+  EXPECT_EQ(told["good"], false);
+  EXPECT_EQ(run.status, 1);
+}
+
+TEST(CheckPicture, ShowsTheSheetWithThePhotoTheCutPartsDimmedAndTheWhiteOne) {
+  const TempFolder folder;
+  std::ofstream(folder / "photo", std::ios::binary) << jpeg_file(1600, 1200);
+  const std::string preview = folder / "preview.png";
+  EXPECT_EQ(run_tool({"check", folder / "photo", "--size", "9x13_WB", "--scaling", "fill",
+                      "--picture", preview})
+                .status,
+            1);
+  const PngFile png = read_png(preview);
+  // The sheet of 1550 x 1082 dots with a margin of 3 % of 1550 on each side, 1643 dots in all.
+  EXPECT_EQ(png.width, 1000U);
+  EXPECT_EQ(png.height, 715U);
+  EXPECT_EQ(png.At(10, 10), (Rgb{0xB0, 0xB0, 0xB0}));    // outside
+  EXPECT_EQ(png.At(28, 300), (Rgb{0x40, 0x40, 0x40}));   // the sheet's edge
+  EXPECT_EQ(png.At(60, 300), (Rgb{0xFF, 0xFF, 0xFF}));   // its border
+  EXPECT_EQ(png.At(500, 300), (Rgb{0x80, 0x80, 0x80}));  // the photo
+}
+
+TEST(CheckPicture, DimsWhatIsCutOffOutsideTheSheet) {
+  const TempFolder folder;
+  std::ofstream(folder / "photo", std::ios::binary) << jpeg_file(1200, 1200);
+  const std::string preview = folder / "preview.png";
+  run_tool(
+      {"check", folder / "photo", "--size", "10x15", "--scaling", "fill", "--picture", preview});
+  const PngFile png = read_png(preview);
+  // The photo is 1852 x 1852 dots, the sheet its middle; 1963 dots in all.
+  EXPECT_EQ(png.width, 1000U);
+  EXPECT_EQ(png.height, 1000U);
+  EXPECT_EQ(png.At(500, 10), (Rgb{0xB0, 0xB0, 0xB0}));
+  EXPECT_EQ(png.At(500, 100), (Rgb{162, 162, 162}));  // 0.3 of 0x80 and 0.7 of the ground's 0xB0
+  EXPECT_EQ(png.At(500, 500), (Rgb{0x80, 0x80, 0x80}));
+  EXPECT_EQ(png.At(500, 900), (Rgb{162, 162, 162}));
+}
+
+TEST(CheckPicture, ThatCannotBeWrittenSaysWhy) {
+  const ToolRun run = check(jpeg_file(60, 40), {"10x15", "--picture", "/nonexistent/preview.png"});
+  EXPECT_THAT(run.errors, StartsWith("tqr7 check: /nonexistent/preview.png: "));
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(run.status, 2);
+}
+
+struct HostileCase {
+  const char* name;
+  std::string photo;
+  const char* why;
+};
+
+void PrintTo(const HostileCase& that, std::ostream* out) {
+  *out << that.name;
+}
+
+class CheckOfAHostileFile : public testing::TestWithParam<HostileCase> {};
+
+TEST_P(CheckOfAHostileFile, SaysThatItCannotBeRead) {
+  const ToolRun run = check(GetParam().photo, {"10x15"});
+  EXPECT_THAT(run.errors, StartsWith("tqr7 check: "));
+  EXPECT_THAT(run.errors, EndsWith(std::string("/photo: ") + GetParam().why + "\n"));
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(run.status, 2);
+}
+
+// A JPEG whose frame header says 65500 rows and columns.
+std::string wide_jpeg() {
+  std::string file = jpeg_file(16, 16);
+  const std::size_t frame = file.find("\xFF\xC0");
+  file.replace(frame + 5, 4, "\xFF\xDC\xFF\xDC");
+  return file;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, CheckOfAHostileFile,
+    testing::Values(
+        HostileCase{"empty", "", "neither a JPEG nor a PNG file"},
+        HostileCase{"text", "hello", "neither a JPEG nor a PNG file"},
+        HostileCase{"start of a JPEG", "\xFF\xD8\xFF", "JPEG datastream contains no image"},
+        HostileCase{"JPEG of four thousand megapixels", wide_jpeg(),
+                    "65500 x 65500 pixels, more than 100000000"},
+        HostileCase{"start of a PNG", "\x89PNG\r\n\x1A\n", "Read Error"},
+        HostileCase{"PNG of 2147483647 columns", png_claim(0x7FFFFFFF, 1), "Invalid IHDR data"},
+        HostileCase{"PNG of a million columns and rows", png_claim(1000000, 1000000),
+                    "1000000 x 1000000 pixels, more than 100000000"},
+        HostileCase{"PNG without pixels", png_claim(1000, 1000), "Not enough image data"}));
+
+TEST(Check, OfAFileThatCannotBeReadSaysWhy) {
+  const TempFolder folder;
+  const ToolRun missing = run_tool({"check", folder / "missing", "--size", "10x15"});
+  EXPECT_EQ(missing.errors,
+            "tqr7 check: " + (folder / "missing") + ": No such file or directory\n");
+  EXPECT_EQ(missing.status, 2);
+  const ToolRun directory = run_tool({"check", folder.path().string(), "--size", "10x15"});
+  EXPECT_EQ(directory.errors, "tqr7 check: " + folder.path().string() + ": Is a directory\n");
+  EXPECT_EQ(directory.status, 2);
+}
+
+TEST(Check, OfASizeThatThereIsNotNamesThoseThatThereAre) {
+  const ToolRun run = check(jpeg_file(60, 40), {"A4"});
+  EXPECT_EQ(run.errors,
+            "tqr7 check: \"A4\" is no size; there are RQ_9x13, RQ_10x15, RQ_13x18, RQ_15x20, "
+            "RQ_5x15, RQ_15x15, RQ_13x13, RQ_5x15x2_1, RQ_5x15x2_2, RQ_9x13_WB, RQ_10x15_WB, "
+            "RQ_13x18_WB, RQ_15x20_WB\n");
+  EXPECT_EQ(run.status, 2);
+}
+
+TEST(Check, OfAPhotoTooNarrowToBePrintedSaysSo) {
+  const ToolRun run = check(jpeg_file(3000, 1), {"10x15"});
+  EXPECT_THAT(run.errors, EndsWith(": so narrow a picture that nothing of it is printed\n"));
+  EXPECT_EQ(run.status, 2);
+}
+
+TEST(Check, KnowsTwoWaysOfScaling) {
+  const ToolRun run = check(jpeg_file(60, 40), {"10x15", "--scaling", "none"});
+  EXPECT_EQ(run.errors, "tqr7: --scaling: none not in {fit,fill} (see --help)\n");
+  EXPECT_EQ(run.status, 2);
+}
+
+}  // namespace

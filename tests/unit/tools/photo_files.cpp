@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/unit/tools/photo_files.h"
+
+#include <zlib.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+// jpeglib.h needs what <cstdio> declares.
+#include <jpeglib.h>
+
+namespace {
+
+std::string big_endian(std::uint32_t number) {
+  std::string bytes;
+  for (int shift = 24; shift >= 0; shift -= 8) {
+    bytes += static_cast<char>(number >> static_cast<unsigned>(shift) & 0xFFU);
+  }
+  return bytes;
+}
+
+std::string chunk(const std::string& typeAndData) {
+  const auto* const bytes = reinterpret_cast<const unsigned char*>(typeAndData.data());
+  const auto check = crc32(0, bytes, static_cast<unsigned>(typeAndData.size()));
+  return big_endian(static_cast<std::uint32_t>(typeAndData.size() - 4)) + typeAndData +
+         big_endian(static_cast<std::uint32_t>(check));
+}
+
+}  // namespace
+
+std::string jpeg_file(unsigned width, unsigned height, const std::vector<std::uint8_t>& exif,
+                      const std::vector<std::uint8_t>& profile) {
+  jpeg_compress_struct jpeg;
+  jpeg_error_mgr errors;
+  jpeg.err = jpeg_std_error(&errors);
+  jpeg_create_compress(&jpeg);
+  unsigned char* memory = nullptr;
+  unsigned long length = 0;
+  jpeg_mem_dest(&jpeg, &memory, &length);
+  jpeg.image_width = width;
+  jpeg.image_height = height;
+  jpeg.input_components = 3;
+  jpeg.in_color_space = JCS_RGB;
+  jpeg_set_defaults(&jpeg);
+  jpeg_start_compress(&jpeg, TRUE);
+  if (!exif.empty()) {
+    std::vector<unsigned char> marker = {'E', 'x', 'i', 'f', 0, 0};
+    marker.insert(marker.end(), exif.begin(), exif.end());
+    jpeg_write_marker(&jpeg, JPEG_APP0 + 1, marker.data(), static_cast<unsigned>(marker.size()));
+  }
+  if (!profile.empty()) {
+    jpeg_write_icc_profile(&jpeg, profile.data(), static_cast<unsigned>(profile.size()));
+  }
+  std::vector<unsigned char> row(3UL * width, 0x80);
+  while (jpeg.next_scanline < height) {
+    JSAMPROW rows = row.data();
+    jpeg_write_scanlines(&jpeg, &rows, 1);
+  }
+  jpeg_finish_compress(&jpeg);
+  jpeg_destroy_compress(&jpeg);
+  std::string file(memory, memory + length);
+  std::free(memory);
+  return file;
+}
+
+std::vector<std::uint8_t> exif_data(std::uint8_t orientation) {
+  return {'M', 'M', 0, 42, 0, 0, 0,           8, 0, 1, 0x01, 0x12, 0,
+          3,   0,   0, 0,  1, 0, orientation, 0, 0, 0, 0,    0,    0};
+}
+
+std::string png_claim(std::uint32_t width, std::uint32_t height) {
+  const std::string rest("\x08\x02\x00\x00\x00", 5);  // 8-bit RGB
+  return "\x89PNG\r\n\x1A\n" + chunk("IHDR" + big_endian(width) + big_endian(height) + rest) +
+         chunk("IDAT") + chunk("IEND");
+}

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// Photos for the tests, with whatever a camera or a hostile hand puts beside the pixels.
+#ifndef TQR7_TESTS_UNIT_TOOLS_PHOTO_FILES_H
+#define TQR7_TESTS_UNIT_TOOLS_PHOTO_FILES_H
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// A grey JPEG of this size; `exif` and `profile` are embedded where they are not empty.
+std::string jpeg_file(unsigned width, unsigned height, const std::vector<std::uint8_t>& exif = {},
+                      const std::vector<std::uint8_t>& profile = {});
+
+/// Exif data that says this orientation and nothing else.
+std::vector<std::uint8_t> exif_data(std::uint8_t orientation);
+
+/// A PNG that claims a size and has no pixels.
+std::string png_claim(std::uint32_t width, std::uint32_t height);
+
+#endif  // TQR7_TESTS_UNIT_TOOLS_PHOTO_FILES_H
