@@ -21,6 +21,8 @@ int run(int argc, char** argv) {
   tools::add_proof(program, status);
   tools::add_check(program, status);
   tools::add_explain(program, status);
+  tools::add_status(program, status);
+  tools::add_resume(program, status);
   try {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

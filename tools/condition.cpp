@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "tools/condition.h"
+
+#include <algorithm>
+
+#include "tools/plain_text.h"
+
+namespace tools {
+namespace {
+
+std::vector<int> numbers_of(const Queue& queue, JobState state) {
+  std::vector<int> numbers;
+  for (const Job* const job : jobs_in(queue, state)) {
+    numbers.push_back(job->id);
+  }
+  return numbers;
+}
+
+std::vector<Reason> reasons_of(const Queue& queue) {
+  std::vector<Reason> reasons;
+  for (const std::string& keyword : queue.reasons) {
+    if (keyword != "none" && !keyword.empty()) {
+      const std::string plain = plain_text(keyword);
+      reasons.push_back({plain, is_harmless(keyword), explain_keyword(plain)});
+    }
+  }
+  return reasons;
+}
+
+}  // namespace
+
+bool Condition::IsGood() const {
+  const bool running = state == QueueState::Idle || state == QueueState::Processing;
+  return running && accepting && stopped.empty() && bidirectional != Bidirectional::No &&
+         std::all_of(reasons.begin(), reasons.end(),
+                     [](const Reason& reason) { return reason.harmless; });
+}
+
+Condition condition_of(const Room& room, const Queue& queue) {
+  Condition condition;
+  condition.queue = plain_text(queue.name);
+  condition.isClass = queue.isClass;
+  for (const std::string& member : queue.members) {
+    condition.members.push_back(plain_text(member));
+  }
+  condition.state = queue.state;
+  condition.message = plain_text(queue.message);
+  condition.accepting = queue.accepting;
+  condition.cause = cause_of_standstill(room, queue);
+  condition.reasons = reasons_of(queue);
+  condition.printing = numbers_of(queue, JobState::Processing);
+  condition.waiting = numbers_of(queue, JobState::Pending);
+  condition.stopped = numbers_of(queue, JobState::Stopped);
+  condition.held = numbers_of(queue, JobState::Held);
+  if (!queue.isClass) {
+    const std::size_t colon = queue.deviceUri.find(':');
+    condition.backend = plain_text(queue.deviceUri.substr(0, colon));
+    condition.bidirectional = bidirectional(queue.deviceUri);
+  }
+  return condition;
+}
+
+Explanation explain_standstill(const Condition& condition) {
+  Explanation explanation{};
+  switch (condition.cause.kind) {
+    case Standstill::None:
+      break;
+    case Standstill::Refused:
+      explanation = explain_keyword(condition.cause.word);
+      explanation.meaning = "The driver stopped the queue at job " +
+                            std::to_string(condition.cause.job) + ": " + condition.cause.word +
+                            ". " + explanation.meaning;
+      break;
+    case Standstill::Policy:
+      explanation.meaning = "The queue's error policy, stop-printer, stopped it at job " +
+                            std::to_string(condition.cause.job) +
+                            ", because the printer could not be reached.";
+      explanation.remedy = "Switch the printer on and check its connection. Then `tqr7 resume " +
+                           condition.queue + "`.";
+      break;
+    case Standstill::ByPerson:
+      explanation.meaning = "A person stopped the queue, or a program that is not this driver.";
+      explanation.remedy = "`cupsenable " + condition.queue +
+                           "` when it is to print again; `tqr7 resume` leaves it alone.";
+      break;
+  }
+  return explanation;
+}
+
+}  // namespace tools

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "tools/queue_choice.h"
+
+#include "tools/plain_text.h"
+
+namespace tools {
+
+QueueChoice choose_queues(const Room& room, const std::vector<std::string>& names) {
+  QueueChoice choice;
+  for (const std::string& name : names) {
+    const Queue* const queue = room.Find(name);
+    if (queue == nullptr) {
+      choice.complaints.push_back("there is no queue " + plain_text(name));
+    } else if (!room.IsOurs(*queue)) {
+      choice.complaints.push_back("the queue " + plain_text(name) + " is not one of this driver's");
+    } else {
+      choice.queues.push_back(queue);
+    }
+  }
+  if (!names.empty()) {
+    return choice;
+  }
+  for (const Queue& queue : room.queues) {
+    if (room.IsOurs(queue)) {
+      choice.queues.push_back(&queue);
+    }
+  }
+  if (choice.queues.empty()) {
+    choice.complaints.emplace_back("there is no queue of this driver's");
+  }
+  return choice;
+}
+
+}  // namespace tools

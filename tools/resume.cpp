@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// tqr7 resume: starts again what the printer brought to a standstill, and nothing that a person
+// stopped.
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tools/exit_status.h"
+#include "tools/interruption.h"
+#include "tools/queue_choice.h"
+#include "tools/resume_actions.h"
+#include "tools/resume_plan.h"
+#include "tools/resume_watch.h"
+#include "tools/scheduler.h"
+#include "tools/subcommands.h"
+
+namespace tools {
+namespace {
+
+struct ResumeOptions {
+  std::vector<std::string> queues;
+  bool watch = false;
+  double interval = 10;  // seconds
+};
+
+int resume_now(const ResumeOptions& options) {
+  Scheduler scheduler;
+  ResumeActions actions(scheduler, false);
+  const std::optional<Room> room = scheduler.Look();
+  if (!room) {
+    actions.Complain("the scheduler does not answer: " + scheduler.Error());
+    return kExitCannotTell;
+  }
+  const QueueChoice choice = choose_queues(*room, options.queues);
+  for (const std::string& complaint : choice.complaints) {
+    actions.Complain(complaint);
+  }
+  bool good = true;
+  for (const Queue* const queue : choice.queues) {
+    const ResumePlan own = plan_resume(*room, {queue}, {});
+    if (!own.HasWork() && own.left.empty()) {
+      actions.Note(queue->name, "runs; nothing to start");
+    }
+    good = good && own.left.empty();
+  }
+  const ResumePlan plan = plan_resume(*room, choice.queues, {});
+  good = actions.Do(plan) && good;
+  actions.SayLeft(plan);
+  if (!choice.complaints.empty()) {
+    return kExitCannotTell;
+  }
+  return good ? kExitGood : kExitNotGood;
+}
+
+int keep_running(const ResumeOptions& options) {
+  const Interruption interruption;
+  Scheduler scheduler;
+  ResumeActions actions(scheduler, true);
+  ResumeWatch watch(scheduler, actions, interruption, options.queues, options.interval);
+  int status = kExitGood;
+  do {
+    status = watch.Step();
+  } while (!interruption.Within(options.interval));
+  return status;
+}
+
+}  // namespace
+
+void add_resume(CLI::App& program, int& status) {
+  const auto options = std::make_shared<ResumeOptions>();
+  CLI::App* const command = program.add_subcommand(
+      "resume", "start again what the printer stopped, and nothing that a person stopped");
+  command->add_option("QUEUE", options->queues, "only these queues and classes");
+  command->add_flag("--watch", options->watch,
+                    "go on: start it whenever the printer is good again, until interrupted");
+  command->add_option("--interval", options->interval, "seconds between two looks of --watch")
+      ->check(CLI::Range(0.1, 86400.0))
+      ->capture_default_str();
+  command->callback([options, &status] {
+    status = options->watch ? keep_running(*options) : resume_now(*options);
+  });
+}
+
+}  // namespace tools

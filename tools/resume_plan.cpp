@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "tools/resume_plan.h"
+
+#include <algorithm>
+
+#include "tools/standstill.h"
+
+namespace tools {
+namespace {
+
+constexpr double kPauseMost = 60;  // seconds
+
+// The scheduler counts a page when it begins, so the first page of a refused job counts.
+bool sheets_may_be_out(const Job& job) {
+  return job.impressions > 1;
+}
+
+void plan_job(const Queue& queue, const Job& job, const ResumeRules& rules, ResumePlan& plan) {
+  if (rules.unattended && !stopped_by_printer(job)) {
+    plan.left.push_back({queue.name, job.id,
+                         "nothing shows that the printer stopped it; `tqr7 resume " + queue.name +
+                             "` starts it all the same"});
+    return;
+  }
+  if (rules.unattended && rules.spent.contains(job.id)) {
+    plan.left.push_back({queue.name, job.id,
+                         "sheets of it came out twice already; `tqr7 resume " + queue.name +
+                             "` prints all of it again"});
+    return;
+  }
+  const bool known = std::any_of(plan.jobs.begin(), plan.jobs.end(),
+                                 [&](const JobToRestart& other) { return other.id == job.id; });
+  if (!known) {
+    plan.jobs.push_back({job.id, queue.name, sheets_may_be_out(job)});
+  }
+}
+
+// A queue that a job of a class has stopped brings that job along.
+void plan_cause(const Room& room, const Cause& cause, const ResumeRules& rules, ResumePlan& plan) {
+  for (const Queue& queue : room.queues) {
+    for (const Job* const job : jobs_in(queue, JobState::Stopped)) {
+      if (queue.isClass && queue.state != QueueState::Stopped && job->id == cause.job) {
+        plan_job(queue, *job, rules, plan);
+      }
+    }
+  }
+}
+
+void plan_queue(const Room& room, const Queue& queue, const ResumeRules& rules, ResumePlan& plan) {
+  const Cause cause = cause_of_standstill(room, queue);
+  if (cause.kind == Standstill::ByPerson) {
+    plan.left.push_back({queue.name, 0,
+                         "a person stopped it, or a program that is not this driver; `cupsenable " +
+                             queue.name + "` starts it"});
+    return;
+  }
+  for (const Job* const job : jobs_in(queue, JobState::Stopped)) {
+    plan_job(queue, *job, rules, plan);
+  }
+  if (cause.kind == Standstill::Refused) {
+    plan_cause(room, cause, rules, plan);
+    plan.queues.push_back({queue.name, "the driver had stopped it: " + cause.word});
+  } else if (cause.kind == Standstill::Policy) {
+    plan.queues.push_back(
+        {queue.name, "its error policy had stopped it: the printer could not be reached"});
+  }
+}
+
+}  // namespace
+
+ResumePlan plan_resume(const Room& room, const std::vector<const Queue*>& queues,
+                       const ResumeRules& rules) {
+  ResumePlan plan;
+  for (const Queue* const queue : queues) {
+    plan_queue(room, *queue, rules, plan);
+  }
+  std::sort(plan.jobs.begin(), plan.jobs.end(),
+            [](const JobToRestart& left, const JobToRestart& right) { return left.id < right.id; });
+  return plan;
+}
+
+double next_pause(double last, double interval) {
+  return std::max(interval, std::min(2 * last, kPauseMost));
+}
+
+}  // namespace tools

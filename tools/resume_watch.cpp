@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "tools/resume_watch.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "tools/condition.h"
+#include "tools/exit_status.h"
+#include "tools/plain_text.h"
+#include "tools/queue_choice.h"
+#include "tools/status_question.h"
+
+namespace tools {
+
+ResumeWatch::ResumeWatch(Scheduler& scheduler, ResumeActions& actions,
+                         const Interruption& interruption, std::vector<std::string> names,
+                         double interval)
+    : scheduler_(scheduler),
+      actions_(actions),
+      interruption_(interruption),
+      names_(std::move(names)),
+      interval_(interval) {
+  rules_.unattended = true;
+}
+
+int ResumeWatch::Step() {
+  const std::optional<Room> room = scheduler_.Look();
+  if (!room) {
+    actions_.Complain("the scheduler does not answer: " + scheduler_.Error());
+    return kExitCannotTell;
+  }
+  const QueueChoice choice = choose_queues(*room, names_);
+  for (const std::string& complaint : choice.complaints) {
+    actions_.Complain(complaint);
+  }
+  for (const Queue* const queue : choice.queues) {
+    StepQueue(*room, *queue);
+  }
+  return choice.complaints.empty() ? StatusOf(*room, choice.queues) : kExitCannotTell;
+}
+
+int ResumeWatch::StatusOf(const Room& room, const std::vector<const Queue*>& queues) const {
+  const ResumePlan plan = plan_resume(room, queues, rules_);
+  return plan.left.empty() && !plan.HasWork() ? kExitGood : kExitNotGood;
+}
+
+void ResumeWatch::StepQueue(const Room& room, const Queue& queue) {
+  const ResumePlan plan = plan_resume(room, {&queue}, rules_);
+  Track& track = tracks_[queue.name];
+  if (!plan.HasWork()) {
+    if (plan.left.empty() && queue.state == QueueState::Idle) {
+      track = {};
+      actions_.Forget(queue.name);
+    }
+    actions_.SayLeft(plan);
+    return;
+  }
+  actions_.SayLeft(plan);
+  if (Clock::now() < track.due) {
+    return;
+  }
+  if (PrinterStillInError(room, queue)) {
+    actions_.Note(queue.name, "waits: the printer is still in error");
+    return;
+  }
+  Attempt(plan, track);
+}
+
+void ResumeWatch::Attempt(const ResumePlan& plan, Track& track) {
+  actions_.Do(plan);
+  for (const JobToRestart& job : plan.jobs) {
+    if (job.begun) {
+      rules_.spent.insert(job.id);
+    }
+  }
+  track.pause = next_pause(track.pause, interval_);
+  track.due = Clock::now() + std::chrono::duration_cast<Clock::duration>(
+                                 std::chrono::duration<double>(track.pause));
+}
+
+// Asks a queue at rest, and a class's members that show a reason. A queue that cannot be asked is
+// tried instead: the driver asks the printer before any paper is spent.
+bool ResumeWatch::PrinterStillInError(const Room& room, const Queue& queue) {
+  if (!queue.isClass) {
+    return Ask(queue);
+  }
+  bool free_member = false;
+  for (const std::string& name : queue.members) {
+    const Queue* const member = room.Find(name);
+    if (member != nullptr && member->state != QueueState::Stopped) {
+      free_member = !has_printer_reason(member->reasons) || !Ask(*member) || free_member;
+    }
+  }
+  return !free_member;
+}
+
+// True when the printer was asked and its reasons stand.
+bool ResumeWatch::Ask(const Queue& queue) {
+  if (queue.state != QueueState::Idle || !can_be_asked(queue)) {
+    return false;
+  }
+  const std::string why_not = ask_printer(scheduler_, queue, interruption_);
+  if (!why_not.empty()) {
+    actions_.Complain("the printer of " + plain_text(queue.name) + " was not asked: " + why_not);
+    return false;
+  }
+  const std::optional<Room> now = scheduler_.Look();
+  const Queue* const asked = now ? now->Find(queue.name) : nullptr;
+  return asked != nullptr && has_printer_reason(asked->reasons);
+}
+
+}  // namespace tools

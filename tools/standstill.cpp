@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "tools/standstill.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <tuple>
+
+namespace tools {
+namespace {
+
+constexpr std::array<std::string_view, 5> kRefusals = {"pagesize-inkribbon-unmuch",
+                                                       "driver-setting-unmuch", "out-of-range",
+                                                       "memory-timeout", "protocol-error"};
+
+// What the programs of a print job leave as the queue's message when they end. Other words may be
+// a person's.
+constexpr std::array<std::string_view, 9> kWordsOfPrograms = {
+    "Waiting for printer to finish.",
+    "Unable to send raster data to the driver.",
+    "Sending data to printer.",
+    "Filter failed",
+    "The printer is not responding.",
+    "The printer is unreachable at this time.",
+    "The printer may not exist or is unavailable at this time.",
+    "Connected to printer.",
+    "The printer is now connected.",
+};
+
+constexpr std::array<std::string_view, 5> kWordsOfFailedBackends = {
+    "The printer is not responding.",
+    "The printer is unreachable at this time.",
+    "The printer may not exist or is unavailable at this time.",
+    "Unable to write print data",
+    "Unable to locate printer",
+};
+
+bool is_progress(std::string_view message) {
+  return message.starts_with("Printing page ") && message.ends_with("% complete...");
+}
+
+bool is_of_programs(const std::string& message) {
+  return std::find(kWordsOfPrograms.begin(), kWordsOfPrograms.end(), message) !=
+             kWordsOfPrograms.end() ||
+         message.starts_with("Unable to write print data") ||
+         message.starts_with("Printer stopped due to backend errors") || is_progress(message) ||
+         !refusal_word(message).empty();
+}
+
+bool shows_refusal(const Job& job) {
+  return job.state == JobState::Stopped && contains(job.printerReasons, "paused") &&
+         !refusal_word(job.printerMessage).empty();
+}
+
+bool shows_failed_backend(const Job& job) {
+  return job.state == JobState::Pending && job.processingSince > 0 &&
+         contains(job.reasons, "printer-stopped") && contains(job.printerReasons, "paused") &&
+         std::any_of(kWordsOfFailedBackends.begin(), kWordsOfFailedBackends.end(),
+                     [&](std::string_view words) { return job.printerMessage.starts_with(words); });
+}
+
+bool is_class_of(const Queue& group, const Queue& member) {
+  return group.isClass && contains(group.members, member.name);
+}
+
+// The job that ran last on the queue. Of a class's jobs only those count that show a refusal: which
+// member a job ran on is not told.
+const Job* last_job(const Room& room, const Queue& queue) {
+  const Job* last = nullptr;
+  const auto look_at = [&](const Job& job) {
+    const bool ran = job.processingSince > 0 && job.processingSince <= queue.changedAt;
+    if (ran && (last == nullptr || std::tie(job.processingSince, job.id) >
+                                       std::tie(last->processingSince, last->id))) {
+      last = &job;
+    }
+  };
+  for (const Job& job : queue.jobs) {
+    look_at(job);
+  }
+  for (const Queue& group : room.queues) {
+    for (const Job& job : group.jobs) {
+      if (is_class_of(group, queue) && shows_refusal(job)) {
+        look_at(job);
+      }
+    }
+  }
+  return last;
+}
+
+}  // namespace
+
+std::string refusal_word(const std::string& message) {
+  for (const std::string_view word : kRefusals) {
+    if (!message.starts_with(word) || message.compare(word.size(), 3, " 0x") != 0) {
+      continue;
+    }
+    const std::string_view digits = std::string_view(message).substr(word.size() + 3);
+    const bool number = digits.size() >= 4 && digits.size() <= 8 &&
+                        digits.find_first_not_of("0123456789abcdef") == std::string_view::npos;
+    return number ? std::string(word) : std::string();
+  }
+  return {};
+}
+
+bool stopped_by_printer(const Job& job) {
+  return has_printer_reason(job.printerReasons) || !refusal_word(job.printerMessage).empty();
+}
+
+Cause cause_of_standstill(const Room& room, const Queue& queue) {
+  if (queue.state != QueueState::Stopped) {
+    return {};
+  }
+  const Job* const job = last_job(room, queue);
+  const bool touched = queue.isClass || contains(queue.reasons, "hold-new-jobs") ||
+                       !is_of_programs(queue.message) || job == nullptr;
+  if (!touched && shows_refusal(*job)) {
+    return {Standstill::Refused, job->id, refusal_word(job->printerMessage)};
+  }
+  if (!touched && queue.errorPolicy == "stop-printer" && shows_failed_backend(*job)) {
+    return {Standstill::Policy, job->id, {}};
+  }
+  return {Standstill::ByPerson, 0, {}};
+}
+
+}  // namespace tools

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// tqr7 status: what stands with each queue, in words with a remedy.
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tools/condition.h"
+#include "tools/exit_status.h"
+#include "tools/interruption.h"
+#include "tools/plain_text.h"
+#include "tools/queue_choice.h"
+#include "tools/scheduler.h"
+#include "tools/status_question.h"
+#include "tools/subcommands.h"
+
+namespace tools {
+namespace {
+
+struct StatusOptions {
+  std::vector<std::string> queues;
+  bool watch = false;
+  double interval = 2;  // seconds
+  bool json = false;
+  bool ask = false;
+};
+
+// What one look found: for standard output, for standard error, and the exit status.
+struct Finding {
+  std::string said;
+  std::string complaints;
+  int status = kExitCannotTell;
+
+  bool operator==(const Finding&) const = default;
+};
+
+void complain(Finding& finding, const std::string& sentence) {
+  finding.complaints += "tqr7 status: " + sentence + "\n";
+}
+
+Finding describe(const Room& room, const StatusOptions& options) {
+  Finding finding;
+  const QueueChoice choice = choose_queues(room, options.queues);
+  std::vector<Condition> conditions;
+  bool good = true;
+  for (const Queue* const queue : choice.queues) {
+    conditions.push_back(condition_of(room, *queue));
+    good = good && conditions.back().IsGood();
+    finding.said += options.json ? "" : in_words(conditions.back());
+  }
+  if (options.json) {
+    finding.said = as_json(conditions, options.watch);
+  }
+  for (const std::string& sentence : choice.complaints) {
+    complain(finding, sentence);
+  }
+  if (choice.complaints.empty()) {
+    finding.status = good ? kExitGood : kExitNotGood;
+  }
+  return finding;
+}
+
+Finding look(Scheduler& scheduler, const StatusOptions& options) {
+  if (const std::optional<Room> room = scheduler.Look()) {
+    return describe(*room, options);
+  }
+  Finding finding;
+  complain(finding, "the scheduler does not answer: " + scheduler.Error());
+  return finding;
+}
+
+void say(const Finding& finding) {
+  std::fputs(finding.said.c_str(), stdout);
+  std::fflush(stdout);
+  std::fputs(finding.complaints.c_str(), stderr);
+}
+
+void ask_queues(Scheduler& scheduler, const StatusOptions& options,
+                const Interruption& interruption) {
+  const std::optional<Room> room = scheduler.Look();
+  if (!room) {
+    return;  // the look that follows says so
+  }
+  for (const Queue* const queue : choose_queues(*room, options.queues).queues) {
+    if (queue->isClass) {
+      continue;  // its members are asked
+    }
+    const std::string why_not = ask_printer(scheduler, *queue, interruption);
+    if (!why_not.empty()) {
+      std::fprintf(stderr, "tqr7 status: the printer of %s was not asked: %s\n",
+                   plain_text(queue->name).c_str(), why_not.c_str());
+    }
+  }
+}
+
+int show_status(const StatusOptions& options) {
+  const Interruption interruption;
+  Scheduler scheduler;
+  if (options.ask) {
+    ask_queues(scheduler, options, interruption);
+  }
+  Finding last = look(scheduler, options);
+  say(last);
+  while (options.watch && !interruption.Within(options.interval)) {
+    Finding now = look(scheduler, options);
+    if (!(now == last)) {
+      say(now);
+    }
+    last = std::move(now);
+  }
+  return last.status;
+}
+
+}  // namespace
+
+void add_status(CLI::App& program, int& status) {
+  const auto options = std::make_shared<StatusOptions>();
+  CLI::App* const command =
+      program.add_subcommand("status", "say what stands with each queue, and what to do about it");
+  command->add_option("QUEUE", options->queues, "only these queues and classes");
+  command->add_flag("--watch", options->watch,
+                    "say it again whenever something changes, until interrupted");
+  command->add_option("--interval", options->interval, "seconds between two looks of --watch")
+      ->check(CLI::Range(0.1, 86400.0))
+      ->capture_default_str();
+  command->add_flag("--json", options->json, "for programs; with --watch a line each time");
+  command->add_flag("--ask", options->ask, "have each printer asked for its state first");
+  command->callback([options, &status] { status = show_status(*options); });
+}
+
+}  // namespace tools
