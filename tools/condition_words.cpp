@@ -12,7 +12,8 @@ std::string list(const std::vector<int>& numbers) {
   constexpr std::size_t kListedMost = 10;
   std::string text;
   for (std::size_t i = 0; i < numbers.size() && i < kListedMost; ++i) {
-    text += (i == 0 ? "" : ", ") + std::to_string(numbers[i]);
+    text += i == 0 ? "" : ", ";
+    text += std::to_string(numbers[i]);
   }
   return numbers.size() > kListedMost ? text + ", …" : text;
 }

@@ -73,6 +73,7 @@ void add_resume(CLI::App& program, int& status) {
   const auto options = std::make_shared<ResumeOptions>();
   CLI::App* const command = program.add_subcommand(
       "resume", "start again what the printer stopped, and nothing that a person stopped");
+  command->get_option("--help")->description("say this and end");
   command->add_option("QUEUE", options->queues, "only these queues and classes");
   command->add_flag("--watch", options->watch,
                     "go on: start it whenever the printer is good again, until interrupted");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tools/scheduler.h"
 
+#include <cups/ppd.h>
 #include <sys/socket.h>
 
 #include <array>
@@ -232,6 +233,15 @@ Outcome Scheduler::GetFile(const std::string& resource, int descriptor) {
   const bool denied = status == HTTP_STATUS_FORBIDDEN || status == HTTP_STATUS_UNAUTHORIZED ||
                       status == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
   return denied ? Outcome::Forbidden : Outcome::Failed;
+}
+
+std::string Scheduler::CopyPpd(const std::string& queue) {
+  http_t* const http = Connection();
+  std::array<char, 1024> path{};
+  time_t modified = 0;
+  const bool there = http != nullptr && cupsGetPPD3(http, queue.c_str(), &modified, path.data(),
+                                                    path.size()) == HTTP_STATUS_OK;
+  return there ? path.data() : "";
 }
 
 }  // namespace tools

@@ -57,6 +57,9 @@ class Scheduler {
   /// Gets a file of the scheduler's, such as "/admin/log/error_log", into an open descriptor.
   Outcome GetFile(const std::string& resource, int descriptor);
 
+  /// A copy of the queue's PPD, for the caller to remove; empty when there is none.
+  std::string CopyPpd(const std::string& queue);
+
   /// The words for what failed last, fit for a terminal.
   std::string Error() const { return error_; }
 

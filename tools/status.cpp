@@ -119,6 +119,7 @@ void add_status(CLI::App& program, int& status) {
   const auto options = std::make_shared<StatusOptions>();
   CLI::App* const command =
       program.add_subcommand("status", "say what stands with each queue, and what to do about it");
+  command->get_option("--help")->description("say this and end");
   command->add_option("QUEUE", options->queues, "only these queues and classes");
   command->add_flag("--watch", options->watch,
                     "say it again whenever something changes, until interrupted");

@@ -23,6 +23,7 @@ int run(int argc, char** argv) {
   tools::add_explain(program, status);
   tools::add_status(program, status);
   tools::add_resume(program, status);
+  tools::add_report(program, status);
   try {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

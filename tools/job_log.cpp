@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "tools/job_log.h"
+
+#include <algorithm>
+#include <array>
+
+#include "tools/plain_text.h"
+
+namespace tools {
+namespace {
+
+constexpr std::size_t kLineMost = 2048;        // bytes; the scheduler writes no longer ones
+constexpr std::size_t kTextMost = 16U << 20U;  // bytes that are kept of one job
+
+// What of a filter's surroundings is no matter of the person's or the machine's.
+constexpr std::array<std::string_view, 10> kSurroundings = {"CHARSET",
+                                                            "CONTENT_TYPE",
+                                                            "CUPS_DATADIR",
+                                                            "CUPS_FILETYPE",
+                                                            "CUPS_MAX_MESSAGE",
+                                                            "CUPS_SERVERBIN",
+                                                            "LANG",
+                                                            "SOFTWARE",
+                                                            "PRINTER_STATE_REASONS",
+                                                            "FINAL_CONTENT_TYPE"};
+
+bool is_kept_surrounding(std::string_view text) {
+  const std::size_t quote = text.find('"');
+  const std::size_t equals = text.find('=', quote);
+  if (quote == std::string_view::npos || equals == std::string_view::npos) {
+    return false;
+  }
+  const std::string_view name = text.substr(quote + 1, equals - quote - 1);
+  return std::find(kSurroundings.begin(), kSurroundings.end(), name) != kSurroundings.end();
+}
+
+// A line that quotes a person's words whole, in its own wording; empty for a line left out.
+std::string without_quotations(std::string_view text) {
+  if (text.starts_with("envp[")) {
+    return is_kept_surrounding(text) ? std::string(text) : std::string();
+  }
+  for (const std::string_view argument : {"argv[2]", "argv[3]", "argv[5]"}) {
+    if (text.starts_with(argument)) {
+      return std::string(argument) + "=(left out)";
+    }
+  }
+  for (const std::string_view connect : {"Connecting to ", "Connected to "}) {
+    const std::size_t colon = text.rfind(':');
+    if (text.starts_with(connect) && colon != std::string_view::npos) {
+      return std::string(connect) + "(address)" + std::string(text.substr(colon));
+    }
+  }
+  for (const std::string_view begin : {"Queued on ", "File of type "}) {
+    const std::size_t by = text.rfind(" by \"");
+    if (text.starts_with(begin) && by != std::string_view::npos) {
+      return std::string(text.substr(0, by)) + " by (user).";
+    }
+  }
+  return std::string(text);
+}
+
+bool is_exchange(std::string_view text) {
+  return text.starts_with("[CMD]") || text.starts_with("[STS]") ||
+         text.starts_with("CUPS_SC_CMD_") || text.starts_with("CMD_GET_ENABLE") ||
+         text.starts_with("=======> printer_state");
+}
+
+}  // namespace
+
+JobLog::JobLog(int job, const PersonalWords& words)
+    : mark_("[Job " + std::to_string(job) + "] "), words_(words) {}
+
+void JobLog::Take(std::string_view line) {
+  // "D [21/Nov/2026:10:08:13 +0000] [Job 1] …": the mark stands right behind the time.
+  const std::size_t time = line.find("] ");
+  if (time == std::string_view::npos || !line.substr(time + 2).starts_with(mark_)) {
+    return;
+  }
+  const std::string head(line.substr(0, time + 2));
+  const std::string text = without_quotations(line.substr(time + 2 + mark_.size()));
+  if (text.empty() || lines_.size() > kTextMost) {
+    return;
+  }
+  const std::string plain = plain_text(words_.Without(text), kLineMost);
+  debug_ = debug_ || line.front() == 'D' || line.front() == 'd';
+  lines_ += plain_text(head) + mark_ + plain + "\n";
+  if (is_exchange(plain)) {
+    exchanges_ += plain + "\n";
+  }
+}
+
+}  // namespace tools

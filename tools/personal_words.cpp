@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "tools/personal_words.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace tools {
+namespace {
+
+constexpr std::size_t kTitleLeast = 4;  // bytes
+
+// With a backslash before each of these letters.
+std::string escaped(std::string_view text, std::string_view letters) {
+  std::string result;
+  for (const char letter : text) {
+    if (letters.find(letter) != std::string_view::npos) {
+      result += '\\';
+    }
+    result += letter;
+  }
+  return result;
+}
+
+bool is_of_word(char letter) {
+  return std::isalnum(static_cast<unsigned char>(letter)) != 0 || letter == '_' ||
+         static_cast<unsigned char>(letter) >= 0x80;
+}
+
+bool stands_as_word(const std::string& text, std::size_t at, std::size_t length) {
+  const bool before = at > 0 && is_of_word(text[at - 1]);
+  const bool behind = at + length < text.size() && is_of_word(text[at + length]);
+  return !before && !behind;
+}
+
+void replace(std::string& text, const std::string& word, const std::string& replacement,
+             bool anywhere) {
+  for (std::size_t at = text.find(word); at != std::string::npos; at = text.find(word, at)) {
+    if (anywhere || stands_as_word(text, at, word.size())) {
+      text.replace(at, word.size(), replacement);
+      at += replacement.size();
+    } else {
+      ++at;
+    }
+  }
+}
+
+bool is_digit(char letter) {
+  return letter >= '0' && letter <= '9';
+}
+
+// The length of four numbers with dots between them at that place, or 0.
+std::size_t address_at(std::string_view text) {
+  std::size_t length = 0;
+  for (int number = 0; number < 4; ++number) {
+    if (number > 0 && (length >= text.size() || text[length++] != '.')) {
+      return 0;
+    }
+    const std::size_t begin = length;
+    while (length < text.size() && is_digit(text[length]) && length - begin < 3) {
+      ++length;
+    }
+    if (length == begin) {
+      return 0;
+    }
+  }
+  return length < text.size() && (is_digit(text[length]) || text[length] == '.') ? 0 : length;
+}
+
+// Debug lines end some addresses with "...": an address may be followed by that.
+std::string without_addresses(const std::string& text) {
+  std::string result;
+  for (std::size_t at = 0; at < text.size();) {
+    const bool begins = at == 0 || (!is_digit(text[at - 1]) && text[at - 1] != '.');
+    const std::size_t length = begins ? address_at(std::string_view(text).substr(at)) : 0;
+    if (length == 0) {
+      result += text[at++];
+    } else {
+      result += "(address)";
+      at += length;
+    }
+  }
+  return result;
+}
+
+}  // namespace
+
+void PersonalWords::Add(Word word) {
+  const auto shorter = [&](const Word& other) { return other.word.size() < word.word.size(); };
+  words_.insert(std::find_if(words_.begin(), words_.end(), shorter), std::move(word));
+}
+
+void PersonalWords::AddTitle(std::string_view title) {
+  if (title.size() < kTitleLeast) {
+    return;
+  }
+  for (const std::string_view letters : {"", "\"\\", "\"'\\", " \"'\\", " \"'\\\t{}<>"}) {
+    Add({escaped(title, letters), "(title)", true});
+  }
+  const std::string once = escaped(title, "\"'\\");
+  Add({escaped(once, "\"'\\"), "(title)", true});
+}
+
+void PersonalWords::AddName(std::string_view name, std::string_view replacement) {
+  if (!name.empty()) {
+    Add({std::string(name), std::string(replacement), false});
+  }
+}
+
+std::string PersonalWords::Without(std::string text) const {
+  for (const Word& word : words_) {
+    replace(text, word.word, word.replacement, word.anywhere);
+  }
+  return without_addresses(text);
+}
+
+}  // namespace tools

@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// tqr7 report: a bundle for a bug report, with all that is needed to find a fault and without what
+// is personal: no picture, no titles, no names.
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <fstream>
+#include <memory>
+#include <optional>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "tools/bundle.h"
+#include "tools/byte_source.h"
+#include "tools/condition.h"
+#include "tools/exit_status.h"
+#include "tools/header_blocks.h"
+#include "tools/job_log.h"
+#include "tools/plain_text.h"
+#include "tools/queue_choice.h"
+#include "tools/report_texts.h"
+#include "tools/scheduler.h"
+#include "tools/subcommands.h"
+
+namespace tools {
+namespace {
+
+struct ReportOptions {
+  std::string job;
+  std::string output;
+  std::string log;
+  std::string stream;
+};
+
+// What the report is on.
+struct Subject {
+  const Queue* queue = nullptr;
+  int job = 0;
+};
+
+constexpr char kHowToDebug[] =
+    "Lines of the level debug come once `cupsctl --debug-logging` was said; print again, then make "
+    "the report again. `cupsctl --no-debug-logging` ends it.\n";
+
+void complain(const std::string& sentence) {
+  std::fprintf(stderr, "tqr7 report: %s\n", sentence.c_str());
+}
+
+// "12" or "photo-12"; 0 when there is no number.
+int job_number(const std::string& text) {
+  const std::size_t dash = text.rfind('-');
+  const char* const begin = text.c_str() + (dash == std::string::npos ? 0 : dash + 1);
+  const char* const end = text.c_str() + text.size();
+  int number = 0;
+  const auto [stop, error] = std::from_chars(begin, end, number);
+  return error == std::errc{} && stop == end && number > 0 ? number : 0;
+}
+
+// The job with that number, or, without one, the one that ran last.
+Subject find_subject(const std::vector<const Queue*>& queues, int number) {
+  Subject subject;
+  std::tuple<std::int64_t, int> last{-1, 0};
+  for (const Queue* const queue : queues) {
+    for (const Job& job : queue->jobs) {
+      const std::tuple<std::int64_t, int> time{job.processingSince, job.id};
+      const bool wanted = number > 0 ? job.id == number : !is_command(job) && time > last;
+      if (wanted) {
+        subject = {queue, job.id};
+        last = time;
+      }
+    }
+  }
+  return subject;
+}
+
+std::string machine_name() {
+  std::array<char, 256> name{};
+  return gethostname(name.data(), name.size() - 1) == 0 ? name.data() : "";
+}
+
+PersonalWords personal_words(const Queue& queue, ipp_t* job) {
+  PersonalWords words;
+  for (ipp_attribute_t* attribute = ippFirstAttribute(job); attribute != nullptr;
+       attribute = ippNextAttribute(job)) {
+    const std::string name = ippGetName(attribute) != nullptr ? ippGetName(attribute) : "";
+    const char* const text = ippGetString(attribute, 0, nullptr);
+    if (text == nullptr) {
+      continue;
+    }
+    if (name == "job-name" || name.starts_with("document-name")) {
+      words.AddTitle(text);
+    } else if (name == "job-originating-user-name") {
+      words.AddName(text, "(user)");
+    } else if (name == "job-originating-host-name") {
+      words.AddName(text, "(host)");
+    }
+  }
+  words.AddName(cupsUser(), "(user)");
+  words.AddName(machine_name(), "(host)");
+  std::array<char, 256> parts[3] = {};
+  std::array<char, 1024> resource{};
+  int port = 0;
+  httpSeparateURI(HTTP_URI_CODING_ALL, queue.deviceUri.c_str(), parts[0].data(), 256,
+                  parts[1].data(), 256, parts[2].data(), 256, &port, resource.data(), 1024);
+  words.AddName(parts[2].data(), "(printer)");
+  return words;
+}
+
+// A whole log, line by line; false when it cannot be read.
+bool take_file(const std::string& path, JobLog& log) {
+  std::ifstream file(path, std::ios::binary);
+  for (std::string line; std::getline(file, line);) {
+    log.Take(line);
+  }
+  return file.eof();
+}
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+// The scheduler's own log, over its web port. Empty when it was read, else why not.
+std::string take_scheduler_log(Scheduler& scheduler, JobLog& log) {
+  const std::unique_ptr<std::FILE, CloseFile> file(std::tmpfile());
+  if (file == nullptr) {
+    return "no temporary file can be made";
+  }
+  const Outcome outcome = scheduler.GetFile("/admin/log/error_log", fileno(file.get()));
+  if (outcome != Outcome::Done) {
+    return outcome == Outcome::Forbidden ? "you have no right to read it" : scheduler.Error();
+  }
+  std::rewind(file.get());
+  std::string line;
+  for (int letter = std::fgetc(file.get()); letter != EOF; letter = std::fgetc(file.get())) {
+    if (letter == '\n') {
+      log.Take(line);
+      line.clear();
+    } else {
+      line += static_cast<char>(letter);
+    }
+  }
+  log.Take(line);
+  return {};
+}
+
+std::string take_log(Scheduler& scheduler, const ReportOptions& options, JobLog& log) {
+  if (options.log.empty()) {
+    return take_scheduler_log(scheduler, log);
+  }
+  return take_file(options.log, log) ? "" : "the file cannot be read";
+}
+
+void add_log(Scheduler& scheduler, const ReportOptions& options, JobLog& log,
+             std::vector<BundleFile>& files) {
+  std::string note;
+  const std::string why_not = take_log(scheduler, options, log);
+  if (!why_not.empty()) {
+    note = "The log could not be read: " + why_not +
+           ". Make the report as root, or name the log: --log /var/log/cups/error_log\n";
+  } else if (log.Lines().empty()) {
+    note = "The log holds no lines of this job. " + std::string(kHowToDebug);
+  } else if (!log.HasDebugLines()) {
+    note = "The log holds no lines of the level debug on this job. " + std::string(kHowToDebug);
+  }
+  if (!note.empty()) {
+    complain(note.substr(0, note.size() - 1));
+  }
+  files.push_back({"log.txt", note + log.Lines()});
+  files.push_back({"exchanges.txt", note + log.Exchanges()});
+}
+
+bool add_stream(const ReportOptions& options, std::vector<BundleFile>& files) {
+  if (options.stream.empty()) {
+    return true;
+  }
+  HeaderBlocks blocks;
+  const std::string why_not =
+      for_each_piece(options.stream, [&](auto bytes) { blocks.Feed(bytes); });
+  if (!why_not.empty()) {
+    complain(plain_text(options.stream) + ": " + why_not);
+    return false;
+  }
+  blocks.Finish();
+  files.push_back({"stream.txt", blocks.Text()});
+  return true;
+}
+
+std::string readme(const Subject& subject, bool withStream) {
+  return "A report of tqr7 on job " + std::to_string(subject.job) +
+         ", to find a fault by.\n\n"
+         "versions.txt   of the tool, of CUPS and of the system\n"
+         "status.txt     what tqr7 status says of the queue\n"
+         "queue.txt      the queue's attributes, as far as they bear on printing\n"
+         "ppd.txt        the options of the queue's PPD, with their defaults\n"
+         "job.txt        the job's attributes and options\n"
+         "log.txt        the job's lines of the scheduler's error log\n"
+         "exchanges.txt  of these, the commands to the printer and its answers, in hexadecimal\n" +
+         std::string(withStream ? "stream.txt     the commands of the captured stream, without "
+                                  "image and matte data\n"
+                                : "") +
+         "\nThe picture is not in it, nor any part of it. The job's title, the names of "
+         "documents,\n"
+         "the user's name, the names of machines and numeric network addresses were left out or\n"
+         "replaced, such as by (title). Whoever sends the report looks it through before.\n";
+}
+
+// The name of a class's member stands for the class: it has the PPD.
+std::string queue_with_ppd(const Room& room, const Queue& queue) {
+  for (const std::string& name : queue.members) {
+    const Queue* const member = room.Find(name);
+    if (member != nullptr && room.IsOurs(*member)) {
+      return name;
+    }
+  }
+  return queue.name;
+}
+
+PpdText read_ppd(Scheduler& scheduler, const std::string& queue) {
+  const std::string path = scheduler.CopyPpd(queue);
+  PpdText ppd = path.empty() ? PpdText{"The PPD could not be read.\n", {}} : ppd_text(path);
+  if (!path.empty()) {
+    std::remove(path.c_str());
+  }
+  return ppd;
+}
+
+int write_report(Scheduler& scheduler, const Room& room, const Subject& subject,
+                 const ReportOptions& options) {
+  const Response queue = scheduler.QueueAttributes(subject.queue->name);
+  const Response job = scheduler.JobAttributes(subject.job);
+  if (queue == nullptr || job == nullptr) {
+    complain("the scheduler does not tell of the job: " + scheduler.Error());
+    return kExitCannotTell;
+  }
+  const PersonalWords words = personal_words(*subject.queue, job.get());
+  const PpdText ppd = read_ppd(scheduler, queue_with_ppd(room, *subject.queue));
+  const auto told = [&](const std::string& text) { return words.Without(text); };
+
+  std::vector<BundleFile> files = {
+      {"README.txt", readme(subject, !options.stream.empty())},
+      {"versions.txt", versions_text(TQR7_VERSION, text_attribute(queue.get(), "cups-version"))},
+      {"status.txt", told(in_words(condition_of(room, *subject.queue)))},
+      {"queue.txt", told(queue_text(queue.get()))},
+      {"ppd.txt", told(ppd.text)},
+      {"job.txt", told(job_text(job.get(), ppd.options))}};
+  JobLog log(subject.job, words);
+  add_log(scheduler, options, log, files);
+  if (!add_stream(options, files)) {
+    return kExitCannotTell;
+  }
+  const std::string name =
+      "tqr7-report-" + file_name_of(subject.queue->name) + "-" + std::to_string(subject.job);
+  const std::string path = options.output.empty() ? name + ".tar.gz" : options.output;
+  const std::string why_not = write_bundle(path, name, files);
+  if (!why_not.empty()) {
+    complain(plain_text(path) + ": " + plain_text(why_not));
+    return kExitCannotTell;
+  }
+  std::printf("%s\n", plain_text(path).c_str());
+  return kExitGood;
+}
+
+int report(const ReportOptions& options) {
+  Scheduler scheduler;
+  const std::optional<Room> room = scheduler.Look();
+  if (!room) {
+    complain("the scheduler does not answer: " + scheduler.Error());
+    return kExitCannotTell;
+  }
+  const int number = options.job.empty() ? 0 : job_number(options.job);
+  if (number == 0 && !options.job.empty()) {
+    complain("\"" + plain_text(options.job) + "\" is not the number of a job");
+    return kExitCannotTell;
+  }
+  const Subject subject = find_subject(choose_queues(*room, {}).queues, number);
+  if (subject.queue == nullptr) {
+    complain(number > 0 ? "no queue of this driver's has a job " + std::to_string(number)
+                        : "no queue of this driver's has had a job");
+    return kExitCannotTell;
+  }
+  return write_report(scheduler, *room, subject, options);
+}
+
+}  // namespace
+
+void add_report(CLI::App& program, int& status) {
+  const auto options = std::make_shared<ReportOptions>();
+  CLI::App* const command = program.add_subcommand(
+      "report", "gather what a bug report needs, without the picture and without names");
+  command->get_option("--help")->description("say this and end");
+  command->add_option("JOB", options->job, "the job, such as 12 or photo-12; without: the last");
+  command->add_option("-o,--output", options->output, "the file that is written, a .tar.gz");
+  command->add_option("--log", options->log,
+                      "the scheduler's error log, where it does not hand it out itself");
+  command->add_option("--stream", options->stream,
+                      "a captured command stream, of which the headers are taken");
+  command->callback([options, &status] { status = report(*options); });
+}
+
+}  // namespace tools
