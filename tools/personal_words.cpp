@@ -63,10 +63,13 @@ std::size_t address_at(std::string_view text) {
       return 0;
     }
   }
-  return length < text.size() && (is_digit(text[length]) || text[length] == '.') ? 0 : length;
+  const std::string_view behind = text.substr(length);
+  const bool goes_on =
+      !behind.empty() &&
+      (is_digit(behind[0]) || (behind[0] == '.' && behind.size() > 1 && is_digit(behind[1])));
+  return goes_on ? 0 : length;
 }
 
-// Debug lines end some addresses with "...": an address may be followed by that.
 std::string without_addresses(const std::string& text) {
   std::string result;
   for (std::size_t at = 0; at < text.size();) {
