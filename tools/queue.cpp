@@ -89,7 +89,7 @@ bool is_command(const Job& job) {
 std::vector<const Job*> jobs_in(const Queue& queue, JobState state) {
   std::vector<const Job*> jobs;
   for (const Job& job : queue.jobs) {
-    if (job.state == state && !is_command(job)) {
+    if (job.state == state) {
       jobs.push_back(&job);
     }
   }

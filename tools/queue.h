@@ -84,10 +84,10 @@ bool has_printer_reason(const std::vector<std::string>& reasons);
 /// shows.
 bool is_harmless(std::string_view reason);
 
-/// A job that asks the printer something; nobody waits for its paper.
+/// A job of printer commands, such as a test page, and not of pictures.
 bool is_command(const Job& job);
 
-/// The queue's jobs in that state that are no commands.
+/// The queue's jobs in that state.
 std::vector<const Job*> jobs_in(const Queue& queue, JobState state);
 
 }  // namespace tools

@@ -88,11 +88,11 @@ TEST(ResumePlan, TouchesNoHeldCancelledAbortedOrPrintedJob) {
   EXPECT_FALSE(plan_all({{queue}}).HasWork());
 }
 
-TEST(ResumePlan, TouchesNoCommand) {
+TEST(ResumePlan, StartsAStoppedTestPageToo) {
   Queue queue = idle_queue("photo");
   queue.jobs = {failed_job(3)};
   queue.jobs.front().format = "application/vnd.cups-command";
-  EXPECT_FALSE(plan_all({{queue}}).HasWork());
+  EXPECT_THAT(jobs_of(plan_all({{queue}})), ElementsAre(3));
 }
 
 TEST(ResumePlan, TellsOfAJobWhoseSheetsMayComeAgain) {
