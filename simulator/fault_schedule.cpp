@@ -83,6 +83,7 @@ void FaultSchedule::SetScript(const std::vector<FaultRule>& rules) {
   }
   std::erase_if(entries_, [](const Entry& entry) { return entry.fromScript; });
   std::vector<Entry> made;
+  made.reserve(rules.size());
   for (const FaultRule& rule : rules) {
     made.push_back(Made(rule, true));
   }

@@ -64,7 +64,7 @@ std::vector<FaultRule> short_forms(const FaultSources& sources) {
 
 std::string reload_script(const std::string& path, FaultSchedule& schedule) {
   std::string text;
-  if (const std::string why = read_file(path, text); !why.empty()) {
+  if (std::string why = read_file(path, text); !why.empty()) {
     return why;
   }
   const Script script = read_script(text);
@@ -84,7 +84,7 @@ std::string load_faults(const FaultSources& sources, FaultSchedule& schedule) {
     schedule.Add(rule.rules);
   }
   if (!sources.script.empty()) {
-    if (const std::string why = reload_script(sources.script, schedule); !why.empty()) {
+    if (std::string why = reload_script(sources.script, schedule); !why.empty()) {
       return why;
     }
   }

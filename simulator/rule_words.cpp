@@ -22,7 +22,7 @@ std::string quoted(std::string_view word) {
   std::string text = "\"";
   for (const char character : word.substr(0, kShownMost)) {
     const auto byte = static_cast<unsigned char>(character);
-    if (byte >= 0x20 && byte != 0x7F && character != '"' && character != '\\') {
+    if (byte >= 0x20 && byte < 0x7F && character != '"' && character != '\\') {
       text += character;
       continue;
     }

@@ -280,8 +280,8 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Bytes, WrongRule,
     testing::Values(
-        Wrong{"cover \x1B[2J\"\\", 7,
-              "came \"\\x1B[2J\\x22\\x5C\", expected a number from 1 to 65535"},
+        Wrong{"cover \x1B[2J\"\\\x9B", 7,
+              "came \"\\x1B[2J\\x22\\x5C\\x9B\", expected a number from 1 to 65535"},
         Wrong{"cover 0123456789012345678901234567890123456789x", 7,
               "came \"0123456789012345678901234567890123456789...\", expected a number from 1 to "
               "65535"}));
