@@ -66,6 +66,13 @@ Explanation explain_standstill(const Condition& condition) {
     case Standstill::None:
       break;
     case Standstill::Refused:
+      if (condition.cause.word.empty()) {
+        explanation.meaning = "The driver stopped the queue at job " +
+                              std::to_string(condition.cause.job) +
+                              ": the printer refused a sheet. The scheduler's log has the word.";
+        explanation.remedy = "See to the printer, then `tqr7 resume " + condition.queue + "`.";
+        break;
+      }
       explanation = explain_keyword(condition.cause.word);
       explanation.meaning = "The driver stopped the queue at job " +
                             std::to_string(condition.cause.job) + ": " + condition.cause.word +

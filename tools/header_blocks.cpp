@@ -20,9 +20,11 @@ std::string hexadecimal(unsigned value, int digits) {
 }
 
 std::string line_of(std::size_t offset, std::span<const std::uint8_t> bytes) {
-  std::string line = "  " + hexadecimal(static_cast<unsigned>(offset), 4) + ":";
+  std::string line = "  ";
+  line += hexadecimal(static_cast<unsigned>(offset), 4) + ":";
   for (const std::uint8_t byte : bytes) {
-    line += " " + hexadecimal(byte, 2);
+    line += " ";
+    line += hexadecimal(byte, 2);
   }
   return line + "\n";
 }

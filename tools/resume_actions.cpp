@@ -46,8 +46,7 @@ bool ResumeActions::Report(const std::string& queue, const std::string& deed, Ou
 bool ResumeActions::Do(const ResumePlan& plan) {
   bool done = true;
   for (const JobToRestart& job : plan.jobs) {
-    const std::string deed = "job " + std::to_string(job.id) + " started again" +
-                             (job.begun ? ", from its first sheet" : "");
+    const std::string deed = "job " + std::to_string(job.id) + " started again from its beginning";
     done = Report(job.queue, deed, scheduler_.RestartJob(job.id)) && done;
   }
   for (const QueueToStart& queue : plan.queues) {

@@ -10,9 +10,11 @@ namespace {
 
 constexpr double kPauseMost = 60;  // seconds
 
-// The scheduler counts a page when it begins, so the first page of a refused job counts.
-bool sheets_may_be_out(const Job& job) {
-  return job.impressions > 1;
+// The scheduler counts a page when it begins, so the first page of a refused job counts; and it
+// goes on counting when a job is started again.
+bool has_spent_paper(const Job& job, const ResumeRules& rules) {
+  const auto started = rules.started.find(job.id);
+  return started != rules.started.end() && job.impressions - started->second > 1;
 }
 
 void plan_job(const Queue& queue, const Job& job, const ResumeRules& rules, ResumePlan& plan) {
@@ -22,16 +24,16 @@ void plan_job(const Queue& queue, const Job& job, const ResumeRules& rules, Resu
                              "` starts it all the same"});
     return;
   }
-  if (rules.unattended && rules.spent.contains(job.id)) {
+  if (rules.unattended && has_spent_paper(job, rules)) {
     plan.left.push_back({queue.name, job.id,
-                         "sheets of it came out twice already; `tqr7 resume " + queue.name +
-                             "` prints all of it again"});
+                         "sheets of it came out again, and it failed again; `tqr7 resume " +
+                             queue.name + "` prints all of it again"});
     return;
   }
   const bool known = std::any_of(plan.jobs.begin(), plan.jobs.end(),
                                  [&](const JobToRestart& other) { return other.id == job.id; });
   if (!known) {
-    plan.jobs.push_back({job.id, queue.name, sheets_may_be_out(job)});
+    plan.jobs.push_back({job.id, queue.name, job.impressions});
   }
 }
 
@@ -59,7 +61,8 @@ void plan_queue(const Room& room, const Queue& queue, const ResumeRules& rules, 
   }
   if (cause.kind == Standstill::Refused) {
     plan_cause(room, cause, rules, plan);
-    plan.queues.push_back({queue.name, "the driver had stopped it: " + cause.word});
+    plan.queues.push_back({queue.name, "the driver had stopped it: " +
+                                           (cause.word.empty() ? "refused sheet" : cause.word)});
   } else if (cause.kind == Standstill::Policy) {
     plan.queues.push_back(
         {queue.name, "its error policy had stopped it: the printer could not be reached"});

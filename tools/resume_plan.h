@@ -4,7 +4,7 @@
 #ifndef TQR7_TOOLS_RESUME_PLAN_H
 #define TQR7_TOOLS_RESUME_PLAN_H
 
-#include <set>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -16,7 +16,7 @@ namespace tools {
 struct JobToRestart {
   int id;
   std::string queue;
-  bool begun;  ///< sheets of it may be out, and come again
+  int impressions;  ///< raster pages begun so far, over all attempts
 };
 
 /// A stopped queue that is started.
@@ -46,8 +46,9 @@ struct ResumePlan {
 struct ResumeRules {
   /// Without a person at hand only jobs are started that the printer stopped.
   bool unattended = false;
-  /// Jobs that have been started once already with sheets of them out: unattended, not again.
-  std::set<int> spent;
+  /// Jobs that this run has started, with their impressions then. One that has put out sheets since
+  /// and stands again is not started unattended: it would spend paper for ever.
+  std::map<int, int> started;
 };
 
 ResumePlan plan_resume(const Room& room, const std::vector<const Queue*>& queues,

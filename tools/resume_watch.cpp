@@ -69,9 +69,7 @@ void ResumeWatch::StepQueue(const Room& room, const Queue& queue) {
 void ResumeWatch::Attempt(const ResumePlan& plan, Track& track) {
   actions_.Do(plan);
   for (const JobToRestart& job : plan.jobs) {
-    if (job.begun) {
-      rules_.spent.insert(job.id);
-    }
+    rules_.started[job.id] = job.impressions;
   }
   track.pause = next_pause(track.pause, interval_);
   track.due = Clock::now() + std::chrono::duration_cast<Clock::duration>(

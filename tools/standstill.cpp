@@ -15,10 +15,13 @@ constexpr std::array<std::string_view, 5> kRefusals = {"pagesize-inkribbon-unmuc
 
 // What the programs of a print job leave as the queue's message when they end. Other words may be
 // a person's.
-constexpr std::array<std::string_view, 9> kWordsOfPrograms = {
+constexpr std::array<std::string_view, 12> kWordsOfPrograms = {
     "Waiting for printer to finish.",
     "Unable to send raster data to the driver.",
     "Sending data to printer.",
+    "Rendering completed",
+    "Loading print file.",
+    "Connecting to printer.",
     "Filter failed",
     "The printer is not responding.",
     "The printer is unreachable at this time.",
@@ -36,7 +39,8 @@ constexpr std::array<std::string_view, 5> kWordsOfFailedBackends = {
 };
 
 bool is_progress(std::string_view message) {
-  return message.starts_with("Printing page ") && message.ends_with("% complete...");
+  return (message.starts_with("Printing page ") && message.ends_with("% complete...")) ||
+         message.starts_with("Formatting page ") || message.starts_with("Starting page ");
 }
 
 bool is_of_programs(const std::string& message) {
@@ -47,9 +51,10 @@ bool is_of_programs(const std::string& message) {
          !refusal_word(message).empty();
 }
 
+// The word is lost where another program complained later.
 bool shows_refusal(const Job& job) {
   return job.state == JobState::Stopped && contains(job.printerReasons, "paused") &&
-         !refusal_word(job.printerMessage).empty();
+         is_of_programs(job.printerMessage);
 }
 
 bool shows_failed_backend(const Job& job) {
@@ -103,7 +108,8 @@ std::string refusal_word(const std::string& message) {
 }
 
 bool stopped_by_printer(const Job& job) {
-  return has_printer_reason(job.printerReasons) || !refusal_word(job.printerMessage).empty();
+  return has_printer_reason(job.printerReasons) || !refusal_word(job.printerMessage).empty() ||
+         shows_refusal(job);
 }
 
 Cause cause_of_standstill(const Room& room, const Queue& queue) {

@@ -7,8 +7,9 @@
 // them (CUPS 2.4):
 //
 // - The driver pauses the queue for a refused sheet. The job stands stopped, and keeps with itself
-//   the driver's word ("driver-setting-unmuch 0x0200") and the reason "paused". A person who stops
-//   a queue that prints leaves the job pending, also within the driver's last second.
+//   the reason "paused" and the driver's word ("driver-setting-unmuch 0x0200"), or a later
+//   complaint of another program. A person who stops a queue that prints leaves the job pending,
+//   also within the driver's last second.
 // - The error policy "stop-printer" stops the queue because the backend failed. The job is pending
 //   for the reason "printer-stopped", and keeps the backend's words with itself.
 // - A person's stop of a queue at rest, also of one that the driver has paused, sets the queue's
@@ -34,7 +35,7 @@ enum class Standstill : std::uint8_t {
 struct Cause {
   Standstill kind = Standstill::None;
   int job = 0;       ///< that it came of; 0 when none is known
-  std::string word;  ///< the driver's word for a refusal, without its number
+  std::string word;  ///< the driver's word for a refusal, without its number; empty when it is lost
 };
 
 /// Why the queue stands.

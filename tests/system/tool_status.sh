@@ -58,7 +58,7 @@ print_job strict "${plain[@]}" "$work/photo.png"
 expect_job_ends "$JOB" stopped
 expect_status 1 strict
 expect_contains 'the refusal' \
-  '    The driver stopped the queue at job 3: driver-setting-unmuch. ' "$SAID"
+  '    The driver stopped the queue at job 3: ' "$SAID"
 cupsdisable -r 'Ribbon is on order' strict
 expect_status 1 strict
 expect_contains 'the person' '    A person stopped the queue, or a program that is not this driver.

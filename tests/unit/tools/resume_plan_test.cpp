@@ -95,16 +95,6 @@ TEST(ResumePlan, StartsAStoppedTestPageToo) {
   EXPECT_THAT(jobs_of(plan_all({{queue}})), ElementsAre(3));
 }
 
-TEST(ResumePlan, TellsOfAJobWhoseSheetsMayComeAgain) {
-  Queue queue = idle_queue("photo");
-  queue.jobs = {failed_job(3), failed_job(4)};
-  queue.jobs[0].impressions = 2;
-  queue.jobs[1].impressions = 1;
-  const ResumePlan plan = plan_all({{queue}});
-  EXPECT_TRUE(plan.jobs[0].begun);
-  EXPECT_FALSE(plan.jobs[1].begun);
-}
-
 TEST(ResumePlan, StartsTheClassJobThatStoppedAMemberOnce) {
   Queue member = refused_queue("left");
   member.jobs.clear();
@@ -150,13 +140,24 @@ TEST(UnattendedPlan, LeavesAJobThatAnotherProgramFailedAt) {
   EXPECT_THAT(jobs_of(plan_all({{queue}})), ElementsAre(3));
 }
 
-TEST(UnattendedPlan, LeavesAJobWhoseSheetsWouldComeAThirdTime) {
+TEST(UnattendedPlan, StartsAJobAgainThatPutOutNoSheetSinceItWasStarted) {
   Queue queue = idle_queue("photo");
-  queue.jobs = {failed_job(3)};
-  const ResumePlan plan = plan_all({{queue}}, {true, {3}});
+  queue.jobs = {refused_job(3)};
+  queue.jobs[0].impressions = 5;
+  EXPECT_THAT(jobs_of(plan_all({{queue}}, {true, {{3, 4}}})), ElementsAre(3));
+}
+
+TEST(UnattendedPlan, LeavesAJobThatPutOutSheetsSinceItWasStartedAndFailedAgain) {
+  Queue queue = idle_queue("photo");
+  queue.jobs = {refused_job(3)};
+  queue.jobs[0].impressions = 6;
+  const ResumePlan plan = plan_all({{queue}}, {true, {{3, 4}}});
   EXPECT_FALSE(plan.HasWork());
   ASSERT_EQ(plan.left.size(), 1U);
   EXPECT_EQ(plan.left[0].job, 3);
+  EXPECT_EQ(plan.left[0].why,
+            "sheets of it came out again, and it failed again; `tqr7 resume photo` prints all of "
+            "it again");
 }
 
 TEST(NextPause, DoublesUpToAMinute) {

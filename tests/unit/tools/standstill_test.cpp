@@ -40,6 +40,15 @@ TEST(Standstill, IsTheDriversWithTheRefusalAsTheQueuesOwnMessage) {
   EXPECT_EQ(cause_of(queue).kind, Standstill::Refused);
 }
 
+TEST(Standstill, IsTheDriversWhereAnotherProgramComplainedLater) {
+  Queue queue = refused_queue("photo");
+  queue.message = "Rendering completed";
+  queue.jobs.front().printerMessage = "Unable to send raster data to the driver.";
+  const Cause cause = cause_of(queue);
+  EXPECT_EQ(cause.kind, Standstill::Refused);
+  EXPECT_EQ(cause.word, "");
+}
+
 TEST(Standstill, IsTheDriversWithJobsWaitingBehindTheRefusedOne) {
   Queue queue = refused_queue("photo");
   Job waiting;
