@@ -1,32 +1,55 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tools/interruption.h"
 
-#include <poll.h>
+#include <sys/select.h>
 
+#include <algorithm>
 #include <chrono>
 
-#include "simulator/stop_signal.h"
-
 namespace tools {
+namespace {
 
-Interruption::Interruption() : descriptor_(simulator::catch_stop_signals()) {}
+volatile std::sig_atomic_t gAskedToEnd = 0;
+
+void note_the_wish(int /*signalNumber*/) {
+  gAskedToEnd = 1;
+}
+
+timespec in_nanoseconds(std::chrono::nanoseconds left) {
+  const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(left);
+  timespec time{};
+  time.tv_sec = static_cast<time_t>(seconds.count());
+  time.tv_nsec = static_cast<long>((left - seconds).count());
+  return time;
+}
+
+}  // namespace
+
+Interruption::Interruption() {
+  struct sigaction action = {};
+  action.sa_handler = note_the_wish;
+  sigset_t held;
+  sigemptyset(&held);
+  for (const int number : {SIGINT, SIGTERM}) {
+    ::sigaction(number, &action, nullptr);
+    sigaddset(&held, number);
+  }
+  ::sigprocmask(SIG_BLOCK, &held, &whileWaiting_);
+  // Also when whoever started this held them back.
+  sigdelset(&whileWaiting_, SIGINT);
+  sigdelset(&whileWaiting_, SIGTERM);
+}
 
 bool Interruption::Within(double seconds) const {
   using Clock = std::chrono::steady_clock;
   const Clock::time_point end = Clock::now() + std::chrono::duration_cast<Clock::duration>(
                                                    std::chrono::duration<double>(seconds));
-  pollfd stop{descriptor_, POLLIN, 0};
-  for (;;) {
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
-    // Without a descriptor poll() only waits.
-    const int ready = ::poll(&stop, 1, left > 0 ? static_cast<int>(left) : 0);
-    if (ready > 0) {
-      return true;
-    }
-    if (ready == 0 && left <= 0) {
-      return false;
-    }
-  }
+  do {
+    const std::chrono::nanoseconds left = std::max(end - Clock::now(), Clock::duration::zero());
+    const timespec time = in_nanoseconds(left);
+    ::pselect(0, nullptr, nullptr, nullptr, &time, &whileWaiting_);
+  } while (gAskedToEnd == 0 && Clock::now() < end);
+  return gAskedToEnd != 0;
 }
 
 }  // namespace tools

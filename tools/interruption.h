@@ -4,9 +4,12 @@
 #ifndef TQR7_TOOLS_INTERRUPTION_H
 #define TQR7_TOOLS_INTERRUPTION_H
 
+#include <csignal>
+
 namespace tools {
 
-/// From its making on, SIGINT and SIGTERM end waits instead of the program.
+/// From its making on, SIGINT and SIGTERM end waits instead of the program: they come through only
+/// within a wait, so that none is lost between two. One per process.
 class Interruption {
  public:
   Interruption();
@@ -15,7 +18,7 @@ class Interruption {
   bool Within(double seconds) const;
 
  private:
-  int descriptor_;
+  sigset_t whileWaiting_{};
 };
 
 }  // namespace tools
