@@ -37,7 +37,7 @@ std::string for_each_piece(const std::string& path,
   std::vector<std::uint8_t> piece(kPiece);
   for (;;) {
     const std::size_t count = std::fread(piece.data(), 1, piece.size(), file.get());
-    const std::string why = std::ferror(file.get()) != 0 ? last_error() : std::string{};
+    std::string why = std::ferror(file.get()) != 0 ? last_error() : std::string{};
     if (count > 0) {
       take(std::span(piece).first(count));
     }

@@ -3,7 +3,6 @@
 #include <array>
 #include <csetjmp>
 #include <cstdlib>
-#include <cstring>
 #include <string_view>
 
 #include "tools/picture_formats.h"
@@ -55,7 +54,7 @@ void note_damage(j_common_ptr jpeg, int level) {
 void limit_scans(j_common_ptr jpeg) {
   Reading& reading = reading_of(jpeg);
   if (reading.jpeg.input_scan_number > kScansMost) {
-    std::strcpy(reading.message.data(), "too many scans");
+    std::snprintf(reading.message.data(), reading.message.size(), "too many scans");
     std::longjmp(reading.givenUp, 1);  // NOLINT(cert-err52-cpp)
   }
 }
@@ -147,7 +146,7 @@ std::string read_jpeg(std::FILE* file, PictureFile& result) {
   reading.progress.progress_monitor = limit_scans;
   std::string refusal;
   const char* const why = read_all(reading, file, refusal);
-  const std::string text = why != nullptr ? why : "";
+  std::string text = why != nullptr ? why : "";
   if (text.empty() && reading.errors.num_warnings > 0) {
     result.damage = reading.message.data();
   }

@@ -18,7 +18,7 @@ std::string read_pixels(std::FILE* file, Picture& picture) {
   }
   png.format = PNG_FORMAT_RGB;
   const std::unique_ptr<png_image, decltype(&png_image_free)> freed(&png, png_image_free);
-  if (const std::string why = refuse_size(png.width, png.height); !why.empty()) {
+  if (std::string why = refuse_size(png.width, png.height); !why.empty()) {
     return why;
   }
   picture = Picture(png.width, png.height);
@@ -57,7 +57,7 @@ void read_what_it_says(png_structp png, png_infop info, std::FILE* file, Picture
 }  // namespace
 
 std::string read_png(std::FILE* file, PictureFile& result) {
-  const std::string why = read_pixels(file, result.picture);
+  std::string why = read_pixels(file, result.picture);
   if (!why.empty()) {
     return why;
   }

@@ -126,8 +126,10 @@ void draw_pixel(unsigned char* rgb, const LaidPhoto& photo, const View& view, do
                 double dots) {
   Colour sum{};
   for (int sample = 0; sample < kSamples * kSamples; ++sample) {
-    const double right = (sample % kSamples + 0.5) / kSamples;
-    const double down = (sample / kSamples + 0.5) / kSamples;
+    const int column = sample % kSamples;
+    const int row = sample / kSamples;
+    const double right = (column + 0.5) / kSamples;
+    const double down = (row + 0.5) / kSamples;
     const Colour colour = colour_at(photo, view, x + right * dots, y + down * dots);
     for (std::size_t i = 0; i < sum.size(); ++i) {
       sum.at(i) += colour.at(i);

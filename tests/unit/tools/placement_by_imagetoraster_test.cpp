@@ -76,7 +76,7 @@ RasterPage print(const PlacementCase& that) {
   const TempFolder folder;
   write_picture(folder / "picture.png", picture_of_places(that.width, that.height));
   const ToolRun run = run_program(
-      {"env", "PPD=" TQR7_PPD, "LC_ALL=C", "CONTENT_TYPE=image/png",
+      {"env", std::string("PPD=") + TQR7_PPD, "LC_ALL=C", "CONTENT_TYPE=image/png",
        "FINAL_CONTENT_TYPE=application/vnd.cups-raster", IMAGETORASTER, "1", "anna", "Beach", "1",
        "PageSize=" + std::string(that.size) + " print-scaling=" + words(that.scaling),
        folder / "picture.png"});

@@ -25,6 +25,7 @@ ToolRun run_program(std::vector<std::string> words, const std::string& input) {
   const TempFolder folder;
   std::ofstream(folder / "in", std::ios::binary) << input;
   std::vector<char*> pointers;
+  pointers.reserve(words.size() + 1);
   for (std::string& word : words) {
     pointers.push_back(word.data());
   }
