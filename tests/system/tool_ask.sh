@@ -6,6 +6,7 @@
 PATH=$PATH:/usr/sbin
 
 # A stopped job is not at its end here: the watch is to start it.
+# shellcheck disable=SC2317  # wait_until calls it
 is_completed() { [ "$(scheduler_job_state "$1")" = completed ]; }
 
 picture "$work/photo.png" 1852 1232
@@ -23,6 +24,7 @@ expect_equal 'questions left behind' 'jammed-1' "$(lpstat -o | cut -d ' ' -f 1)"
 "$TQR7_BUILD/tqr7" resume --watch --interval 0.3 >"$work/watch.log" 2>&1 &
 watcher=$!
 wait_until 'the watch has asked' grep -q 'waits: the printer is still in error' "$work/watch.log"
+# shellcheck disable=SC2317  # wait_until calls it
 asked_again() { [ "$(grep -c 'status request' "$work/jammed/printer.log")" -ge 5 ]; }
 wait_until 'the watch has asked again' asked_again
 expect_equal 'the job meanwhile' stopped "$(scheduler_job_state "$JOB")"

@@ -61,7 +61,7 @@ expect_resume 0
 expect_equal 'what was done' 'jammed: job 2 started again from its beginning
 strict: job 1 started again from its beginning
 strict: queue started again (the driver had stopped it: pagesize-inkribbon-unmuch)' \
-  "$(sed 's/stopped it: refused sheet/stopped it: pagesize-inkribbon-unmuch/' <<<"$SAID" | sort)"
+  "$(sort <<<"${SAID/stopped it: refused sheet/stopped it: pagesize-inkribbon-unmuch}")"
 expect_completed "$refused"
 expect_completed "$behind"
 expect_completed "$given_up"

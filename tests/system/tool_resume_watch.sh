@@ -23,6 +23,7 @@ expect_watch_ends() {
 }
 
 # A stopped job is not at its end here: the watch is to start it.
+# shellcheck disable=SC2317  # wait_until calls it
 is_completed() { [ "$(scheduler_job_state "$1")" = completed ]; }
 
 picture "$work/photo.png" 1852 1232
@@ -48,6 +49,7 @@ expect_job_ends "$jammed" stopped
 cupsdisable mine
 
 watch_start strict jammed mine
+# shellcheck disable=SC2317  # wait_until calls it
 twice_started() { [ "$(grep -c "strict: queue started" "$work/watch.log")" -ge 2 ]; }
 wait_until "a second attempt" twice_started
 wait_until 'the attempts' grep -q 'jammed: ' "$work/watch.log"
@@ -71,6 +73,7 @@ expect_watch_ends 0
 expect_equal 'a watch with nothing to do' '' "$(cat "$work/watch.log")"
 
 # The error policy's stop is told from a person's, which comes on top of it.
+# shellcheck disable=SC2317  # wait_until calls it
 queue_away_stopped() { lpstat -p away | grep -q disabled; }
 wait_until 'the policy stops the queue' queue_away_stopped
 expect_contains 'status' "error policy, stop-printer, stopped it at job ${away#away-}" \

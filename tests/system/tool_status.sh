@@ -45,7 +45,7 @@ expect_contains 'reason' '  reason com.corvantiel-error0008_2665
     The printer reported error 2665. ' "$SAID"
 expect_contains 'remedy' "    To do: Read the printer's display, and look up 2665" "$SAID"
 expect_contains 'the stopped job' '  1 job stands stopped (1)' "$SAID"
-expect_contains 'what starts it' '`tqr7 resume jammed`' "$SAID"
+expect_contains 'what starts it' 'tqr7 resume jammed' "$SAID"
 expect_contains 'the held job' '  1 job is held by a person (2)' "$SAID"
 expect_status 0 good
 expect_status 1
@@ -62,7 +62,7 @@ expect_contains 'the refusal' \
 cupsdisable -r 'Ribbon is on order' strict
 expect_status 1 strict
 expect_contains 'the person' '    A person stopped the queue, or a program that is not this driver.
-    To do: `cupsenable strict`' "$SAID"
+    To do: '"\`cupsenable strict\`" "$SAID"
 expect_contains "the person's words" '    Said with it: Ribbon is on order' "$SAID"
 cupsreject strict
 expect_status 1 strict
