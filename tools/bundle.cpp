@@ -55,7 +55,7 @@ std::string write_bundle(const std::string& path, const std::string& folder,
     return words_of(writer.get());
   }
   if (!add_files(writer.get(), folder, files)) {
-    const std::string words = words_of(writer.get());
+    std::string words = words_of(writer.get());
     std::remove(path.c_str());
     return words;
   }
