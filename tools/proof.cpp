@@ -26,6 +26,7 @@ struct Options {
   std::string folder;
   std::optional<std::string> profile;
   bool deviceValues = false;
+  bool marks = false;
 };
 
 int cannot(const std::string& what, const std::string& why) {
@@ -70,7 +71,7 @@ int proof(const Options& options) {
   if (const std::string why = folder.Open(options.folder); !why.empty()) {
     return cannot(options.folder, why);
   }
-  simulator::SheetPrinter printer(folder, softProof.get());
+  simulator::SheetPrinter printer(folder, softProof.get(), {.marks = options.marks});
   StreamProofer proofer(printer, report_to_person());
   const std::string why =
       for_each_piece(options.file, [&proofer](auto bytes) { proofer.Feed(bytes); });
@@ -100,6 +101,8 @@ void add_proof(CLI::App& program, int& status) {
   sub->add_flag("--device-values", options->deviceValues,
                 "show the printer's own values and not the colours of the print")
       ->excludes(profile);
+  sub->add_flag("--marks", options->marks,
+                "draw the cut and the white border's edge into the sheets");
   sub->get_option("--help")->description("say this and end");
   sub->callback([options, &status] { status = proof(*options); });
 }

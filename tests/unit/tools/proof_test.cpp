@@ -48,6 +48,24 @@ TEST(Proof, ShowsTheDeviceValuesWhenAsked) {
   EXPECT_EQ(png.At(0, 0), (Rgb{128, 128, 128}));  // 0x2000 of 0x3FFF
 }
 
+TEST(Proof, DrawsTheEdgeOfAWhiteBorderWhenAsked) {
+  const TempFolder plain;
+  const TempFolder marked;
+  const std::string bytes = text_of(stream::join(
+      {stream::status_request(),
+       stream::sheet(stream::paper_9x13_wb(), Finish::Gloss, {0xFF, 0x3F, 0xFF, 0x3F, 0xFF, 0x3F}),
+       stream::print_out()}));
+  run_tool({"proof", "-", "-o", plain.path().string()}, bytes);
+  EXPECT_EQ(run_tool({"proof", "-", "-o", marked.path().string(), "--marks"}, bytes).status, 0);
+  const Rgb white{255, 255, 255};
+  const PngFile sheet = read_png(plain / "sheet-0001.png");
+  const PngFile withMarks = read_png(marked / "sheet-0001.png");
+  EXPECT_EQ(sheet.pixels, std::vector<std::uint8_t>(sheet.pixels.size(), 255));
+  EXPECT_EQ(withMarks.At(40, 40), white);
+  EXPECT_EQ(withMarks.At(700, 500), white);
+  EXPECT_NE(withMarks.pixels, sheet.pixels);
+}
+
 TEST(Proof, ProofsWhatItCanOfAStreamWithErrors) {
   const TempFolder folder;
   std::string bytes = text_of(stream::small_job());
