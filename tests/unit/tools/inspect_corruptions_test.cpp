@@ -103,7 +103,8 @@ constexpr Corruption kCorruptions[] = {
      "offset 536: job header, sheet height: came 630, allowed 631, 1232, 1833 or 2434 for a width "
      "of 1852\n"},
     {Finish::Gloss, 538, 0x06,
-     "offset 538: job header, wait byte: came 0x06, allowed 0x05 as in the last readiness query\n"},
+     "offset 538: job header, wait byte: came 0x06, allowed 0x05 as in the last readiness query\n"
+     "offset 7013229: print-out, wait byte: came 5, allowed 6 as in the last settings block\n"},
     {Finish::Gloss, 578, 0x00, "offset 578: job header, fixed byte 50: came 0x00, allowed 0x01\n"},
     {Finish::Gloss, 586, 0x01, "offset 586: job header, fixed byte 58: came 0x01, allowed 0x02\n"},
     {Finish::Gloss, 608, 0x02, "offset 608: job header, fixed byte 80: came 0x02, allowed 0x01\n"},
