@@ -130,15 +130,17 @@ add_printer() {
   scheduler_add_queue "$name" "$(printer_uri "$PRINTER_PORT")" || exit 1
 }
 
-# A cable to the printer at a port that fails as told: its end for queues is RELAY_PORT.
+# A cable to the printer at a port that fails as told: its end for queues is RELAY_PORT. A second one
+# needs a RELAY_LOG of its own.
 relay_start() {
-  "$tools/relay" "$@" >"$work/relay.log" 2>&1 &
+  local log=${RELAY_LOG:-$work/relay.log}
+  "$tools/relay" "$@" >"$log" 2>&1 &
   RELAY_PID=$!
   # So that it ends with the printers.
   PRINTER_PIDS+=("$RELAY_PID")
-  wait_until 'the relay listens' grep -q listening "$work/relay.log"
+  wait_until 'the relay listens' grep -q listening "$log"
   # shellcheck disable=SC2034  # the tests use it
-  RELAY_PORT=$(sed -n 's/^listening on 127\.0\.0\.1 port //p' "$work/relay.log")
+  RELAY_PORT=$(sed -n 's/^listening on 127\.0\.0\.1 port //p' "$log")
 }
 
 picture() {
