@@ -12,7 +12,7 @@
 #   scheduler_stop                   ends it with all it started, and removes the folder
 #
 # Set SCHEDULER_FILTER_PRELOAD to a library to have the printer's two filters, and nothing else, run
-# with it.
+# with it, and SCHEDULER_DIRECTIVES to further lines of cupsd.conf.
 
 # The folder of the system's backends and filters.
 : "${CUPS_SERVERBIN:=/usr/lib/cups}"
@@ -51,6 +51,7 @@ WebInterface No
 IdleExitTimeout 0
 DirtyCleanInterval 0
 JobKillDelay 10
+${SCHEDULER_DIRECTIVES:-}
 <Location />
   Order allow,deny
   Allow from 127.0.0.1

@@ -16,12 +16,12 @@ open_room() {
   cupsaccept room
 }
 
-# A photo of one grey level, with the shape of a 10x15 sheet.
+# A photo of one grey level; without a size it has the shape of a 10x15 sheet.
 grey_photo() {
-  local file=$1 level=$2
+  local file=$1 level=$2 width=${3:-463} height=${4:-308}
   {
-    printf 'P5\n463 308\n255\n'
-    head -c $((463 * 308)) /dev/zero | tr '\0' "\\$(printf '%03o' "$level")"
+    printf 'P5\n%d %d\n255\n' "$width" "$height"
+    head -c $((width * height)) /dev/zero | tr '\0' "\\$(printf '%03o' "$level")"
   } >"$file"
 }
 
