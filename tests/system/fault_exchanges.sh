@@ -26,7 +26,6 @@ run_faults
 write_rows 2-exchanges
 
 # The filter cannot know of that error, and prints; the printer does not.
-sed -i '/ error: .*came a query after 0x2665/d;' \
-  "$work/$unseen/printer.log"
+sed -i '/ error: .*came a query after 0x2665/d' "$work/$unseen/printer.log"
 expect_no_protocol_errors
 finish

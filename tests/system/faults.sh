@@ -161,7 +161,8 @@ run_faults() {
     see_to "${fault_queues[i]}" "${fault_printers[i]}"
   done
   for i in "${!fault_jobs[@]}"; do
-  bring_back "${fault_queues[i]}" "${fault_jobs[i]}"
+    bring_back "${fault_queues[i]}" "${fault_jobs[i]}"
+    [ "$(sheet_count "${fault_queues[i]}")" -ge 2 ] || RETURNS='nothing, it counts as printed'
     fault_rows[i]+=" | $RETURNS | $(sheet_count "${fault_queues[i]}") |"
   done
   # Every sheet that came out shows all of the photo.
