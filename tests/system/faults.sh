@@ -50,6 +50,8 @@ see_to() {
     kill -USR1 "$printer"
     return
   fi
+  # Or the old printer's port could be read before the new one has begun its log.
+  rm "$work/$queue/printer.log"
   printer_start "$TQR7_BUILD" "$work/$queue" --device-values || exit 1
   PATH=$PATH:/usr/sbin lpadmin -p "$queue" -v "$(printer_uri "$PRINTER_PORT")"
 }
@@ -137,7 +139,7 @@ bring_back() {
   fi
   said=$("$TQR7_BUILD/tqr7" resume "$queue" 2>&1)
   RETURNS='`tqr7 resume`'
-  if [[ $said == *'started again'* ]]; then
+  if [[ $said == *"$queue: job ${job#*-} started again"* ]]; then
     wait_until "$job is completed" is_completed "$job"
     return
   fi
