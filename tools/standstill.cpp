@@ -57,11 +57,18 @@ bool shows_refusal(const Job& job) {
          is_of_programs(job.printerMessage);
 }
 
+bool speaks_of_failed_backend(const std::string& message) {
+  return std::any_of(kWordsOfFailedBackends.begin(), kWordsOfFailedBackends.end(),
+                     [&](std::string_view words) { return message.starts_with(words); });
+}
+
+// Whether the backend or another program of the job spoke last is chance; the driver, whose
+// questions stayed without answer, has then left its own reason.
 bool shows_failed_backend(const Job& job) {
   return job.state == JobState::Pending && job.processingSince > 0 &&
          contains(job.reasons, "printer-stopped") && contains(job.printerReasons, "paused") &&
-         std::any_of(kWordsOfFailedBackends.begin(), kWordsOfFailedBackends.end(),
-                     [&](std::string_view words) { return job.printerMessage.starts_with(words); });
+         (speaks_of_failed_backend(job.printerMessage) ||
+          (is_of_programs(job.printerMessage) && has_printer_reason(job.printerReasons)));
 }
 
 bool is_class_of(const Queue& group, const Queue& member) {

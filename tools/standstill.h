@@ -11,7 +11,8 @@
 //   complaint of another program. A person who stops a queue that prints leaves the job pending,
 //   also within the driver's last second.
 // - The error policy "stop-printer" stops the queue because the backend failed. The job is pending
-//   for the reason "printer-stopped", and keeps the backend's words with itself.
+//   for the reason "printer-stopped", and keeps the backend's words with itself, or the driver's
+//   reason and a later complaint of another program.
 // - A person's stop of a queue at rest, also of one that the driver has paused, sets the queue's
 //   message to "Paused" or to the person's own words. One of a queue that prints leaves an empty
 //   message. So the message must be one that a program of a print job writes.

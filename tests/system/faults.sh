@@ -130,16 +130,12 @@ bring_back() {
   local queue=$1 job=$2 said
   RETURNS='by itself'
   is_completed "$job" && return
-  # Stopped by its error policy; whether the tool can tell that from a person's stop is chance.
-  if [ "$(scheduler_job_state "$job")" = pending ]; then
-    RETURNS='`cupsenable`'
-    cupsenable "$queue"
-    wait_until "$job is completed" is_completed "$job"
-    return
-  fi
+  # Pending: the queue was stopped by its error policy, and the job goes on with it.
+  local pending
+  pending=$(scheduler_job_state "$job")
   said=$("$TQR7_BUILD/tqr7" resume "$queue" 2>&1)
   RETURNS='`tqr7 resume`'
-  if [[ $said == *"$queue: job ${job#*-} started again"* ]]; then
+  if [[ $pending == pending || $said == *"$queue: job ${job#*-} started again"* ]]; then
     wait_until "$job is completed" is_completed "$job"
     return
   fi

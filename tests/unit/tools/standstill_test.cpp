@@ -179,6 +179,22 @@ TEST(Standstill, IsAPersonsWhenTheJobWasPrintingAtTheStop) {
 TEST(Standstill, IsAPersonsWhenTheBackendDidNotFail) {
   Queue queue = unreachable_queue("photo");
   queue.jobs.front().printerMessage = "Filter failed";
+  queue.jobs.front().printerReasons = {"paused"};
+  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
+}
+
+TEST(Standstill, IsThePolicysWhenAnotherProgramComplainedLastAndTheDriverLeftItsReason) {
+  Queue queue = unreachable_queue("photo");
+  queue.message = "Printing page 2, 50% complete...";
+  queue.jobs.front().printerMessage = "Filter failed";
+  queue.jobs.front().printerReasons = {"com.corvantiel-error0004", "paused"};
+  EXPECT_EQ(cause_of(queue).kind, Standstill::Policy);
+}
+
+TEST(Standstill, IsAPersonsWhenNobodyKnowsTheJobsLastWords) {
+  Queue queue = unreachable_queue("photo");
+  queue.jobs.front().printerMessage = "";
+  queue.jobs.front().printerReasons = {"com.corvantiel-error0004", "paused"};
   EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
 }
 
