@@ -26,7 +26,7 @@ run() {
   commands=$(commands_of "$1")
   [ -n "$commands" ] || fail "the page has no commands \"$1\""
   done_blocks+=("$1")
-  PATH=$PATH:/usr/sbin bash -e <<<"$commands" >"$work/$1.out" 2>&1 ||
+  PATH=$PATH:/usr/sbin:$TQR7_BUILD bash -e <<<"$commands" >"$work/$1.out" 2>&1 ||
     fail "the commands \"$1\": $(cat "$work/$1.out")"
 }
 done_blocks=()
@@ -53,6 +53,12 @@ send_photos 10 20 30
 JOBS+=(room-1)
 expect_all_end "${JOBS[@]}"
 expect_equal 'the first job' stopped "$(scheduler_job_state room-1)"
+done_blocks+=(status)
+seen=$(PATH=$TQR7_BUILD:$PATH bash <<<"$(commands_of status)")
+expect_equal 'the exit status of tqr7 status' 1 $?
+expect_contains 'tqr7 status' 'photo2: not good, idle' "$seen"
+expect_contains 'tqr7 status' 'photo1: good' "$seen"
+expect_contains 'tqr7 status' 'reason com.corvantiel-error0008_2665' "$seen"
 run look
 expect_contains 'the printers' 'printer photo2 is idle' "$(cat "$work/look.out")"
 expect_contains 'the room' 'job-completed-with-errors' "$(cat "$work/look.out")"
