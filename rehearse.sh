@@ -14,6 +14,8 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
 output=$PWD/prints
 printer_options=() commands=''
+# A build folder that is up to date, if there is one; otherwise this builds.
+build=${TQR7_BUILD:-}
 
 usage() {
   cat <<HELP
@@ -68,7 +70,8 @@ read_arguments() {
   done
 }
 
-build() {
+build_all() {
+  build=$here/build/release
   install_packages "${TQR7_PACKAGES[@]}" || fail "packages are missing"
   echo "Building (the first time takes a minute or two) ..."
   mkdir -p "$here/build"
@@ -94,7 +97,7 @@ see-to-printer() {
 }
 
 open_shell() {
-  export PATH=$here/build/release:$PATH SAMPLE=$here/build/release/sample-photo.jpg
+  export PATH=$build:$PATH SAMPLE=$build/sample-photo.jpg
   export PRINTER_LOG=$output/printer.log PRINTER_PID
   export -f printer-log see-to-printer
   if [ -n "$commands" ]; then
@@ -112,12 +115,12 @@ open_shell() {
 }
 
 read_arguments "$@"
-build
+[ -n "$build" ] || build_all
 trap stop_all EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM HUP
-printer_start "$here/build/release" "$output" "${printer_options[@]}" ||
+printer_start "$build" "$output" "${printer_options[@]}" ||
   fail "no simulated printer"
-scheduler_start "$here/build/release" || fail "no private scheduler"
+scheduler_start "$build" || fail "no private scheduler"
 scheduler_add_queue photo "$(printer_uri "$PRINTER_PORT")" || fail "no queue"
 open_shell

@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: Apache-2.0
+# The rehearsal that the README tells: an error is found, understood, cleared, and the photo printed,
+# by the commands as they stand there.
+# shellcheck source=tests/system/system_test.sh
+. "$(dirname "${BASH_SOURCE[0]}")/system_test.sh"
+scheduler_stop
+
+root=$tests/../..
+
+# The block of this number below the README's heading.
+block() {
+  awk -v wanted="$1" '
+    /^### Rehearse it$/ { below = 1 }
+    below && /^#+ / && !/Rehearse it/ { exit }
+    below && /^```/ { ++fences; next }
+    fences == 2 * wanted - 1' "$root/README.md"
+}
+
+# A person waits until something has happened before going on.
+commands=$(block 2 | sed -e "s/^exit$//" \
+  -e '/^lp /a until lpstat -l -o photo | grep -q completed-with-errors; do sleep 0.2; done' \
+  -e '/^tqr7 resume/a until lpstat -W completed -o | grep -q photo-1; do sleep 0.2; done')
+start=$(block 1)
+expect_equal 'how the README starts' "./rehearse.sh --fault 'status 0x2665'" "$start"
+said=$(cd "$work" && export SCHEDULER_FILTER_PRELOAD &&
+  timeout 60 "$root/rehearse.sh" --fault 'status 0x2665' -c "$commands" 2>&1) ||
+  fail "the rehearsal ends with $?"
+
+expect_contains 'found' 'photo: not good, idle' "$said"
+expect_contains 'found' '1 job stands stopped' "$said"
+expect_contains 'understood' 'its class is 0008' "$said"
+expect_contains 'resumed' 'photo: job 1 started again from its beginning' "$said"
+expect_contains 'good in the end' 'photo: good, idle' "$said"
+expect_sheet "$work/prints/sheet-0001.png" 1852 1232
+[ "$failures" -eq 0 ] || echo "$said"
+finish
