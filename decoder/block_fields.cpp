@@ -4,10 +4,6 @@
 namespace decoder {
 namespace {
 
-std::string in_words(std::uint16_t value, Notation notation) {
-  return notation == Notation::Hex ? hex_byte(value) : std::to_string(value);
-}
-
 bool fits(std::uint16_t value, const Allowed& allowed) {
   switch (allowed.kind) {
     case Allowed::Kind::Any:
@@ -21,9 +17,9 @@ bool fits(std::uint16_t value, const Allowed& allowed) {
   return false;
 }
 
-std::string in_words(const Allowed& allowed, Notation notation) {
-  std::string first = in_words(allowed.first, notation);
-  const std::string second = in_words(allowed.second, notation);
+std::string allowed_words(const Allowed& allowed, Notation notation) {
+  std::string first = value_words(allowed.first, notation);
+  const std::string second = value_words(allowed.second, notation);
   switch (allowed.kind) {
     case Allowed::Kind::Any:
       return "any value";
@@ -69,17 +65,24 @@ std::uint16_t read_number(std::span<const std::uint8_t> block, std::size_t offse
   return static_cast<std::uint16_t>(block[offset] << 8U | block[offset + 1]);
 }
 
+std::uint16_t read_field(std::span<const std::uint8_t> block, const FieldRule& rule) {
+  return rule.size == 1 ? read_byte(block, rule.offset) : read_number(block, rule.offset);
+}
+
+std::string value_words(std::uint16_t value, Notation notation) {
+  return notation == Notation::Hex ? hex_byte(value) : std::to_string(value);
+}
+
 void check_fields(std::span<const std::uint8_t> block, std::size_t start,
                   std::span<const FieldRule> rules, Command command, std::uint64_t blockOffset,
                   const ErrorSink& report) {
   std::size_t checked = start;
   for (const FieldRule& rule : rules) {
     check_zero_run(block, checked, rule.offset, command, blockOffset, report);
-    const std::uint16_t value =
-        rule.size == 1 ? read_byte(block, rule.offset) : read_number(block, rule.offset);
+    const std::uint16_t value = read_field(block, rule);
     if (!fits(value, rule.allowed)) {
-      report({blockOffset + rule.offset, command, rule.name, in_words(value, rule.notation),
-              in_words(rule.allowed, rule.notation)});
+      report({blockOffset + rule.offset, command, rule.name, value_words(value, rule.notation),
+              allowed_words(rule.allowed, rule.notation)});
     }
     checked = static_cast<std::size_t>(rule.offset) + rule.size;
   }

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 
 #include "decoder/stream_error.h"
 
@@ -48,6 +49,12 @@ struct FieldRule {
 /// The byte, or the big-endian number of two bytes, at a place of the block.
 std::uint16_t read_byte(std::span<const std::uint8_t> block, std::size_t offset);
 std::uint16_t read_number(std::span<const std::uint8_t> block, std::size_t offset);
+
+/// The value that the block has in the field.
+std::uint16_t read_field(std::span<const std::uint8_t> block, const FieldRule& rule);
+
+/// The value as the messages write it: "18", or two hexadecimal digits behind "0x".
+std::string value_words(std::uint16_t value, Notation notation);
 
 /// Holds the block's bytes from `start` on against the rules, which must be in ascending order and
 /// inside the block. Each wrong field, and each run of bytes that should be zero, gives one error.

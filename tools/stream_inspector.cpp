@@ -12,9 +12,7 @@ namespace {
 std::vector<ListedField> fields_of(decoder::Command command, std::span<const std::uint8_t> bytes) {
   std::vector<ListedField> fields;
   for (const decoder::FieldRule& rule : decoder::field_rules(command)) {
-    const std::uint16_t value = rule.size == 1 ? decoder::read_byte(bytes, rule.offset)
-                                               : decoder::read_number(bytes, rule.offset);
-    fields.push_back({&rule, value});
+    fields.push_back({&rule, decoder::read_field(bytes, rule)});
   }
   return fields;
 }

@@ -73,8 +73,7 @@ class TextListing : public StreamListing {
 }  // namespace
 
 std::string value_text(const ListedField& field) {
-  return field.rule->notation == decoder::Notation::Hex ? decoder::hex_byte(field.value)
-                                                        : std::to_string(field.value);
+  return decoder::value_words(field.value, field.rule->notation);
 }
 
 std::string value_meaning(const ListedField& field) {
