@@ -17,4 +17,10 @@ std::string hex_byte(unsigned value) {
   return text.data();
 }
 
+std::string hex_word(std::uint16_t value) {
+  std::array<char, 8> text{};
+  std::snprintf(text.data(), text.size(), "0x%04X", unsigned{value});
+  return text.data();
+}
+
 }  // namespace decoder

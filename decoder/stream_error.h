@@ -30,6 +30,9 @@ using ErrorSink = std::function<void(const StreamError&)>;
 /// "0x1B"
 std::string hex_byte(unsigned value);
 
+/// "0x1B2C"
+std::string hex_word(std::uint16_t value);
+
 }  // namespace decoder
 
 #endif  // TQR7_DECODER_STREAM_ERROR_H

@@ -2,7 +2,6 @@
 #include "decoder/stream_parser.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <string>
 
 #include "decoder/date_check.h"
@@ -10,12 +9,6 @@
 
 namespace decoder {
 namespace {
-
-std::string hex_word(std::uint16_t value) {
-  std::array<char, 8> text{};
-  std::snprintf(text.data(), text.size(), "0x%04X", static_cast<unsigned>(value));
-  return text.data();
-}
 
 // "1B 47 44 37"
 std::string code_text(std::span<const std::uint8_t> bytes) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "decoder/stream_error.h"
 #include "simulator/fault_rule.h"
 #include "simulator/wording.h"
 
@@ -33,7 +34,7 @@ std::string answer_words(const AnswerPlan& plan) {
   if (plan.silent) {
     return "not answered";
   }
-  std::string text = "answered " + hex_number(plan.number);
+  std::string text = "answered " + decoder::hex_word(plan.number);
   if (plan.cutTo) {
     text += ", only " + counted(*plan.cutTo, "byte") + " of it";
   }
@@ -53,7 +54,8 @@ std::string seen_words(const AnswerPlan& plan) {
   if (plan.silent) {
     return "no answer";
   }
-  return plan.cutTo ? "an answer of " + counted(*plan.cutTo, "byte") : hex_number(plan.number);
+  return plan.cutTo ? "an answer of " + counted(*plan.cutTo, "byte")
+                    : decoder::hex_word(plan.number);
 }
 
 }  // namespace simulator

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdio>
 
-#include "simulator/wording.h"
+#include "decoder/stream_error.h"
 
 namespace simulator {
 namespace {
@@ -57,16 +57,16 @@ std::string stray_words(const std::vector<std::uint8_t>& bytes) {
 }
 
 std::string supply_words(const char* supply, const Fault& fault) {
-  return supply + std::to_string(fault.count) + " then " + hex_number(fault.number);
+  return supply + std::to_string(fault.count) + " then " + decoder::hex_word(fault.number);
 }
 
 std::string fault_words(const Fault& fault) {
   const std::string question = question_word(fault.question);
   switch (fault.kind) {
     case Fault::Kind::Status:
-      return "status " + hex_number(fault.number);
+      return "status " + decoder::hex_word(fault.number);
     case Fault::Kind::Enable:
-      return "enable " + hex_number(fault.number);
+      return "enable " + decoder::hex_word(fault.number);
     case Fault::Kind::Busy:
       return "busy " + std::to_string(fault.count);
     case Fault::Kind::Late:
@@ -88,7 +88,7 @@ std::string fault_words(const Fault& fault) {
     case Fault::Kind::Ribbon:
       return supply_words("ribbon ", fault);
     case Fault::Kind::Cover:
-      return "cover " + hex_number(fault.number);
+      return "cover " + decoder::hex_word(fault.number);
   }
   return {};
 }

@@ -55,12 +55,6 @@ std::string two_up_words(const decoder::JobHeader& header) {
 
 }  // namespace
 
-std::string hex_number(std::uint16_t number) {
-  std::array<char, 8> text{};
-  std::snprintf(text.data(), text.size(), "0x%04X", unsigned{number});
-  return text.data();
-}
-
 std::string sheet_words(const decoder::JobHeader& header) {
   return size_words(header.sheetWidth, header.sheetHeight) + ", " + finish_words(header.finish);
 }

@@ -12,9 +12,6 @@
 
 namespace simulator {
 
-/// "0x2110"
-std::string hex_number(std::uint16_t number);
-
 /// "1852 x 1232, gloss"
 std::string sheet_words(const decoder::JobHeader& header);
 
