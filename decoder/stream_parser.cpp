@@ -143,7 +143,7 @@ void StreamParser::FinishBlock() {
       FinishPrintOut();
       break;
     default:
-      query_.reset();
+      settings_.TakeOther();
       job_.reset();
       listener_.OnStatusRequest(BlockOffset());
       break;
@@ -151,32 +151,11 @@ void StreamParser::FinishBlock() {
   filled_ = 0;
 }
 
-// A body with an error of its own is not compared: one wrong byte shall give one error.
-void StreamParser::CompareWithQuery() {
-  if (!query_) {
-    return;
-  }
-  const auto [mine, theirs] =
-      std::mismatch(block_.begin() + kCodeLength, block_.end(), query_->begin() + kCodeLength);
-  if (mine == block_.end()) {
-    return;
-  }
-  const auto at = static_cast<std::size_t>(mine - block_.begin());
-  Report({BlockOffset() + at, code_->command, field_name(field_rules(code_->command), at),
-          hex_byte(*mine), hex_byte(*theirs) + " as in the last readiness query"});
-}
-
 void StreamParser::FinishReadinessQuery(std::uint64_t errorsBefore) {
   const JobHeader header = read_job_header(Block());
   check_sheet(header, code_->command, BlockOffset(), report_);
-  wait_ = header.waitByte;
   job_.reset();
-  if (errorCount_ == errorsBefore) {
-    CompareWithQuery();
-    query_ = block_;
-  } else {
-    query_.reset();
-  }
+  settings_.TakeQuery(block_, BlockOffset(), errorCount_ == errorsBefore, report_);
   listener_.OnReadinessQuery(BlockOffset(), header);
 }
 
@@ -186,11 +165,7 @@ void StreamParser::FinishJobHeader(std::uint64_t errorsBefore) {
   if (check_sheet(header, code_->command, BlockOffset(), report_)) {
     job_ = header;
   }
-  if (errorCount_ == errorsBefore) {
-    CompareWithQuery();
-  }
-  query_.reset();
-  wait_ = header.waitByte;
+  settings_.TakeJobHeader(block_, BlockOffset(), errorCount_ == errorsBefore, report_);
   listener_.OnJobHeader(BlockOffset(), header);
 }
 
@@ -208,20 +183,13 @@ void StreamParser::FinishImageHeader() {
   } else {
     BeginSearch(offset_);
   }
-  query_.reset();
+  settings_.TakeOther();
   job_.reset();
 }
 
-// The settings are a job's: the wait byte at its end is that of its sheets. A job without sheets
-// has said none.
 void StreamParser::FinishPrintOut() {
   const std::uint8_t wait = read_print_out_wait(Block());
-  if (wait_ && wait != *wait_) {
-    Report({BlockOffset() + kOffsetPrintOutWait, Command::PrintOut, "wait byte",
-            std::to_string(wait), std::to_string(*wait_) + " as in the last settings block"});
-  }
-  wait_.reset();
-  query_.reset();
+  settings_.TakePrintOut(wait, BlockOffset(), report_);
   job_.reset();
   listener_.OnPrintOut(BlockOffset(), wait);
 }

@@ -29,6 +29,7 @@
 #include "decoder/command_listener.h"
 #include "decoder/command_order.h"
 #include "decoder/plane_reader.h"
+#include "decoder/repeated_settings.h"
 
 namespace decoder {
 
@@ -82,7 +83,6 @@ class StreamParser {
 
   Bytes Block() const { return Bytes(block_).first(filled_); }
   std::uint64_t BlockOffset() const { return offset_ - filled_; }
-  void CompareWithQuery();
   void Report(const StreamError& error);
   void ReportCut(Command command, const char* field, std::uint64_t taken, std::uint64_t whole);
 
@@ -103,10 +103,8 @@ class StreamParser {
   std::size_t filled_ = 0;
   const CommandCode* code_ = nullptr;
 
-  /// The last readiness query, for as long as the next query or job header must repeat it.
-  std::optional<std::array<std::uint8_t, kBlockLength>> query_;
-  std::optional<std::uint8_t> wait_;  ///< of the last settings block since the last print-out
-  std::optional<JobHeader> job_;      ///< a job header whose sheet is a paper's
+  RepeatedSettings settings_;
+  std::optional<JobHeader> job_;  ///< a job header whose sheet is a paper's
   Sheet sheet_{};
 };
 
