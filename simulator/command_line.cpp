@@ -50,10 +50,10 @@ void add_place_options(CLI::App& app, Options& options) {
 
 void add_view_options(CLI::App& app, Options& options) {
   CLI::Option* const profile =
-      app.add_option("--profile", options.profile,
+      app.add_option("--profile", options.proof.profile,
                      "ICC profile to show the colours of the print through (the model built in)")
           ->type_name("FILE");
-  app.add_flag("--device-values", options.deviceValues,
+  app.add_flag("--device-values", options.proof.deviceValues,
                "show the printer's own values and not the colours of the print")
       ->excludes(profile);
   app.add_flag("--marks", options.marks,

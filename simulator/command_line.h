@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 
+#include "decoder/proof_choice.h"
 #include "simulator/fault_sources.h"
 
 namespace simulator {
@@ -19,12 +20,11 @@ struct Options {
   std::string portFile;       ///< empty: none
   std::string output = ".";
   FaultSources faults;
-  std::string record;                  ///< empty: no record
-  std::optional<std::string> profile;  ///< none: the printer model built in
-  bool deviceValues = false;           ///< sheets show the device values
-  bool marks = false;                  ///< cut and border drawn into the sheets
-  bool contactSheet = false;           ///< a page of all sheets
-  bool verbose = false;                ///< every field is said
+  std::string record;  ///< empty: no record
+  decoder::ProofChoice proof;
+  bool marks = false;         ///< cut and border drawn into the sheets
+  bool contactSheet = false;  ///< a page of all sheets
+  bool verbose = false;       ///< every field is said
   std::optional<std::uint64_t> connections;
 };
 

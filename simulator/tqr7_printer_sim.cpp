@@ -9,9 +9,8 @@
 #include <optional>
 #include <string>
 #include <system_error>
-#include <vector>
 
-#include "decoder/profile_file.h"
+#include "decoder/proof_choice.h"
 #include "decoder/soft_proof.h"
 #include "simulator/command_line.h"
 #include "simulator/contact_sheet.h"
@@ -38,8 +37,17 @@ int cannot_start(const std::string& what, const std::string& why) {
   return cannot_start(what + ": " + why);
 }
 
-// Renamed when it is whole: a script that waits for the file never reads half a number.
+// Why the record cannot be begun; empty when all is well, or when none is asked for.
+std::string begin_record(const Options& options, StreamRecorder& recorder) {
+  return options.record.empty() ? "" : recorder.Open(options.record);
+}
+
+// Renamed when it is whole: a script that waits for the file never reads half a number. Without a
+// path nothing is written.
 std::string write_port_file(const std::string& path, std::uint16_t port) {
+  if (path.empty()) {
+    return {};
+  }
   const std::string part = path + ".part";
   std::FILE* const file = std::fopen(part.c_str(), "we");
   if (file == nullptr) {
@@ -53,20 +61,6 @@ std::string write_port_file(const std::string& path, std::uint16_t port) {
     return std::generic_category().message(errorNumber);
   }
   return {};
-}
-
-// Why the profile asked for cannot be used; empty when all is well. Device values need no proof.
-std::string make_proof(const Options& options, std::unique_ptr<decoder::SoftProof>& proof) {
-  std::string why;
-  if (options.profile) {
-    const std::vector<std::uint8_t> profile = decoder::read_profile_file(*options.profile, why);
-    if (why.empty()) {
-      proof = decoder::SoftProof::Through(profile, why);
-    }
-  } else if (!options.deviceValues) {
-    proof = decoder::SoftProof::ThroughPrinterModel();
-  }
-  return why;
 }
 
 // What is wrong; empty when all is well, or when no contact sheet is asked for.
@@ -113,23 +107,19 @@ int run(const Options& options) {
     return cannot_start(options.output, why);
   }
   StreamRecorder recorder;
-  if (!options.record.empty()) {
-    if (const std::string why = recorder.Open(options.record); !why.empty()) {
-      return cannot_start(options.record, why);
-    }
+  if (const std::string why = begin_record(options, recorder); !why.empty()) {
+    return cannot_start(options.record, why);
   }
   std::unique_ptr<decoder::SoftProof> proof;
-  if (const std::string why = make_proof(options, proof); !why.empty()) {
-    return cannot_start(*options.profile, why);
+  if (const std::string why = decoder::make_proof(options.proof, proof); !why.empty()) {
+    return cannot_start(*options.proof.profile, why);
   }
   Server server;
   if (const std::string why = server.Listen(options.address, options.port); !why.empty()) {
     return cannot_start(options.address + " port " + std::to_string(options.port), why);
   }
-  if (!options.portFile.empty()) {
-    if (const std::string why = write_port_file(options.portFile, server.Port()); !why.empty()) {
-      return cannot_start(options.portFile, why);
-    }
+  if (const std::string why = write_port_file(options.portFile, server.Port()); !why.empty()) {
+    return cannot_start(options.portFile, why);
   }
   log_first_line("listening on " + options.address + " port " + std::to_string(server.Port()));
   SheetPrinter sheets(folder, proof.get(), {options.marks, options.contactSheet});

@@ -4,11 +4,9 @@
 #include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
-#include <optional>
 #include <string>
-#include <vector>
 
-#include "decoder/profile_file.h"
+#include "decoder/proof_choice.h"
 #include "decoder/soft_proof.h"
 #include "simulator/sheet_folder.h"
 #include "simulator/sheet_printer.h"
@@ -24,28 +22,13 @@ namespace {
 struct Options {
   std::string file;
   std::string folder;
-  std::optional<std::string> profile;
-  bool deviceValues = false;
+  decoder::ProofChoice proof;
   bool marks = false;
 };
 
 int cannot(const std::string& what, const std::string& why) {
   std::fprintf(stderr, "tqr7 proof: %s: %s\n", what.c_str(), why.c_str());
   return kExitCannotTell;
-}
-
-// Why the profile asked for cannot be used; empty when all is well. Device values need no proof.
-std::string make_proof(const Options& options, std::unique_ptr<decoder::SoftProof>& proof) {
-  std::string why;
-  if (options.profile) {
-    const std::vector<std::uint8_t> profile = decoder::read_profile_file(*options.profile, why);
-    if (why.empty()) {
-      proof = decoder::SoftProof::Through(profile, why);
-    }
-  } else if (!options.deviceValues) {
-    proof = decoder::SoftProof::ThroughPrinterModel();
-  }
-  return why;
 }
 
 ProofReport report_to_person() {
@@ -64,8 +47,8 @@ int status_of(const ProofTotals& totals) {
 
 int proof(const Options& options) {
   std::unique_ptr<decoder::SoftProof> softProof;
-  if (const std::string why = make_proof(options, softProof); !why.empty()) {
-    return cannot(*options.profile, why);
+  if (const std::string why = decoder::make_proof(options.proof, softProof); !why.empty()) {
+    return cannot(*options.proof.profile, why);
   }
   simulator::SheetFolder folder;
   if (const std::string why = folder.Open(options.folder); !why.empty()) {
@@ -95,10 +78,10 @@ void add_proof(CLI::App& program, int& status) {
       ->type_name("DIR")
       ->required();
   CLI::Option* const profile =
-      sub->add_option("--profile", options->profile,
+      sub->add_option("--profile", options->proof.profile,
                       "ICC profile to show the colours of the print through (the model built in)")
           ->type_name("FILE");
-  sub->add_flag("--device-values", options->deviceValues,
+  sub->add_flag("--device-values", options->proof.deviceValues,
                 "show the printer's own values and not the colours of the print")
       ->excludes(profile);
   sub->add_flag("--marks", options->marks,
