@@ -15,6 +15,7 @@ add_library(tqr7_core STATIC
   filter/page_conversion.cpp
   filter/paper_table.cpp
   filter/ppd_options.cpp
+  filter/progress.cpp
   filter/sheet_assembly.cpp
   image/band_image.cpp
   image/rect.cpp

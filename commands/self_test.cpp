@@ -17,7 +17,8 @@
 #include "filter/module_path.h"
 #include "filter/ppd_options.h"
 #include "filter/print_setting.h"
-#include "image/band_image.h"
+#include "filter/progress.h"
+#include "filter/sheet_assembly.h"
 #include "protocol/job_header.h"
 #include "status/printer_check.h"
 
@@ -25,10 +26,6 @@ namespace {
 
 constexpr int kModulePathSize = 1024;
 constexpr int kPercentDrawn = 50;  // printing the page takes the other half
-
-void report_progress(int percent) {
-  std::fprintf(stderr, "INFO: Printing page %d, %d%% complete...\n", page, percent);
-}
 
 std::string date_words() {
   const std::time_t now = std::time(nullptr);
@@ -83,12 +80,6 @@ bool print_sheet(ppd_file_s* ppd, const tagPRINTSETTING& settings, const char* m
   const OutputCall call;
   static_cast<void>(std::fflush(fpOut));
   return true;
-}
-
-void release_sheet() {
-  CImageUtility::DeleteBandImage(&gImageCache);
-  gImageCount = 0;
-  CImageUtility::DeleteBandImage(&gMatteImage);
 }
 
 }  // namespace

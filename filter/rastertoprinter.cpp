@@ -18,6 +18,7 @@
 #include "filter/job_state.h"
 #include "filter/module_path.h"
 #include "filter/ppd_options.h"
+#include "filter/progress.h"
 #include "filter/sheet_assembly.h"
 #include "image/band_image.h"
 #include "protocol/job_header.h"
@@ -59,11 +60,6 @@ bool open_raster_file(int argc, char* argv[], JobInput* input) {
   return false;
 }
 
-void report_progress(unsigned int percent) {
-  std::fprintf(stderr, "INFO: Printing page %d, %d%% complete...\n", page,
-               static_cast<int>(percent));
-}
-
 // Reads the page's lines into the page buffer. The header is hostile: a line holds as many bytes as
 // it says, never more, and what it does not hold stays white.
 void read_page(cups_raster_t* raster, const cups_page_header_t& header,
@@ -81,7 +77,7 @@ void read_page(cups_raster_t* raster, const cups_page_header_t& header,
   for (std::int32_t y = 0; y < raster_height; ++y) {
     const auto line = static_cast<std::uint32_t>(y);
     if (line % kLinesPerReport == 0) {
-      report_progress(line * kPercentRead / header.cupsHeight);
+      report_progress(static_cast<int>(line * kPercentRead / header.cupsHeight));
     }
     if (cupsRasterReadPixels(raster, Planes[0], header.cupsBytesPerLine) == 0) {
       break;

@@ -9,12 +9,6 @@ namespace {
 // White in each of the three 16-bit channels, as the printer takes it.
 unsigned char g_white_pixel[] = {0xFF, 0x3F, 0xFF, 0x3F, 0xFF, 0x3F};
 
-void release_sheet() {
-  CImageUtility::DeleteBandImage(&gImageCache);
-  gImageCount = 0;
-  CImageUtility::DeleteBandImage(&gMatteImage);
-}
-
 // The first page of a sheet waits in its lower half.
 bool park_page(const tagPRINTSETTING* settings, const tagMVBandImageParams* image) {
   const MV_TYPEDEF::tagRECT sheet{0, 0, settings->nPaperWidth, settings->nPaperHeight};
@@ -58,6 +52,12 @@ void cut_to_half(tagPRINTSETTING* settings, tagMVBandImageParams* band) {
 }
 
 }  // namespace
+
+void release_sheet() {
+  CImageUtility::DeleteBandImage(&gImageCache);
+  gImageCount = 0;
+  CImageUtility::DeleteBandImage(&gMatteImage);
+}
 
 bool print_page(const tagPRINTSETTING* settings, tagMVBandImageParams* image) {
   if (settings->nJoinPages != 1) {

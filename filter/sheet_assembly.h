@@ -15,4 +15,7 @@ bool print_page(const tagPRINTSETTING* settings, tagMVBandImageParams* image);
 /// waits, else print_image's result.
 bool print_last_page(const tagPRINTSETTING* settings);
 
+/// Gives the sheet's memory back: the cache of a joined one and the matte plane.
+void release_sheet();
+
 #endif  // TQR7_FILTER_SHEET_ASSEMBLY_H

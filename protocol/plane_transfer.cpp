@@ -8,6 +8,7 @@
 #include <new>
 
 #include "filter/job_state.h"
+#include "filter/progress.h"
 
 namespace {
 
@@ -25,10 +26,6 @@ using Staging = std::unique_ptr<unsigned char[]>;
 
 Staging take_staging() {
   return Staging(new (std::nothrow) unsigned char[kStagingSize]);
-}
-
-void report_progress(int percent) {
-  std::fprintf(stderr, "INFO: Printing page %d, %d%% complete...\n", page, percent);
 }
 
 bool write_block(std::FILE* out, const unsigned char* bytes, std::size_t size) {
