@@ -12,11 +12,9 @@ expect_status() {
   expect_equal "the exit status of status $*" "$expected" "$status"
 }
 
-# The text of one field of the JSON document, by a path such as queues[0].name.
+# The value at a place of the JSON document.
 field() {
-  python3 -c 'import json, sys
-print(json.dumps(eval("document" + sys.argv[2], {"document": json.loads(sys.argv[1])})))' \
-    "$SAID" "$1"
+  "$tools/json-value" "$1" <<<"$SAID"
 }
 
 # A queue of another driver's is none of the tool's.
@@ -82,15 +80,15 @@ expect_status 0 room
 expect_equal 'a class' 'room: good, idle, accepts jobs, class of good' "$SAID"
 
 expect_status 1 --json jammed good
-expect_equal 'JSON: all' false "$(field '["good"]')"
-expect_equal 'JSON: the queue' '"jammed"' "$(field '["queues"][0]["name"]')"
+expect_equal 'JSON: all' false "$(field /good)"
+expect_equal 'JSON: the queue' '"jammed"' "$(field /queues/0/name)"
 expect_equal 'JSON: the reason' '"com.corvantiel-error0008_2665"' \
-  "$(field '["queues"][0]["reasons"][0]["keyword"]')"
-expect_equal 'JSON: its number' '"2665"' "$(field '["queues"][0]["reasons"][0]["number"]')"
-expect_equal 'JSON: jobs' '{"printing": [], "stopped": [1], "waiting": [], "held": [2]}' \
-  "$(field '["queues"][0]["jobs"]')"
-expect_equal 'JSON: the other queue' true "$(field '["queues"][1]["good"]')"
-expect_equal 'JSON: its connection' true "$(field '["queues"][1]["bidirectional"]')"
+  "$(field /queues/0/reasons/0/keyword)"
+expect_equal 'JSON: its number' '"2665"' "$(field /queues/0/reasons/0/number)"
+expect_equal 'JSON: jobs' '{"printing":[],"stopped":[1],"waiting":[],"held":[2]}' \
+  "$(field /queues/0/jobs)"
+expect_equal 'JSON: the other queue' true "$(field /queues/1/good)"
+expect_equal 'JSON: its connection' true "$(field /queues/1/bidirectional)"
 
 # Control characters of the scheduler's do not reach the terminal.
 cupsdisable -r "$(printf 'red \033[31m ribbon\a')" good
