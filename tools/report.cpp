@@ -2,14 +2,9 @@
 //
 // tqr7 report: a bundle for a bug report, with all that is needed to find a fault and without what
 // is personal: no picture, no titles, no names.
-#include <unistd.h>
-
 #include <CLI/CLI.hpp>
-#include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstdio>
-#include <fstream>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,6 +17,8 @@
 #include "tools/exit_status.h"
 #include "tools/header_blocks.h"
 #include "tools/job_log.h"
+#include "tools/job_words.h"
+#include "tools/log_reading.h"
 #include "tools/plain_text.h"
 #include "tools/queue_choice.h"
 #include "tools/report_texts.h"
@@ -43,10 +40,6 @@ struct Subject {
   const Queue* queue = nullptr;
   int job = 0;
 };
-
-constexpr char kHowToDebug[] =
-    "Lines of the level debug come once `cupsctl --debug-logging` was said; print again, then make "
-    "the report again. `cupsctl --no-debug-logging` ends it.\n";
 
 void complain(const std::string& sentence) {
   std::fprintf(stderr, "tqr7 report: %s\n", sentence.c_str());
@@ -79,97 +72,12 @@ Subject find_subject(const std::vector<const Queue*>& queues, int number) {
   return subject;
 }
 
-std::string machine_name() {
-  std::array<char, 256> name{};
-  return gethostname(name.data(), name.size() - 1) == 0 ? name.data() : "";
-}
-
-PersonalWords personal_words(const Queue& queue, ipp_t* job) {
-  PersonalWords words;
-  for (ipp_attribute_t* attribute = ippFirstAttribute(job); attribute != nullptr;
-       attribute = ippNextAttribute(job)) {
-    const std::string name = ippGetName(attribute) != nullptr ? ippGetName(attribute) : "";
-    const char* const text = ippGetString(attribute, 0, nullptr);
-    if (text == nullptr) {
-      continue;
-    }
-    if (name == "job-name" || name.starts_with("document-name")) {
-      words.AddTitle(text);
-    } else if (name == "job-originating-user-name") {
-      words.AddName(text, "(user)");
-    } else if (name == "job-originating-host-name") {
-      words.AddName(text, "(host)");
-    }
-  }
-  words.AddName(cupsUser(), "(user)");
-  words.AddName(machine_name(), "(host)");
-  std::array<char, 256> parts[3] = {};
-  std::array<char, 1024> resource{};
-  int port = 0;
-  httpSeparateURI(HTTP_URI_CODING_ALL, queue.deviceUri.c_str(), parts[0].data(), 256,
-                  parts[1].data(), 256, parts[2].data(), 256, &port, resource.data(), 1024);
-  words.AddName(parts[2].data(), "(printer)");
-  return words;
-}
-
-// A whole log, line by line; false when it cannot be read.
-bool take_file(const std::string& path, JobLog& log) {
-  std::ifstream file(path, std::ios::binary);
-  for (std::string line; std::getline(file, line);) {
-    log.Take(line);
-  }
-  return file.eof();
-}
-
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-
-// The scheduler's own log, over its web port. Empty when it was read, else why not.
-std::string take_scheduler_log(Scheduler& scheduler, JobLog& log) {
-  const std::unique_ptr<std::FILE, CloseFile> file(std::tmpfile());
-  if (file == nullptr) {
-    return "no temporary file can be made";
-  }
-  const Outcome outcome = scheduler.GetFile("/admin/log/error_log", fileno(file.get()));
-  if (outcome != Outcome::Done) {
-    return outcome == Outcome::Forbidden ? "you have no right to read it" : scheduler.Error();
-  }
-  std::rewind(file.get());
-  std::string line;
-  for (int letter = std::fgetc(file.get()); letter != EOF; letter = std::fgetc(file.get())) {
-    if (letter == '\n') {
-      log.Take(line);
-      line.clear();
-    } else {
-      line += static_cast<char>(letter);
-    }
-  }
-  log.Take(line);
-  return {};
-}
-
-std::string take_log(Scheduler& scheduler, const ReportOptions& options, JobLog& log) {
-  if (options.log.empty()) {
-    return take_scheduler_log(scheduler, log);
-  }
-  return take_file(options.log, log) ? "" : "the file cannot be read";
-}
-
 void add_log(Scheduler& scheduler, const ReportOptions& options, JobLog& log,
              std::vector<BundleFile>& files) {
-  std::string note;
-  const std::string why_not = take_log(scheduler, options, log);
-  if (!why_not.empty()) {
-    note = "The log could not be read: " + why_not +
-           ". Make the report as root, or name the log: --log /var/log/cups/error_log\n";
-  } else if (log.Lines().empty()) {
-    note = "The log holds no lines of this job. " + std::string(kHowToDebug);
-  } else if (!log.HasDebugLines()) {
-    note = "The log holds no lines of the level debug on this job. " + std::string(kHowToDebug);
-  }
+  std::string note = read_log(scheduler, options.log, log);
   if (!note.empty()) {
-    complain(note.substr(0, note.size() - 1));
+    complain(note);
+    note += "\n";
   }
   files.push_back({"log.txt", note + log.Lines()});
   files.push_back({"exchanges.txt", note + log.Exchanges()});
@@ -238,7 +146,8 @@ int write_report(Scheduler& scheduler, const Room& room, const Subject& subject,
     complain("the scheduler does not tell of the job: " + scheduler.Error());
     return kExitCannotTell;
   }
-  const PersonalWords words = personal_words(*subject.queue, job.get());
+  PersonalWords words = words_of_job(job.get(), subject.queue->deviceUri);
+  add_own_names(words);
   const PpdText ppd = read_ppd(scheduler, queue_with_ppd(room, *subject.queue));
   const auto told = [&](const std::string& text) { return words.Without(text); };
 
