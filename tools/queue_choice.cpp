@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tools/queue_choice.h"
 
+#include <algorithm>
+
 #include "tools/plain_text.h"
 
 namespace tools {
@@ -13,7 +15,8 @@ QueueChoice choose_queues(const Room& room, const std::vector<std::string>& name
       choice.complaints.push_back("there is no queue " + plain_text(name));
     } else if (!room.IsOurs(*queue)) {
       choice.complaints.push_back("the queue " + plain_text(name) + " is not one of this driver's");
-    } else {
+    } else if (std::find(choice.queues.begin(), choice.queues.end(), queue) ==
+               choice.queues.end()) {
       choice.queues.push_back(queue);
     }
   }

@@ -51,10 +51,15 @@ bool is_of_programs(const std::string& message) {
          !refusal_word(message).empty();
 }
 
-// The word is lost where another program complained later.
+// The word is lost where another program complained later. A job that was cancelled since may have
+// been printing when a person stopped the queue: of those only the word itself tells.
 bool shows_refusal(const Job& job) {
-  return job.state == JobState::Stopped && contains(job.printerReasons, "paused") &&
-         is_of_programs(job.printerMessage);
+  if (!contains(job.printerReasons, "paused")) {
+    return false;
+  }
+  return job.state == JobState::Canceled
+             ? !refusal_word(job.printerMessage).empty()
+             : job.state == JobState::Stopped && is_of_programs(job.printerMessage);
 }
 
 bool speaks_of_failed_backend(const std::string& message) {

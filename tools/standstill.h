@@ -8,14 +8,15 @@
 //
 // - The driver pauses the queue for a refused sheet. The job stands stopped, and keeps with itself
 //   the reason "paused" and the driver's word ("driver-setting-unmuch 0x0200"), or a later
-//   complaint of another program. A person who stops a queue that prints leaves the job pending,
-//   also within the driver's last second.
+//   complaint of another program; the word stays when the job is cancelled afterwards. A person who
+//   stops a queue that prints leaves the job pending, also within the driver's last second.
 // - The error policy "stop-printer" stops the queue because the backend failed. The job is pending
 //   for the reason "printer-stopped", and keeps the backend's words with itself, or the driver's
 //   reason and a later complaint of another program.
 // - A person's stop of a queue at rest, also of one that the driver has paused, sets the queue's
 //   message to "Paused" or to the person's own words. One of a queue that prints leaves an empty
-//   message. So the message must be one that a program of a print job writes.
+//   message. So the message must be one that a program of a print job writes. A person who says
+//   just that cannot be told apart.
 #ifndef TQR7_TOOLS_STANDSTILL_H
 #define TQR7_TOOLS_STANDSTILL_H
 

@@ -108,11 +108,49 @@ expect_left_to_person refuser 'cupsenable and cupsdisable behind the driver'
 # A queue at rest, with a job that the driver gave up, is stopped by a person: the job waits too.
 add_printer ill --status 0x2100
 print_job ill "${plain[@]}" "$work/photo.png"
-expect_job_ends "$JOB" stopped
+ill=$JOB
+expect_job_ends "$ill" stopped
 cupsdisable ill
 expect_left_to_person ill 'cupsdisable behind an error'
-expect_equal 'the job behind' stopped "$(scheduler_job_state "$JOB")"
+expect_equal 'the job behind' stopped "$(scheduler_job_state "$ill")"
 cupsenable ill
+
+# The job that the driver stopped the queue at is cancelled: the queue is still the driver's stop.
+add_printer cancelled --enable 0x0200
+print_job cancelled "${plain[@]}" "$work/photo.png"
+expect_job_ends "$JOB" stopped
+said_before=$("$TQR7_BUILD/tqr7" status cancelled)
+cancel "$JOB"
+if [[ $said_before == *': driver-setting-unmuch.'* ]]; then
+  expect_resume 0 cancelled
+  expect_equal 'a cancelled job behind' \
+    'cancelled: queue started again (the driver had stopped it: driver-setting-unmuch)' "$SAID"
+  is_stopped cancelled && fail 'the queue of the cancelled job stands'
+else
+  expect_left_to_person cancelled 'a cancelled job behind, whose word another program took'
+fi
+
+# A person's stop with words that a program writes, where the last job came through.
+add_printer well
+print_job well "${plain[@]}" "$work/photo.png"
+expect_completed "$JOB"
+cupsdisable -r 'Waiting for printer to finish.' well
+expect_left_to_person well 'cupsdisable with words of a program'
+cupsenable well
+
+# A class that a person stopped, whatever their words.
+lpadmin -p well -c room
+cupsaccept room
+cupsdisable -r 'Waiting for printer to finish.' room
+expect_left_to_person room 'cupsdisable of a class'
+
+# A queue of another driver's is none of the tool's, also beside one of ours.
+lpadmin -p other -E -v socket://127.0.0.1:9 2>/dev/null
+cupsdisable other
+expect_resume 2 other well well
+expect_equal 'another driver' "tqr7 resume: the queue other is not one of this driver's
+well: runs; nothing to start" "$SAID"
+is_stopped other || fail 'the queue of another driver was started'
 
 # Without the right to administer nothing is started, and that is said.
 sed -i 's|<Limit All>|<Limit Restart-Job Resume-Printer>\nRequire user nobody\n</Limit>\n<Limit All>|' \
@@ -121,7 +159,7 @@ kill -HUP "$SCHEDULER_PID"
 sleep 1
 expect_resume 1 ill
 expect_contains 'no right' 'not done: job 8 started again from its beginning: you have no right to administer' "$SAID"
-expect_equal 'the job without the right' stopped "$(scheduler_job_state "$JOB")"
+expect_equal 'the job without the right' stopped "$(scheduler_job_state "$ill")"
 
 CUPS_SERVER=$work/nobody expect_resume 2
 expect_contains 'no scheduler' 'tqr7 resume: the scheduler does not answer: ' "$SAID"

@@ -90,9 +90,25 @@ TEST(Standstill, IsAPersonsWhenTheRefusedJobIsPendingAsAfterAStopWithinTheDriver
   EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
 }
 
-TEST(Standstill, IsAPersonsWhenTheRefusedJobWasCancelled) {
+TEST(Standstill, IsTheDriversAlsoWhenTheRefusedJobWasCancelled) {
   Queue queue = refused_queue("photo");
   queue.jobs.front().state = JobState::Canceled;
+  const Cause cause = cause_of(queue);
+  EXPECT_EQ(cause.kind, Standstill::Refused);
+  EXPECT_EQ(cause.job, 7);
+  EXPECT_EQ(cause.word, "driver-setting-unmuch");
+}
+
+TEST(Standstill, IsAPersonsWhenTheCancelledJobHasLostTheDriversWord) {
+  Queue queue = refused_queue("photo");
+  queue.jobs.front().state = JobState::Canceled;
+  queue.jobs.front().printerMessage = "Unable to send raster data to the driver.";
+  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
+}
+
+TEST(Standstill, IsAPersonsWhenTheLastJobCameThrough) {
+  Queue queue = refused_queue("photo");
+  queue.jobs.front().state = JobState::Completed;
   EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
 }
 
