@@ -59,6 +59,14 @@ std::string without_quotations(std::string_view text) {
   return std::string(text);
 }
 
+// "[CMD] 0000: 1b 47 44 30": numbers only, whatever the person's words are.
+bool is_dump(std::string_view text) {
+  constexpr std::size_t kOffset = 6;  // behind "[CMD] "
+  return (text.starts_with("[CMD] ") || text.starts_with("[STS] ")) &&
+         text.find(": ") != std::string_view::npos &&
+         text.find_first_not_of("0123456789abcdef: ", kOffset) == std::string_view::npos;
+}
+
 bool is_exchange(std::string_view text) {
   return text.starts_with("[CMD]") || text.starts_with("[STS]") ||
          text.starts_with("CUPS_SC_CMD_") || text.starts_with("CMD_GET_ENABLE") ||
@@ -81,10 +89,10 @@ void JobLog::Take(std::string_view line) {
   if (text.empty() || lines_.size() > kTextMost) {
     return;
   }
-  const std::string plain = plain_text(words_.Without(text), kLineMost);
+  const std::string plain = plain_text(is_dump(text) ? text : words_.Without(text), kLineMost);
   debug_ = debug_ || line.front() == 'D' || line.front() == 'd';
   lines_ += plain_text(head) + mark_ + plain + "\n";
-  if (is_exchange(plain)) {
+  if (is_exchange(text)) {
     exchanges_ += plain + "\n";
   }
 }

@@ -20,9 +20,20 @@ std::string host_of(const std::string& deviceUri) {
   return host.data();
 }
 
+// A name such as "tqr7.example.org" is also said without its domain.
+void add_machine(PersonalWords& words, const std::string& name, const char* replacement) {
+  constexpr std::size_t kShortLeast = 3;  // bytes; "a" would be found everywhere
+  words.AddName(name, replacement);
+  const std::string label = name.substr(0, name.find('.'));
+  const bool number = label.find_first_not_of("0123456789") == std::string::npos;
+  if (label.size() >= kShortLeast && label.size() < name.size() && !number) {
+    words.AddName(label, replacement);
+  }
+}
+
 }  // namespace
 
-PersonalWords words_of_job(ipp_t* job, const std::string& deviceUri) {
+PersonalWords words_of_job(ipp_t* job, const std::vector<std::string>& deviceUris) {
   PersonalWords words;
   for (ipp_attribute_t* attribute = ippFirstAttribute(job); attribute != nullptr;
        attribute = ippNextAttribute(job)) {
@@ -36,10 +47,12 @@ PersonalWords words_of_job(ipp_t* job, const std::string& deviceUri) {
     } else if (name == "job-originating-user-name") {
       words.AddName(text, "(user)");
     } else if (name == "job-originating-host-name") {
-      words.AddName(text, "(host)");
+      add_machine(words, text, "(host)");
     }
   }
-  words.AddName(host_of(deviceUri), "(printer)");
+  for (const std::string& uri : deviceUris) {
+    add_machine(words, host_of(uri), "(printer)");
+  }
   return words;
 }
 
@@ -47,7 +60,7 @@ void add_own_names(PersonalWords& words) {
   std::array<char, 256> machine{};
   words.AddName(cupsUser(), "(user)");
   if (gethostname(machine.data(), machine.size() - 1) == 0) {
-    words.AddName(machine.data(), "(host)");
+    add_machine(words, machine.data(), "(host)");
   }
 }
 

@@ -7,14 +7,15 @@
 #include <cups/ipp.h>
 
 #include <string>
+#include <vector>
 
 #include "tools/personal_words.h"
 
 namespace tools {
 
-/// Its title and documents, its user and machine as the scheduler tells them, and the printer's
-/// machine out of the queue's address.
-PersonalWords words_of_job(ipp_t* job, const std::string& deviceUri);
+/// Its title and documents, its user and machine as the scheduler tells them, and the printers'
+/// machines out of the addresses of the queues that it may have run on.
+PersonalWords words_of_job(ipp_t* job, const std::vector<std::string>& deviceUris);
 
 /// The user who runs this program, and this machine.
 void add_own_names(PersonalWords& words);

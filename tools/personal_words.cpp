@@ -8,6 +8,8 @@ namespace tools {
 namespace {
 
 constexpr std::size_t kTitleLeast = 4;  // bytes
+// A title that is one word of no more bytes than this may well be a part of other words: "page".
+constexpr std::size_t kCommonWordMost = 9;
 
 // With a backslash before each of these letters.
 std::string escaped(std::string_view text, std::string_view letters) {
@@ -24,6 +26,10 @@ std::string escaped(std::string_view text, std::string_view letters) {
 bool is_of_word(char letter) {
   return std::isalnum(static_cast<unsigned char>(letter)) != 0 || letter == '_' ||
          static_cast<unsigned char>(letter) >= 0x80;
+}
+
+bool is_common_word(std::string_view title) {
+  return title.size() <= kCommonWordMost && std::all_of(title.begin(), title.end(), is_of_word);
 }
 
 bool stands_as_word(const std::string& text, std::size_t at, std::size_t length) {
@@ -94,6 +100,10 @@ void PersonalWords::Add(Word word) {
 
 void PersonalWords::AddTitle(std::string_view title) {
   if (title.size() < kTitleLeast) {
+    return;
+  }
+  if (is_common_word(title)) {
+    Add({std::string(title), "(title)", false});
     return;
   }
   for (const std::string_view letters : {"", "\"\\", "\"'\\", " \"'\\", " \"'\\\t{}<>"}) {

@@ -13,7 +13,8 @@ namespace tools {
 class PersonalWords {
  public:
   /// A title or a document's name: replaced wherever it stands, also as the scheduler's log and
-  /// options escape it. Shorter ones than 4 bytes stand everywhere by chance, and are left.
+  /// options escape it. One that is a single short word, such as "page", is replaced where it
+  /// stands as a word. Shorter ones than 4 bytes stand everywhere by chance, and are left.
   void AddTitle(std::string_view title);
 
   /// The name of a person or of a machine: replaced where it stands as a word.

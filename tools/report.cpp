@@ -118,6 +118,17 @@ std::string readme(const Subject& subject, bool withStream) {
          "replaced, such as by (title). Whoever sends the report looks it through before.\n";
 }
 
+// The addresses of the printers that the queue's jobs may come to.
+std::vector<std::string> printers_of(const Room& room, const Queue& queue) {
+  std::vector<std::string> addresses = {queue.deviceUri};
+  for (const std::string& name : queue.members) {
+    if (const Queue* const member = room.Find(name)) {
+      addresses.push_back(member->deviceUri);
+    }
+  }
+  return addresses;
+}
+
 // The name of a class's member stands for the class: it has the PPD.
 std::string queue_with_ppd(const Room& room, const Queue& queue) {
   for (const std::string& name : queue.members) {
@@ -146,7 +157,7 @@ int write_report(Scheduler& scheduler, const Room& room, const Subject& subject,
     complain("the scheduler does not tell of the job: " + scheduler.Error());
     return kExitCannotTell;
   }
-  PersonalWords words = words_of_job(job.get(), subject.queue->deviceUri);
+  PersonalWords words = words_of_job(job.get(), printers_of(room, *subject.queue));
   add_own_names(words);
   const PpdText ppd = read_ppd(scheduler, queue_with_ppd(room, *subject.queue));
   const auto told = [&](const std::string& text) { return words.Without(text); };

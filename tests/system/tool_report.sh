@@ -99,6 +99,22 @@ expect_contains 'no log' 'The log could not be read: the file cannot be read.' "
 unpack "$work/quiet.tar.gz"
 expect_in log.txt 'The log could not be read'
 
+# A title that is a word of the log's own, of a job by way of a class: the log stays readable.
+PATH=$PATH:/usr/sbin lpadmin -p photo -c room
+cupsenable room
+cupsaccept room
+print_job room "${plain[@]}" -U erna-mustermann -t page "$work/Tante-Ernas-Geburtstag.png"
+expect_completed "$JOB"
+report -o "$work/page.tar.gz" >/dev/null || fail 'a job of a class'
+unpack "$work/page.tar.gz"
+folder=$work/unpacked/tqr7-report-room-2
+expect_in log.txt '[Job 2] Formatting (title) 1.'
+expect_in log.txt '[Job 2] xpages = 1x6.17in, ypages = 1x4.11in'
+expect_in exchanges.txt '[CMD] 0000: 1b 47 44 30 00 00 01 16'
+expect_in ppd.txt 'NickName: CORVANTIEL TQR7'
+expect_in status.txt 'class of photo'
+expect_nowhere erna mustermann geburtstag 127.0.0.1 localhost
+
 SAID=$(report 99)
 expect_equal 'no such job' "tqr7 report: no queue of this driver's has a job 99" "$SAID"
 SAID=$(report last)

@@ -52,6 +52,44 @@ TEST(PersonalWords, ReplacesATitleAsTheLogEscapesIt) {
   EXPECT_EQ(words.Without(R"(a Erna\'s\ \"90.\" b)"), "a (title) b");
 }
 
+TEST(PersonalWords, ReplacesATitleThatIsACommonWordOnlyAsAWord) {
+  PersonalWords words;
+  words.AddTitle("page");
+  EXPECT_EQ(words.Without("Formatting page 1 of \"page\", xpages = 1, PageSize, page_log"),
+            "Formatting (title) 1 of \"(title)\", xpages = 1, PageSize, page_log");
+}
+
+TEST(PersonalWords, ReplacesATitleOfOneLongWordAnywhere) {
+  PersonalWords words;
+  words.AddTitle("Geburtstag");
+  EXPECT_EQ(words.Without("Ernas_Geburtstagsfeier"), "Ernas_(title)sfeier");
+}
+
+TEST(PersonalWords, TakesLettersBeyondAsciiForPartsOfWords) {
+  PersonalWords words;
+  words.AddTitle("Über");
+  EXPECT_EQ(words.Without("Über, Überzug, Größer, gegenÜber"),
+            "(title), Überzug, Größer, gegenÜber");
+}
+
+TEST(PersonalWords, LeavesTitlesThatStandEverywhereByChance) {
+  PersonalWords words;
+  words.AddTitle("abc");
+  EXPECT_EQ(words.Without("abc"), "abc");
+}
+
+TEST(PersonalWords, TakesATitleAsItIsWrittenAndNotAsAPattern) {
+  PersonalWords words;
+  words.AddTitle("a.*[(+?|^$%s");
+  EXPECT_EQ(words.Without("a.*[(+?|^$%s, axx"), "(title), axx");
+}
+
+TEST(PersonalWords, ReplacesATitleThatItsReplacementHolds) {
+  PersonalWords words;
+  words.AddTitle("title");
+  EXPECT_EQ(words.Without("a title, a title"), "a (title), a (title)");
+}
+
 TEST(PersonalWords, ReplacesANameOnlyAsAWord) {
   PersonalWords words;
   words.AddName("lars", "(user)");
@@ -110,6 +148,29 @@ TEST(JobLog, ReplacesTheJobsOwnWordsInAllOtherLines) {
   PersonalWords words;
   words.AddTitle("party.jpg");
   EXPECT_THAT(log_of("rendering party.jpg", words), HasSubstr("[Job 12] rendering (title)\n"));
+}
+
+TEST(JobLog, KeepsTheDumpsOfExchangesWhateverTheTitleIs) {
+  PersonalWords words;
+  words.AddTitle("0000");
+  words.AddTitle("[CMD]");
+  JobLog log(12, words);
+  log.Take(debug_line("[CMD] size=4"));
+  log.Take(debug_line("[CMD] 0000: 1b 47 44 30"));
+  log.Take(debug_line("[CMD] 0000: is what [CMD] prints"));
+  EXPECT_EQ(log.Exchanges(),
+            "(title) size=4\n[CMD] 0000: 1b 47 44 30\n(title) (title): is what (title) prints\n");
+}
+
+TEST(JobLog, KeepsNoMoreOfAJobThanABugReportCanCarry) {
+  const PersonalWords words;
+  JobLog log(12, words);
+  const std::string line = debug_line(std::string(2000, 'x'));
+  for (int i = 0; i < 9000; ++i) {
+    log.Take(line);
+  }
+  EXPECT_GT(log.Lines().size(), 16U << 20U);
+  EXPECT_LT(log.Lines().size(), (16U << 20U) + 3000);
 }
 
 TEST(JobLog, LetsNoControlCharacterThrough) {
