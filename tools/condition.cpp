@@ -2,6 +2,7 @@
 #include "tools/condition.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "tools/plain_text.h"
 
@@ -16,12 +17,24 @@ std::vector<int> numbers_of(const Queue& queue, JobState state) {
   return numbers;
 }
 
+// The advice with this queue's name in it, so that its commands work as they stand.
+std::string advice_for(const std::string& queue, std::string advice) {
+  constexpr std::string_view kPlaceholder = "QUEUE";
+  for (std::size_t at = advice.find(kPlaceholder); at != std::string::npos;
+       at = advice.find(kPlaceholder, at + queue.size())) {
+    advice.replace(at, kPlaceholder.size(), queue);
+  }
+  return advice;
+}
+
 std::vector<Reason> reasons_of(const Queue& queue) {
   std::vector<Reason> reasons;
   for (const std::string& keyword : queue.reasons) {
     if (keyword != "none" && !keyword.empty()) {
       const std::string plain = plain_text(keyword);
-      reasons.push_back({plain, is_harmless(keyword), explain_keyword(plain)});
+      Explanation explanation = explain_keyword(plain);
+      explanation.remedy = advice_for(plain_text(queue.name), explanation.remedy);
+      reasons.push_back({plain, is_harmless(keyword), explanation});
     }
   }
   return reasons;
@@ -74,6 +87,7 @@ Explanation explain_standstill(const Condition& condition) {
         break;
       }
       explanation = explain_keyword(condition.cause.word);
+      explanation.remedy = advice_for(condition.queue, explanation.remedy);
       explanation.meaning = "The driver stopped the queue at job " +
                             std::to_string(condition.cause.job) + ": " + condition.cause.word +
                             ". " + explanation.meaning;

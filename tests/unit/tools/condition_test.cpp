@@ -31,6 +31,22 @@ Queue with_reason(const char* reason) {
 
 }  // namespace
 
+TEST(Condition, AdvisesCommandsThatWorkAsTheyStand) {
+  const Condition condition = condition_of(with_reason("com.corvantiel-error0008_2665"));
+  EXPECT_THAT(condition.reasons.front().explanation.remedy, HasSubstr("`tqr7 resume photo`"));
+  EXPECT_THAT(condition.reasons.front().explanation.remedy, Not(HasSubstr("QUEUE")));
+
+  Queue odd = with_reason("com.corvantiel-error0008_2665");
+  odd.name = "QUEUE-QUEUE";
+  EXPECT_THAT(condition_of(odd).reasons.front().explanation.remedy,
+              HasSubstr("`tqr7 resume QUEUE-QUEUE` prints"));
+}
+
+TEST(Condition, AdvisesThisQueuesNameForARefusalToo) {
+  const Condition condition = condition_of(refused_queue("photo"));
+  EXPECT_THAT(tools::explain_standstill(condition).remedy, HasSubstr("`tqr7 resume photo`"));
+}
+
 TEST(Condition, IsGoodAtRest) {
   EXPECT_TRUE(condition_of(idle_queue("photo")).IsGood());
 }
