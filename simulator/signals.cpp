@@ -55,9 +55,10 @@ int make_pipe(int& writeEnd) {
   return ends[0];
 }
 
-void handle(std::initializer_list<int> signals, void (*handler)(int)) {
+void handle(std::initializer_list<int> signals, void (*handler)(int), int flags = 0) {
   struct sigaction action {};
   action.sa_handler = handler;
+  action.sa_flags = flags;
   sigemptyset(&action.sa_mask);
   for (const int signal : signals) {
     ::sigaction(signal, &action, nullptr);
@@ -71,7 +72,9 @@ std::optional<SignalEnds> catch_signals() {
   if (ends.stop < 0 || ends.wishes < 0) {
     return std::nullopt;
   }
-  handle({SIGTERM, SIGINT}, on_stop);
+  // Once each: a printer whose events nobody reads any more hangs in writing them, and a second one
+  // must end it.
+  handle({SIGTERM, SIGINT}, on_stop, static_cast<int>(SA_RESETHAND));
   handle({SIGUSR1}, on_seen_to);
   handle({SIGHUP}, on_reread);
   handle({SIGPIPE, SIGXFSZ}, SIG_IGN);

@@ -22,7 +22,8 @@ enum class Wish : std::uint8_t {
 };
 
 /// Catches SIGTERM, SIGINT, SIGUSR1 and SIGHUP from now on, and ignores SIGPIPE and SIGXFSZ, which
-/// writes report as errors instead. Nothing when there are no descriptors left.
+/// writes report as errors instead. A second SIGTERM or a second SIGINT ends the program as it does
+/// any other. Nothing when there are no descriptors left.
 std::optional<SignalEnds> catch_signals();
 
 /// The next wish, if one came. Does not wait.

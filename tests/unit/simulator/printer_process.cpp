@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/ioctl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -18,6 +19,7 @@
 namespace {
 
 constexpr int kPatienceMilliseconds = 30000;
+constexpr int kTurnMilliseconds = 5;
 
 struct Child {
   pid_t pid;
@@ -109,8 +111,10 @@ std::vector<std::string> TemporaryFolder::Names() const {
 
 PrinterProcess::PrinterProcess(const std::vector<std::string>& options, std::uint64_t fileSizeLimit,
                                Sink sink) {
-  std::vector<std::string> all{"--port", "0"};
-  all.insert(all.end(), options.begin(), options.end());
+  std::vector<std::string> all = options;
+  if (std::find(options.begin(), options.end(), "--port") == options.end()) {
+    all.insert(all.begin(), {"--port", "0"});
+  }
   const Child child = start(all, STDOUT_FILENO, fileSizeLimit, sink);
   pid_ = child.pid;
   outputEnd_ = child.outputEnd;
@@ -194,7 +198,7 @@ int PrinterProcess::Wait() {
       pid_ = -1;
       return exit_status(status);
     }
-    ::poll(nullptr, 0, 5);
+    ::poll(nullptr, 0, kTurnMilliseconds);
   }
   return -1;
 }
@@ -202,6 +206,31 @@ int PrinterProcess::Wait() {
 int PrinterProcess::Stop() {
   Signal(SIGTERM);
   return Wait();
+}
+
+bool PrinterProcess::OutputIsFull() const {
+  constexpr int kNearlyFull = 60000;  // of 65536
+  for (int waited = 0; waited < kPatienceMilliseconds; waited += kTurnMilliseconds) {
+    int bytes = 0;
+    if (::ioctl(outputEnd_, FIONREAD, &bytes) == 0 && bytes > kNearlyFull) {
+      return true;
+    }
+    ::poll(nullptr, 0, kTurnMilliseconds);
+  }
+  return false;
+}
+
+bool PrinterProcess::DiesBy(int number) {
+  for (int waited = 0; waited < kPatienceMilliseconds; waited += kTurnMilliseconds) {
+    ::kill(pid_, number);
+    int status = 0;
+    if (::waitpid(pid_, &status, WNOHANG) == pid_) {
+      pid_ = -1;
+      return WIFSIGNALED(status) && WTERMSIG(status) == number;
+    }
+    ::poll(nullptr, 0, kTurnMilliseconds);
+  }
+  return false;
 }
 
 FinishedRun run_to_its_end(const std::vector<std::string>& options) {

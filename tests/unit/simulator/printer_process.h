@@ -35,7 +35,8 @@ class PrinterProcess {
   /// What the program's standard output is.
   enum class Sink : std::uint8_t { Pipe, Terminal };
 
-  /// Starts the program with these options; `fileSizeLimit` above 0 limits the files it writes.
+  /// Starts the program with these options, on a free port unless they name one; `fileSizeLimit`
+  /// above 0 limits the files it writes.
   explicit PrinterProcess(const std::vector<std::string>& options, std::uint64_t fileSizeLimit = 0,
                           Sink sink = Sink::Pipe);
   PrinterProcess(const PrinterProcess&) = delete;
@@ -66,6 +67,14 @@ class PrinterProcess {
 
   /// Asks the printer to stop, and waits.
   int Stop();
+
+  /// Waits until the printer has said as much as a pipe holds; whether it did. Its output must not
+  /// have been read before but for the first line.
+  bool OutputIsFull() const;
+
+  /// Sends a signal again and again, reads nothing, and waits; whether it was the signal that ended
+  /// the printer.
+  bool DiesBy(int number);
 
  private:
   bool ReadMore();

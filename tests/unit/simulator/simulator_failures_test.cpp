@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <filesystem>
 
 #include "tests/unit/simulator/print_client.h"
@@ -61,6 +62,15 @@ TEST(Failures, OfTheRecordEndTheRecording) {
             "connection 1: failure: recording ends: No space left on device");
   EXPECT_EQ(printer.Stop(), 1);
   EXPECT_TRUE(std::filesystem::exists(folder.Path() / "sheet-0001.png"));
+}
+
+TEST(Failures, OfAReaderThatReadsNothingEndWithASecondSignal) {
+  const TemporaryFolder folder;
+  PrinterProcess printer({"--output", folder.Path().string()});
+  const PrintClient client(printer.Port());
+  ASSERT_TRUE(client.Send(stream::repeated(stream::status_request(), 8000)));
+  ASSERT_TRUE(printer.OutputIsFull());
+  EXPECT_TRUE(printer.DiesBy(SIGTERM));
 }
 
 TEST(Failures, OfStandardOutputDoNotStopThePrinter) {

@@ -197,6 +197,15 @@ Bytes join(std::initializer_list<Bytes> pieces) {
   return all;
 }
 
+Bytes repeated(const Bytes& bytes, std::size_t times) {
+  Bytes all;
+  all.reserve(bytes.size() * times);
+  for (std::size_t i = 0; i < times; ++i) {
+    all.insert(all.end(), bytes.begin(), bytes.end());
+  }
+  return all;
+}
+
 Bytes headers(const Paper& paper, Finish finish) {
   return join({status_request(), readiness_query(paper, finish), job_header(paper, finish),
                image_header(paper, finish)});

@@ -54,6 +54,9 @@ Bytes matte(std::size_t bytes, std::uint8_t value);
 /// One thing behind the other.
 Bytes join(std::initializer_list<Bytes> pieces);
 
+/// The same bytes several times.
+Bytes repeated(const Bytes& bytes, std::size_t times);
+
 /// Status request, readiness query, job header and image header: at 0, 8, 520 and 1032; the pixels
 /// would begin at 1544.
 Bytes headers(const Paper& paper, Finish finish);
