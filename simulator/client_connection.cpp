@@ -22,6 +22,7 @@ constexpr std::uint64_t kSmallestBuffer = 65536;
 constexpr std::uint64_t kLargestBuffer = 1 << 20;
 constexpr std::uint64_t kBuffersPerSecond = 4;
 constexpr std::uint64_t kReadsPerSecond = 20;
+constexpr std::chrono::milliseconds kCatchUp{100};
 
 std::string error_words(int errorNumber) {
   return std::generic_category().message(errorNumber);
@@ -74,7 +75,8 @@ Received ClientConnection::ReceiveNow(std::size_t most, bool& again) {
   if (count > 0) {
     received_ = static_cast<std::size_t>(count);
     if (bytesPerSecond_) {
-      nextRead_ = std::max(nextRead_, Clock::now()) +
+      // A wait that ended late is made up for; a time in which nothing came is not.
+      nextRead_ = std::max(nextRead_, Clock::now() - kCatchUp) +
                   std::chrono::nanoseconds(std::nano::den * received_ / *bytesPerSecond_);
     }
     return Received::Bytes;

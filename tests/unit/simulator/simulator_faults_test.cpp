@@ -70,6 +70,22 @@ TEST_F(Faults, LetTheCheckAtTheJobsBeginPassBeforeASheetsFault) {
   EXPECT_THAT(client.Read(15), ElementsAre(0, 0, 0, 0, 0x13, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0));
 }
 
+TEST_F(Faults, OfAFilesSecondSheetComeWithItsStatusRequest) {
+  PrinterProcess printer(By({"sheet 2: status 1"}));
+  const PrintClient client(printer.Port());
+  ASSERT_TRUE(client.Send(stream::join({sheet(), stream::status_request()})));
+  EXPECT_EQ(client.Read(21), stream::join({kGoodStatus, kGoodEnable}));
+  EXPECT_EQ(client.Read(15)[5], 1);
+}
+
+TEST_F(Faults, OfASheetComeWithAQueryThatNoSecondCheckPrecedes) {
+  PrinterProcess printer(By({"sheet 1: enable 0x0200"}));
+  const PrintClient client(printer.Port());
+  ASSERT_TRUE(client.Send(stream::join({stream::status_request(), query()})));
+  EXPECT_EQ(client.Read(15), kGoodStatus);
+  EXPECT_THAT(client.Read(6), ElementsAre(0, 0, 0, 0, 2, 0));
+}
+
 TEST_F(Faults, LetTheCheckOfTheNextFilePassBeforeASheetsFault) {
   PrinterProcess printer(By({"sheet 2: status 1"}));
   const PrintClient client(printer.Port());
@@ -181,6 +197,21 @@ TEST_F(Faults, LetASlowReaderAnswerWhenItHasReadTheQuestion) {
   EXPECT_EQ(client.Read(6), kGoodEnable);
 }
 
+TEST_F(Faults, LetAVerySlowReaderTakeTheQuestionByteByByte) {
+  PrinterProcess printer(By({"read 15 bytes/s"}));
+  const PrintClient client(printer.Port());
+  ASSERT_TRUE(client.Send(stream::status_request()));
+  EXPECT_FALSE(client.AnswerComes());
+  EXPECT_EQ(client.Read(15), kGoodStatus);
+}
+
+TEST_F(Faults, OfAConnectionEndWithIt) {
+  PrinterProcess printer(By({"read 1000000 bytes/s once"}));
+  ASSERT_TRUE(print(printer.Port(), stream::status_request()));
+  EXPECT_EQ(printer.WaitForLine("ended"),
+            "fault \"read 1000000 bytes/s once\" ended: after 1 time");
+}
+
 TEST_F(Faults, LetASlowReaderPrintInTheEnd) {
   PrinterProcess printer(By({"read 50000 bytes/s for 0.2 s"}));
   ASSERT_TRUE(print(printer.Port(), stream::small_job()));
@@ -225,6 +256,12 @@ TEST_F(Faults, ComeBeforeTheShortForms) {
   ASSERT_TRUE(client.Send(stream::join({stream::status_request(), stream::status_request()})));
   EXPECT_EQ(client.Read(15)[5], 2);
   EXPECT_EQ(client.Read(15)[5], 1);
+}
+
+TEST_F(Faults, OfAStrayByteExcuseARepeatedQuery) {
+  PrinterProcess printer(By({"enable stray 00"}));
+  ASSERT_TRUE(print(printer.Port(), stream::join({stream::status_request(), query(), query()})));
+  EXPECT_EQ(printer.Stop(), 0);
 }
 
 TEST_F(Faults, ThatDelayDoNotDelayTheStop) {
