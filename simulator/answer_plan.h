@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "simulator/printer_answers.h"
+
 namespace simulator {
 
 /// Pieces of an answer leave this far apart, so that they arrive as pieces.
@@ -25,8 +27,14 @@ struct AnswerPlan {
   std::vector<std::uint8_t> stray;     ///< go out right before it
   bool silent = false;                 ///< no answer at all
 
-  /// Whether the client gets the whole number, and it is zero: good, or ready.
-  bool Good() const { return number == 0 && !cutTo && !silent; }
+  /// Whether the client gets the whole number.
+  bool Whole() const { return !cutTo && !silent; }
+
+  /// Whether it does, and the number is zero: good, or ready.
+  bool Good() const { return Whole() && number == 0; }
+
+  /// Whether it does, and the code is busy.
+  bool Busy() const { return Whole() && number == kEnableBusy; }
 };
 
 /// What goes out of `answer`, piece by piece. Stray bytes go with the first piece; nothing of it is

@@ -7,12 +7,14 @@ namespace simulator {
 void Permission::StatusAnswered(const AnswerPlan& answer) {
   fileBegins_ = !answer.Good();
   status_ = answer;
+  asked_ = false;
   readiness_ = {};
 }
 
 // The next status request follows a sheet, or else the client has given the file up.
 void Permission::ReadinessAnswered(const AnswerPlan& answer) {
   fileBegins_ = true;
+  asked_ = true;
   readiness_ = answer;
 }
 

@@ -24,6 +24,10 @@ class Permission {
   bool FileBegins() const { return fileBegins_; }
 
   bool QueryAllowed() const { return status_.Good(); }
+
+  /// A client asks again only while the printer is busy; stray bytes may have told it so.
+  bool RepeatAllowed() const { return !asked_ || readiness_.Busy() || !readiness_.stray.empty(); }
+
   bool JobHeaderAllowed() const { return readiness_.Good(); }
   bool SheetAllowed() const { return QueryAllowed() && JobHeaderAllowed(); }
 
@@ -33,6 +37,7 @@ class Permission {
 
  private:
   bool fileBegins_ = true;
+  bool asked_ = false;  ///< for readiness, since the last status request
   AnswerPlan status_;
   AnswerPlan readiness_;
 };

@@ -140,6 +140,11 @@ void Session::OnReadinessQuery(std::uint64_t offset, const decoder::JobHeader& h
     OnError({offset, decoder::Command::ReadinessQuery, "answer to the status request",
              "a query after " + permission_.StatusSeen(), "a query after 0x0000"});
   }
+  if (!permission_.RepeatAllowed()) {
+    OnError({offset, decoder::Command::ReadinessQuery, "answer to the readiness query",
+             "a repeated query after " + permission_.ReadinessSeen(),
+             "a repeated query after " + hex_number(kEnableBusy)});
+  }
   const AnswerPlan plan = printer_.faults.Answer(Question::Readiness, true);
   permission_.ReadinessAnswered(plan);
   SendAnswer(plan, readiness_answer(plan.number));

@@ -117,6 +117,29 @@ TEST_F(Replies, ThatForbidASheetAreHeldAgainstTheClientThatSendsIt) {
   EXPECT_THAT(folder_.Names(), IsEmpty());
 }
 
+TEST_F(Replies, OfABusyPrinterLetTheClientAskAgain) {
+  PrinterProcess printer(With({"--busy", "2"}));
+  ASSERT_TRUE(
+      print(printer.Port(), stream::join({stream::status_request(), query(), query(), query()})));
+  EXPECT_EQ(printer.Stop(), 0);
+}
+
+TEST_F(Replies, OfAReadyPrinterForbidToAskAgain) {
+  PrinterProcess printer(With({}));
+  ASSERT_TRUE(print(printer.Port(), stream::join({stream::status_request(), query(), query()})));
+  EXPECT_EQ(printer.WaitForLine("error"),
+            "connection 1: error: offset 520: readiness query, answer to the readiness query: came "
+            "a repeated query after 0x0000, allowed a repeated query after 0x0100");
+  EXPECT_EQ(printer.Stop(), 1);
+}
+
+TEST_F(Replies, OfASheetAreForgottenAtTheNextStatusRequest) {
+  PrinterProcess printer(With({}));
+  ASSERT_TRUE(print(printer.Port(), stream::join({stream::status_request(), query(),
+                                                  stream::status_request(), query()})));
+  EXPECT_EQ(printer.Stop(), 0);
+}
+
 TEST_F(Replies, OfAnErrorForbidTheQuery) {
   PrinterProcess printer(With({"--status", "0x2665"}));
   ASSERT_TRUE(print(printer.Port(), stream::join({stream::status_request(), query()})));

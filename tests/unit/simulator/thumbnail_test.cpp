@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Sheets made small, dot by dot, and text made safe for HTML.
+// Sheets made small, dot by dot.
 #include "simulator/thumbnail.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include "simulator/contact_sheet.h"
 
 namespace {
 
@@ -47,11 +45,6 @@ TEST(ThumbnailDots, AtTheEndsAreTheAverageOfWhatIsThere) {
   EXPECT_THAT(thumbnail.Row(212), ElementsAre(0, 0, 0));
   // Two rows of three: one black, one not.
   EXPECT_THAT(thumbnail.Row(213), ElementsAre(5, 15, 128));
-}
-
-TEST(ContactSheetText, ShowsMarkupAsText) {
-  EXPECT_EQ(simulator::escaped("<a href=\"x\">'&'</a>"),
-            "&lt;a href=&quot;x&quot;&gt;&#39;&amp;&#39;&lt;/a&gt;");
 }
 
 }  // namespace
