@@ -80,6 +80,30 @@ TEST(Canvas, PartsThatReachOutAreCut) {
   EXPECT_EQ(part.height(), 1);
 }
 
+TEST(Canvas, TakesABoxThatReachesFarBeyondItsEnds) {
+  Picture picture(4, 3);
+
+  picture.canvas().fill({3, 1, INT_MAX, 1}, kBlack);
+  picture.canvas().fill({1, 2, 1, INT_MAX}, kBlack);
+
+  EXPECT_THAT(picture.Art({0, 0, 4, 3}), ElementsAre("....",  //
+                                                     "...#",  //
+                                                     ".#.."));
+  EXPECT_TRUE(picture.GuardsStand());
+}
+
+TEST(Canvas, HasNoSizeBelowNothing) {
+  unsigned char pixels[3] = {7, 7, 7};
+
+  const Canvas canvas(pixels, -1, -2);
+  const Canvas part = Canvas(pixels, 1, 1).part({1, 1, -1, -1});
+
+  EXPECT_EQ(canvas.width(), 0);
+  EXPECT_EQ(canvas.height(), 0);
+  EXPECT_EQ(part.width(), 0);
+  EXPECT_EQ(part.height(), 0);
+}
+
 TEST(Canvas, WithoutAnySizeTakesNothing) {
   unsigned char pixels[3] = {7, 7, 7};
 

@@ -256,6 +256,15 @@ TEST(Fields, OfARepeatedQueryMustBeThoseOfTheFirst) {
                           "last readiness query"));
 }
 
+TEST(Fields, OfAQueryMayBeOthersBehindTheNextStatusRequest) {
+  Bytes other = stream::readiness_query(stream::paper_10x15(), Finish::Gloss);
+  other.at(10) = 9;
+  EXPECT_THAT(errors_of(stream::join({stream::status_request(),
+                                      stream::readiness_query(stream::paper_10x15(), Finish::Gloss),
+                                      stream::status_request(), other})),
+              testing::IsEmpty());
+}
+
 TEST(Fields, OfThePrintOutAreChecked) {
   EXPECT_THAT(
       errors_of(stream::join({stream::status_request(), {0x1B, 0x42, 0x51, 0x31, 0x01, 0x05}})),

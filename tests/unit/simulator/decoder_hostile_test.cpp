@@ -74,6 +74,18 @@ TEST(WrongImageSize, PassesOverThePixels) {
                           "status request at 7013216", "print-out at 7013224, wait byte 5"));
 }
 
+TEST(WrongImageSize, WithoutPixelsSkipsNothing) {
+  Bytes headers = stream::headers(stream::paper_5x15(), Finish::Gloss);
+  headers.at(1044) = 0x03;
+  EventRecording recording;
+  decode(join({headers, stream::status_request()}), recording);
+  EXPECT_THAT(recording.events,
+              ElementsAre("status request at 0", "readiness query at 8", "job header at 520",
+                          "offset 1044: image header, image height: came 887, allowed 631 on a "
+                          "sheet of 1852 x 631",
+                          "image header at 1032", "status request at 1544"));
+}
+
 TEST(WrongField, LeavesTheSheetReadable) {
   Bytes sheet = stream::sheet(stream::paper_5x15(), Finish::Gloss, {0, 0, 0, 0, 0, 0});
   sheet.at(1066) = 77;

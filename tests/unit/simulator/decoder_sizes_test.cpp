@@ -103,6 +103,17 @@ TEST(Sizes, OfTheMattePlaneAreTheSheetAndTwelveRows) {
                           "matte on a sheet of 1852 x 1232"));
 }
 
+TEST(Sizes, OfAMattePlaneThatAreWrongBeginNoSheet) {
+  Bytes bytes = stream::headers(stream::paper_10x15(), Finish::Matte);
+  bytes.at(1052) = 0xFF;
+  EventRecording recording;
+  decode(bytes, recording);
+  EXPECT_THAT(recording.errors,
+              ElementsAre("offset 1052: image header, matte width: came 65340, allowed 1852 for "
+                          "matte on a sheet of 1852 x 1232"));
+  EXPECT_THAT(recording.events, Not(Contains(StartsWith("sheet "))));
+}
+
 TEST(Sizes, BeyondAllPapersBeginNoSheet) {
   Bytes bytes = stream::headers(stream::paper_10x15(), Finish::Gloss);
   for (std::size_t i = 1038; i < 1046; ++i) {

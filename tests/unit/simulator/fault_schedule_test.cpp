@@ -129,6 +129,18 @@ TEST_F(Schedule, BeginsASheetsFaultWithItsReadinessQuery) {
   EXPECT_EQ(Enable(), 0x0200);
 }
 
+TEST_F(Schedule, DoesNotBeginAFaultAgainThatIsOver) {
+  Rules("job 1: status 1 once\nsheet 1: enable 2 once");
+  schedule_.ConnectionOpens();
+  EXPECT_EQ(Status(), 1);
+  EXPECT_EQ(Enable(), 2);
+  EXPECT_EQ(Enable(), 0);
+  schedule_.ConnectionCloses();
+  schedule_.ConnectionOpens();
+  EXPECT_EQ(Status(), 0);
+  EXPECT_EQ(Enable(), 0);
+}
+
 TEST_F(Schedule, CountsSheetsOverAllConnections) {
   Rules("sheet 3: status 1");
   schedule_.SheetPrinted();
@@ -178,6 +190,22 @@ TEST_F(Schedule, PutsTheFaultsOfAnAnswersWayTogether) {
   EXPECT_THAT(plan.stray, ElementsAre(0xAA));
   EXPECT_EQ(plan.cutTo, 7U);
   EXPECT_FALSE(plan.Good());
+}
+
+TEST_F(Schedule, TakesTheFirstOfSeveralFaultsOfTheSameWay) {
+  Rules("status late 1 s\nstatus late 2 s\nstatus short 3\nstatus short 4");
+  const AnswerPlan plan = Asked(Question::Status, true);
+  EXPECT_EQ(plan.delay, milliseconds(1000));
+  EXPECT_EQ(plan.cutTo, 3U);
+  EXPECT_THAT(lines_,
+              ElementsAre("fault \"status late 1 s\" shows", "fault \"status short 3\" shows"));
+}
+
+TEST_F(Schedule, DoesNotShowANumberThatIsGood) {
+  Rules("status 0 once\nstatus 7");
+  EXPECT_EQ(Status(), 7);
+  EXPECT_EQ(Status(), 7);
+  EXPECT_THAT(lines_, ElementsAre("fault \"status 0x0007\" shows"));
 }
 
 TEST_F(Schedule, LeavesTheOtherQuestionAlone) {

@@ -25,6 +25,15 @@ class Connections : public testing::Test {
  protected:
   std::string InFolder(const std::string& name) const { return (folder_.Path() / name).string(); }
 
+  // How often the printer said it.
+  int CountOf(const std::string& words) const {
+    int count = 0;
+    for (std::size_t at = 0; (at = printer_.Output().find(words, at)) != std::string::npos; ++at) {
+      ++count;
+    }
+    return count;
+  }
+
   TemporaryFolder folder_;
   // Pixels are held against what was sent.
   PrinterProcess printer_{{"--output", folder_.Path().string(), "--device-values"}};
@@ -123,6 +132,15 @@ TEST_F(Connections, OfAClientThatReadsNoAnswersAreServed) {
   EXPECT_TRUE(client.Finish());
 }
 
+TEST_F(Connections, OfAClientThatTakesNoAnswersDoNotDelayTheStop) {
+  const PrintClient client(printer_.Port());
+  // Nobody reads the lines: a full pipe would hold the printer as well.
+  printer_.CloseOutput();
+  const Bytes questions = stream::repeated(stream::status_request(), 1'000'000);
+  ASSERT_LT(client.SendForAWhile(questions), questions.size());
+  EXPECT_EQ(printer_.Stop(), 0);
+}
+
 TEST_F(Connections, ThatSpeakAnotherLanguageAreSurvived) {
   const std::string words = "GET / HTTP/1.1\r\nHost: printer\r\n\r\n";
   ASSERT_TRUE(print(printer_.Port(), Bytes(words.begin(), words.end())));
@@ -136,16 +154,37 @@ TEST_F(Connections, ThatSpeakAnotherLanguageAreSurvived) {
 }
 
 TEST_F(Connections, FullOfErrorsAreNotToldWithoutEnd) {
-  Bytes bytes;
-  for (int i = 0; i < 1000; ++i) {
-    const Bytes end = stream::print_out();
-    bytes.insert(bytes.end(), end.begin(), end.end());
-  }
-  ASSERT_TRUE(print(printer_.Port(), bytes));
+  ASSERT_TRUE(print(printer_.Port(), stream::repeated(stream::print_out(), 1000)));
   EXPECT_EQ(printer_.WaitForLine("further"),
             "connection 1: further errors of this connection are counted only");
   EXPECT_EQ(printer_.WaitForLine("closed"),
             "connection 1: closed, 6000 bytes, 0 sheets, 1000 errors");
+  EXPECT_EQ(printer_.Stop(), 1);
+  EXPECT_EQ(CountOf(" error: "), 100);
+  EXPECT_EQ(CountOf(" further errors "), 1);
+}
+
+TEST_F(Connections, FullOfGarbageAreNotToldWithoutEnd) {
+  const Bytes bytes = stream::repeated(stream::join({{'X'}, stream::status_request()}), 200);
+  ASSERT_TRUE(print(printer_.Port(), bytes));
+  EXPECT_EQ(printer_.Stop(), 1);
+  EXPECT_EQ(CountOf(" error: "), 50);
+  EXPECT_EQ(CountOf(" skipped 1 byte "), 50);
+}
+
+TEST(BrokenConnections, LoseTheirAnswersWithOneLine) {
+  const TemporaryFolder folder;
+  PrinterProcess printer({"--output", folder.Path().string(), "--fault", "status late 0.2 s once"});
+  PrintClient client(printer.Port());
+  ASSERT_TRUE(client.Send(stream::join(
+      {stream::status_request(), stream::status_request(), stream::status_request()})));
+  ASSERT_NE(printer.WaitForLine("shows"), "");
+  client.Break();
+  EXPECT_THAT(printer.WaitForLine("answers"),
+              HasSubstr("connection 1: answers are lost from here on: "));
+  EXPECT_THAT(printer.WaitForLine("status request"), HasSubstr("status request"));
+  EXPECT_THAT(printer.WaitForLine("connection 1: "), HasSubstr("status request"));
+  EXPECT_THAT(printer.WaitForLine("connection 1: "), HasSubstr("status request"));
 }
 
 TEST_F(Connections, AreGivenUpWhenThePrinterIsStopped) {

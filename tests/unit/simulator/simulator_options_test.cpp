@@ -69,6 +69,8 @@ INSTANTIATE_TEST_SUITE_P(
                      "/dev/zero: larger than 4 MiB, which no printer's profile is"},
         WrongOptions{{"--port", "0", "--address", "printer.invalid"},
                      "printer.invalid port 0: not a numeric address"},
+        WrongOptions{{"--port", "0", "--address", "localhost"},
+                     "localhost port 0: not a numeric address"},
         WrongOptions{{"--port", "0", "--output", "/dev/null"}, "/dev/null: Not a directory"},
         WrongOptions{{"--port", "0", "--record", "/dev/null/stream"},
                      "/dev/null/stream: Not a directory"},
@@ -86,6 +88,20 @@ TEST(Options, RefuseAPortThatIsTaken) {
   const FinishedRun second = run_to_its_end({"--port", port});
   EXPECT_THAT(second.errors, HasSubstr("127.0.0.1 port " + port + ": Address already in use"));
   EXPECT_EQ(second.status, 2);
+}
+
+TEST(Options, TakeAPortAgainThatAPrinterHasJustLeft) {
+  const TemporaryFolder folder;
+  PrinterProcess first({"--output", folder.Path().string()});
+  const std::string port = std::to_string(first.Port());
+  // The printer closes this connection first, and so its end lingers on the port.
+  const PrintClient client(first.Port());
+  ASSERT_TRUE(client.Send(stream::status_request()));
+  ASSERT_EQ(client.Read(15).size(), 15U);
+  ASSERT_EQ(first.Stop(), 0);
+  ASSERT_TRUE(client.Finish());
+  PrinterProcess second({"--port", port, "--output", folder.Path().string()});
+  EXPECT_EQ(std::to_string(second.Port()), port);
 }
 
 TEST(Options, MakeTheOutputFolder) {
@@ -138,6 +154,15 @@ TEST(Options, EndAfterTheConnectionsAskedFor) {
   ASSERT_TRUE(print(printer.Port(), stream::status_request()));
   ASSERT_TRUE(print(printer.Port(), stream::status_request()));
   EXPECT_EQ(printer.Wait(), 0);
+}
+
+TEST(Options, NumberNothingBehindANumberThatIsTooHigh) {
+  const TemporaryFolder folder;
+  std::ofstream(folder.Path() / "sheet-1000000000.png");
+  PrinterProcess printer({"--output", folder.Path().string()});
+  ASSERT_TRUE(print(printer.Port(), stream::small_job()));
+  EXPECT_EQ(printer.Stop(), 0);
+  EXPECT_THAT(folder.Names(), ElementsAre("sheet-0001.png", "sheet-1000000000.png", "sheets.txt"));
 }
 
 TEST(Options, GoOnNumberingBehindTheSheetsThatAreThere) {

@@ -144,6 +144,15 @@ TEST_F(Sheets, OfAWholeJobAreToldEventByEvent) {
           "stopped after 1 connection, 1 sheet, 0 errors\n");
 }
 
+TEST_F(Sheets, WithOneSampleTooHighAreToldOfOnce) {
+  Bytes job = stream::small_job();
+  job.at(kPixels + 1) = 0xFF;
+  ASSERT_TRUE(print(printer_.Port(), job));
+  EXPECT_EQ(printer_.Stop(), 1);
+  EXPECT_THAT(printer_.Output(), testing::HasSubstr("came 0xFF00"));
+  EXPECT_THAT(printer_.Output(), testing::Not(testing::HasSubstr("of the sheet above")));
+}
+
 TEST_F(Sheets, WithASampleTooHighArePrintedAndToldOf) {
   Bytes job = stream::small_job();
   job.at(kPixels + 1) = 0xFF;

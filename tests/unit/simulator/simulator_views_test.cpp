@@ -4,6 +4,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdlib>
+#include <ctime>
 #include <fstream>
 #include <iterator>
 #include <regex>
@@ -39,6 +42,13 @@ class Views : public testing::Test {
   TemporaryFolder folder_;
 };
 
+std::string hour_and_minute() {
+  const std::time_t now = std::time(nullptr);
+  std::array<char, 8> text{};
+  std::strftime(text.data(), text.size(), "%H:%M", std::localtime(&now));
+  return text.data();
+}
+
 // White paper: the low byte of a sample comes first.
 Bytes white_sheet(const stream::Paper& paper) {
   return stream::sheet(paper, Finish::Gloss, {0xFF, 0x3F, 0xFF, 0x3F, 0xFF, 0x3F});
@@ -60,6 +70,20 @@ TEST_F(Views, GiveEveryLineButTheFirstItsTime) {
         << line;
   }
   EXPECT_EQ(count, 6);
+}
+
+TEST_F(Views, GiveTheTimeOfTheLocalZone) {
+  ::setenv("TZ", "TEST-12:34", 1);
+  ::tzset();
+  PrinterProcess printer(With({}));
+  ASSERT_NE(printer.Port(), 0);
+  const std::string before = hour_and_minute();
+  ASSERT_EQ(printer.Stop(), 0);
+  const std::string after = hour_and_minute();
+  ::unsetenv("TZ");
+  ::tzset();
+  EXPECT_THAT(printer.Output(),
+              testing::AnyOf(HasSubstr("\n" + before + ":"), HasSubstr("\n" + after + ":")));
 }
 
 TEST_F(Views, NameEveryFieldWhenVerbose) {
@@ -108,6 +132,13 @@ TEST_F(Views, ShowASheetsProgressOnATerminal) {
   ASSERT_NE(printer.WaitForLine("sheet 1 printed"), "");
   EXPECT_THAT(printer.Output(), HasSubstr("\r\033[Ksheet: 50 %, 316 of 631 rows\r\033[K"));
   EXPECT_THAT(printer.Output(), HasSubstr("\r\033[Ksheet: 100 %, 631 of 631 rows\r\033[K"));
+}
+
+TEST_F(Views, TakeTheProgressAwayOnce) {
+  PrinterProcess printer(With({}), 0, PrinterProcess::Sink::Terminal);
+  ASSERT_TRUE(print(printer.Port(), stream::small_job()));
+  EXPECT_THAT(printer.WaitForLine("sheet 1 printed"), HasSubstr("rows\r\033[K"));
+  EXPECT_THAT(printer.WaitForLine("print-out"), testing::StartsWith("connection 1: print-out"));
 }
 
 TEST_F(Views, ShowNoProgressInAFile) {
@@ -209,6 +240,17 @@ TEST_F(Views, RewriteTheContactSheetAfterEachSheet) {
   ASSERT_TRUE(client.Send(stream::status_request()));
   ASSERT_EQ(client.Read(36).size(), 36U);
   EXPECT_THAT(Index(), HasSubstr("<h1>1 sheet, 0 errors</h1>"));
+}
+
+TEST_F(Views, TellOfAThumbnailThatCannotBeWritten) {
+  PrinterProcess printer(With({"--contact-sheet"}));
+  ASSERT_NE(printer.Port(), 0);
+  std::filesystem::remove(folder_.Path() / "thumbnails");
+  ASSERT_TRUE(print(printer.Port(), stream::small_job()));
+  EXPECT_EQ(printer.WaitForLine("failure"),
+            "connection 1: failure: sheet 1 has no thumbnail: No such file or directory");
+  EXPECT_EQ(printer.Stop(), 1);
+  EXPECT_THAT(Index(), HasSubstr("<li>connection 1: failure: sheet 1 has no thumbnail: "));
 }
 
 TEST_F(Views, TellOfAContactSheetThatCannotBeWritten) {
