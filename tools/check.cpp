@@ -138,9 +138,9 @@ int check(const Options& options) {
     return cannot("\"" + printable(options.size) + "\" is no size; there are " + all_sizes());
   }
   const PictureFile photo = read_picture_file(options.photo);
-  const Placement placement =
-      place_picture(static_cast<std::uint32_t>(photo.picture.width),
-                    static_cast<std::uint32_t>(photo.picture.height), *size, options.Scaling());
+  const Placement placement = place_picture(static_cast<std::uint32_t>(photo.picture.width),
+                                            static_cast<std::uint32_t>(photo.picture.height), *size,
+                                            options.Scaling(), photo.density.Aspect());
   if (placement.Empty()) {
     return cannot(options.photo + ": so narrow a picture that nothing of it is printed");
   }

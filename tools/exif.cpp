@@ -15,7 +15,10 @@ constexpr std::size_t kOffsetType = 2;   ///< in an entry
 constexpr std::size_t kOffsetCount = 4;  ///< in an entry
 constexpr std::size_t kOffsetValue = 8;  ///< in an entry
 constexpr std::uint32_t kTagOrientation = 0x0112;
+constexpr std::uint32_t kTagAcross = 0x011A;
+constexpr std::uint32_t kTagDown = 0x011B;
 constexpr std::uint32_t kTypeShort = 3;
+constexpr std::uint32_t kTypeFraction = 5;
 constexpr int kLastOrientation = 8;
 
 // Numbers at places that may lie anywhere, in the file's byte order.
@@ -40,34 +43,61 @@ class Tiff {
   bool littleEndian_;
 };
 
-bool is_orientation(const Tiff& tiff, std::size_t entry) {
-  return tiff.Number(entry, 2) == kTagOrientation &&
-         tiff.Number(entry + kOffsetType, 2) == kTypeShort &&
+bool is_field(const Tiff& tiff, std::size_t entry, std::uint32_t tag, std::uint32_t type) {
+  return tiff.Number(entry, 2) == tag && tiff.Number(entry + kOffsetType, 2) == type &&
          tiff.Number(entry + kOffsetCount, 4) == 1U;
+}
+
+// The place of a field's value, or of where its value is.
+std::optional<std::size_t> find_field(const Tiff& tiff, std::uint32_t tag, std::uint32_t type) {
+  constexpr std::uint32_t kTiff = 42;
+  const std::optional<std::uint32_t> directory = tiff.Number(kOffsetFirstDirectory, 4);
+  if (tiff.Number(2, 2) != kTiff || !directory) {
+    return std::nullopt;
+  }
+  const std::uint32_t entries = tiff.Number(*directory, 2).value_or(0);
+  for (std::uint32_t i = 0; i < entries; ++i) {
+    const std::size_t entry = std::size_t{*directory} + 2 + i * kEntryLength;
+    if (is_field(tiff, entry, tag, type)) {
+      return entry + kOffsetValue;
+    }
+  }
+  return std::nullopt;
+}
+
+std::optional<Tiff> open_tiff(Bytes bytes) {
+  if (bytes.size() < kOffsetFirstDirectory || bytes[0] != bytes[1] ||
+      (bytes[0] != 'I' && bytes[0] != 'M')) {
+    return std::nullopt;
+  }
+  return Tiff(bytes, bytes[0] == 'I');
+}
+
+// A fraction's whole part; 0 where there is none.
+std::uint32_t whole_part(const Tiff& tiff, std::uint32_t tag) {
+  const std::optional<std::size_t> field = find_field(tiff, tag, kTypeFraction);
+  const std::uint32_t place = field ? tiff.Number(*field, 4).value_or(0) : 0;
+  const std::uint32_t above = place > 0 ? tiff.Number(place, 4).value_or(0) : 0;
+  const std::uint32_t below = place > 0 ? tiff.Number(std::size_t{place} + 4, 4).value_or(0) : 0;
+  return below > 0 ? above / below : 0;
 }
 
 }  // namespace
 
 int exif_orientation(Bytes bytes) {
-  if (bytes.size() < kOffsetFirstDirectory || bytes[0] != bytes[1] ||
-      (bytes[0] != 'I' && bytes[0] != 'M')) {
-    return kExifUpright;
+  const std::optional<Tiff> tiff = open_tiff(bytes);
+  const std::optional<std::size_t> field =
+      tiff ? find_field(*tiff, kTagOrientation, kTypeShort) : std::nullopt;
+  const auto value = field ? static_cast<int>(tiff->Number(*field, 2).value_or(0)) : 0;
+  return value >= 1 && value <= kLastOrientation ? value : kExifUpright;
+}
+
+PixelDensity exif_density(Bytes bytes) {
+  const std::optional<Tiff> tiff = open_tiff(bytes);
+  if (!tiff) {
+    return {};
   }
-  const Tiff tiff(bytes, bytes[0] == 'I');
-  constexpr std::uint32_t kTiff = 42;
-  const std::optional<std::uint32_t> directory = tiff.Number(kOffsetFirstDirectory, 4);
-  if (tiff.Number(2, 2) != kTiff || !directory) {
-    return kExifUpright;
-  }
-  const std::uint32_t entries = tiff.Number(*directory, 2).value_or(0);
-  for (std::uint32_t i = 0; i < entries; ++i) {
-    const std::size_t entry = std::size_t{*directory} + 2 + i * kEntryLength;
-    if (is_orientation(tiff, entry)) {
-      const auto value = static_cast<int>(tiff.Number(entry + kOffsetValue, 2).value_or(0));
-      return value >= 1 && value <= kLastOrientation ? value : kExifUpright;
-    }
-  }
-  return kExifUpright;
+  return {whole_part(*tiff, kTagAcross), whole_part(*tiff, kTagDown)};
 }
 
 const char* exif_orientation_words(int orientation) {

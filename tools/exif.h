@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <span>
 
+#include "tools/picture.h"
+
 namespace tools {
 
 /// The photo is as it should be seen, or the file does not say.
@@ -19,6 +21,10 @@ int exif_orientation(std::span<const std::uint8_t> tiff);
 /// What must be done to see the photo upright: "turned by 90 degrees clockwise", …; empty for
 /// kExifUpright.
 const char* exif_orientation_words(int orientation);
+
+/// The density that it says; 0 x 0 when it says none. The printing system passes over its unit and
+/// takes whole numbers, and so does this.
+PixelDensity exif_density(std::span<const std::uint8_t> tiff);
 
 }  // namespace tools
 

@@ -78,6 +78,13 @@ std::vector<std::string> find_notes(const PictureFile& photo, const PrintSize& s
                     " to be seen upright. Printing does not look at that note: the photo is placed "
                     "as its pixels lie.");
   }
+  if (const PixelDensity& density = photo.density; density.Aspect() != 1.0F) {
+    notes.push_back(
+        "The file says that its pixels are not square: " + std::to_string(density.across) +
+        " to the inch across, " + std::to_string(density.down) +
+        " down. Printing follows that, and stretches the photo; take it out of the "
+        "file if it looks wrong.");
+  }
   if (!photo.profile.empty()) {
     const PhotoProfile profile = judge_photo_profile(photo.profile);
     if (profile == PhotoProfile::Other) {

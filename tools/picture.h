@@ -25,9 +25,22 @@ struct Picture {
   std::vector<unsigned char> rgb;
 };
 
+/// Whole pixels to the inch; 0 where the file does not say.
+struct PixelDensity {
+  bool IsKnown() const { return across > 0 && down > 0; }
+  /// How many times as wide as high a pixel is; 1 where that is not known.
+  float Aspect() const {
+    return IsKnown() ? static_cast<float>(down) / static_cast<float>(across) : 1.0F;
+  }
+
+  std::uint32_t across = 0;
+  std::uint32_t down = 0;
+};
+
 /// A picture and what stands beside it in the file.
 struct PictureFile {
   Picture picture;
+  PixelDensity density;               ///< that the printing system goes by
   std::vector<std::uint8_t> exif;     ///< the Exif data, a TIFF file; empty where there is none
   std::vector<std::uint8_t> profile;  ///< the embedded ICC profile; empty where there is none
   std::string damage;                 ///< what is wrong with a file that could be read all the same

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "tools/exif.h"
 #include "tools/picture_formats.h"
 
 // jpeglib.h needs what <cstdio> declares.
@@ -71,6 +72,27 @@ void take_exif(const jpeg_decompress_struct& jpeg, std::vector<std::uint8_t>& ex
   }
 }
 
+// The printing system takes whole numbers.
+PixelDensity density_of(const jpeg_decompress_struct& jpeg) {
+  constexpr int kPerInch = 1;
+  constexpr int kPerCentimetre = 2;
+  constexpr double kCentimetresPerInch = 2.54;
+  if (jpeg.density_unit == kPerInch) {
+    return {jpeg.X_density, jpeg.Y_density};
+  }
+  if (jpeg.density_unit == kPerCentimetre) {
+    return {static_cast<std::uint32_t>(jpeg.X_density * kCentimetresPerInch),
+            static_cast<std::uint32_t>(jpeg.Y_density * kCentimetresPerInch)};
+  }
+  return {};
+}
+
+// The Exif data's counts more with the printing system, as far as it has both numbers.
+void take_density(const jpeg_decompress_struct& jpeg, PictureFile& file) {
+  const PixelDensity exif = exif_density(file.exif);
+  file.density = exif.IsKnown() ? exif : density_of(jpeg);
+}
+
 void take_profile(jpeg_decompress_struct& jpeg, std::vector<std::uint8_t>& profile) {
   JOCTET* bytes = nullptr;
   unsigned length = 0;
@@ -124,6 +146,7 @@ const char* read_all(Reading& reading, std::FILE* file, std::string& refusal) {
     return refusal.c_str();
   }
   take_exif(jpeg, reading.result->exif);
+  take_density(jpeg, *reading.result);
   take_profile(jpeg, reading.result->profile);
   const bool forPress = jpeg.jpeg_color_space == JCS_CMYK || jpeg.jpeg_color_space == JCS_YCCK;
   jpeg.out_color_space = forPress ? JCS_CMYK : JCS_RGB;

@@ -40,6 +40,16 @@ void read_what_it_says(png_structp png, png_infop info, std::FILE* file, Picture
   }
   png_init_io(png, file);
   png_read_info(png, info);
+  // The Exif data's density is passed over: the printing system looks for it in JPEG files only.
+  constexpr double kMetresPerInch = 0.0254;
+  png_uint_32 across = 0;
+  png_uint_32 down = 0;
+  int unit = PNG_RESOLUTION_UNKNOWN;
+  png_get_pHYs(png, info, &across, &down, &unit);
+  if (unit == PNG_RESOLUTION_METER) {
+    result.density = {static_cast<std::uint32_t>(across * kMetresPerInch),
+                      static_cast<std::uint32_t>(down * kMetresPerInch)};
+  }
   png_charp name = nullptr;
   int compression = 0;
   png_bytep profile = nullptr;

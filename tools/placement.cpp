@@ -32,12 +32,12 @@ Extent page_in_points(const tagPAPERINFO& paper) {
 }
 
 // The largest extent of the shape of `pixels` inside `room`.
-Extent fit_into(const Extent& room, const PixelArea& pixels) {
+Extent fit_into(const Extent& room, const PixelArea& pixels, float aspect) {
   const auto across = static_cast<float>(pixels.width);
   const auto down = static_cast<float>(pixels.height);
-  Extent size{room.width, room.width * down / across};
+  Extent size{room.width, room.width * down / across / aspect};
   if (size.height > room.height) {
-    size = {room.height * across / down, room.height};
+    size = {room.height * across * aspect / down, room.height};
   }
   return size;
 }
@@ -76,7 +76,7 @@ double Placement::DotsPerPixelDown() const {
 }
 
 Placement place_picture(std::uint32_t width, std::uint32_t height, const PrintSize& size,
-                        PrintScaling scaling) {
+                        PrintScaling scaling, float aspect) {
   const Extent page = page_in_points(*size.paper);
   const PixelArea used = scaling == PrintScaling::Fill ? crop_to_page(width, height, page)
                                                        : PixelArea{0, 0, width, height};
@@ -84,8 +84,8 @@ Placement place_picture(std::uint32_t width, std::uint32_t height, const PrintSi
     return {used, false, 0, 0};
   }
   const Extent inches{page.width / kPointsPerInch, page.height / kPointsPerInch};
-  const Extent upright = fit_into(inches, used);
-  const Extent turned = fit_into({inches.height, inches.width}, used);
+  const Extent upright = fit_into(inches, used, aspect);
+  const Extent turned = fit_into({inches.height, inches.width}, used, aspect);
   if (upright.width * upright.height < turned.width * turned.height) {
     return {used, true, whole_dots(turned.height), whole_dots(turned.width)};
   }

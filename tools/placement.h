@@ -40,9 +40,10 @@ struct Placement {
   double DotsPerPixelDown() const;
 };
 
-/// Places a picture of this many pixels, neither of them 0.
+/// Places a picture of this many pixels, neither of them 0. `aspect` says how many times as wide as
+/// high a pixel is; Fill crops as if they were square all the same.
 Placement place_picture(std::uint32_t width, std::uint32_t height, const PrintSize& size,
-                        PrintScaling scaling);
+                        PrintScaling scaling, float aspect = 1);
 
 }  // namespace tools
 

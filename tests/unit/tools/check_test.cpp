@@ -131,6 +131,36 @@ TEST(Check, TellsTheCamerasNoteThatPrintingDoesNotLookAt) {
   EXPECT_THAT(check(jpeg_file(1852, 1232, exif_data(1)), {"10x15"}).out, Not(HasSubstr("Note:")));
 }
 
+TEST(Check, FollowsADensityThatStretchesThePhoto) {
+  const ToolRun run = check(with_density(jpeg_file(1600, 1200), 1, 72, 144), {"10x15"});
+  EXPECT_THAT(run.out, HasSubstr("Scaling:    fit, to 1852 x 694 dots from "));
+  EXPECT_THAT(run.out,
+              HasSubstr("Note:       The file says that its pixels are not square: 72 to the inch "
+                        "across, 144 down. Printing follows that, and stretches the photo; take it "
+                        "out of the file if it looks wrong.\n"));
+}
+
+TEST(Check, TakesTheDensityOfTheExifDataFirst) {
+  const std::string photo = jpeg_file(1600, 1200, exif_density_data(100, 100));
+  EXPECT_THAT(check(with_density(photo, 1, 72, 144), {"10x15"}).out, Not(HasSubstr("not square")));
+}
+
+TEST(Check, TakesNoPartOfADensityWithoutAUnit) {
+  EXPECT_THAT(check(with_density(jpeg_file(1600, 1200), 0, 1, 2), {"10x15"}).out,
+              Not(HasSubstr("not square")));
+}
+
+TEST(Check, CallsAPhotoSharpFrom240DotsOn) {
+  // 240 / 300 of 1550 dots, and a pixel less.
+  EXPECT_THAT(check(jpeg_file(1240, 1000), {"13x13"}).out, HasSubstr("240 dpi, sharp "));
+  EXPECT_THAT(check(jpeg_file(1239, 1000), {"13x13"}).out, HasSubstr("240 dpi, soft "));
+}
+
+TEST(Check, AdvisesTheOtherScalingOnlyWhereThisOneCostsMuch) {
+  EXPECT_THAT(check(jpeg_file(1840, 1232), {"10x15"}).out, Not(HasSubstr("--scaling")));
+  EXPECT_THAT(check(jpeg_file(1800, 1232), {"10x15"}).out, HasSubstr("--scaling fill"));
+}
+
 TEST(Check, TellsAProfileThatIsNotSrgb) {
   EXPECT_THAT(check(jpeg_file(1852, 1232, {}, profiles::wide_green()), {"10x15"}).out,
               HasSubstr("Note:       The photo has a colour profile that is not sRGB."));
@@ -215,6 +245,31 @@ TEST(CheckPicture, DimsWhatIsCutOffOutsideTheSheet) {
   EXPECT_EQ(png.At(500, 100), (Rgb{162, 162, 162}));  // 0.3 of 0x80 and 0.7 of the ground's 0xB0
   EXPECT_EQ(png.At(500, 500), (Rgb{0x80, 0x80, 0x80}));
   EXPECT_EQ(png.At(500, 900), (Rgb{162, 162, 162}));
+}
+
+TEST(CheckPicture, DimsAtTheSheetsEndsWhatIsCutOffOfATurnedPhoto) {
+  const TempFolder folder;
+  std::ofstream(folder / "photo", std::ios::binary) << jpeg_file(800, 1600);
+  const std::string preview = folder / "preview.png";
+  run_tool(
+      {"check", folder / "photo", "--size", "10x15", "--scaling", "fill", "--picture", preview});
+  const PngFile png = read_png(preview);
+  EXPECT_EQ(png.At(png.width / 2, png.height / 2), (Rgb{0x80, 0x80, 0x80}));
+  EXPECT_EQ(png.At(60, png.height / 2), (Rgb{162, 162, 162}));
+  EXPECT_EQ(png.At(png.width - 60, png.height / 2), (Rgb{162, 162, 162}));
+}
+
+TEST(CheckPicture, ShowsWhereTheSheetIsCutInTwo) {
+  const TempFolder folder;
+  std::ofstream(folder / "photo", std::ios::binary) << jpeg_file(1852, 1232);
+  const std::string preview = folder / "preview.png";
+  run_tool({"check", folder / "photo", "--size", "5x15x2_1", "--picture", preview});
+  const PngFile png = read_png(preview);
+  int dark = 0;
+  for (std::size_t y = png.height / 2 - 30; y < png.height / 2 + 30; ++y) {
+    dark += png.At(500, y) == Rgb{0x40, 0x40, 0x40} ? 1 : 0;
+  }
+  EXPECT_EQ(dark, 1);
 }
 
 TEST(CheckPicture, ThatCannotBeWrittenSaysWhy) {

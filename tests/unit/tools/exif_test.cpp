@@ -18,6 +18,42 @@ const Bytes kLittleEndian = {'I', 'I', 42, 0, 8, 0, 0, 0, 1, 0, 0x12, 0x01, 3,
 const Bytes kBigEndian = {'M', 'M', 0, 42, 0, 0, 0, 8, 0, 1, 0x01, 0x12, 0,
                           3,   0,   0, 0,  1, 0, 6, 0, 0, 0, 0,    0,    0};
 
+// Across 145 / 2 and down 300 / 2, behind two entries.
+const Bytes kDensity = {'M',  'M',  0, 42,  0, 0, 0, 8, 0, 2,                     // two entries
+                        0x01, 0x1A, 0, 5,   0, 0, 0, 1, 0, 0, 0, 38,              // across
+                        0x01, 0x1B, 0, 5,   0, 0, 0, 1, 0, 0, 0, 46, 0, 0, 0, 0,  // down
+                        0,    0,    0, 145, 0, 0, 0, 2, 0, 0, 1, 44, 0, 0, 0, 2};
+
+TEST(ExifDensity, IsTheWholePartOfAFraction) {
+  EXPECT_EQ(exif_density(kDensity).across, 72U);
+  EXPECT_EQ(exif_density(kDensity).down, 150U);
+}
+
+TEST(ExifDensity, IsNoneWhereAFractionIsNone) {
+  Bytes bytes = kDensity;
+  bytes[45] = 0;  // divided by 0
+  EXPECT_EQ(exif_density(bytes).across, 0U);
+  EXPECT_EQ(exif_density(bytes).down, 150U);
+}
+
+TEST(ExifDensity, IsNoneWhereThereIsNone) {
+  EXPECT_FALSE(exif_density({}).IsKnown());
+  EXPECT_FALSE(exif_density(kBigEndian).IsKnown());
+}
+
+TEST(ExifDensity, OfDataThatIsCutOffReadsNothingBeyond) {
+  for (std::size_t length = 0; length < kDensity.size(); ++length) {
+    const Bytes cut(kDensity.begin(), kDensity.begin() + static_cast<std::ptrdiff_t>(length));
+    EXPECT_FALSE(exif_density(cut).IsKnown()) << length;
+  }
+}
+
+TEST(PixelAspect, IsThatOfASquareUnlessBothDensitiesAreKnown) {
+  EXPECT_EQ((PixelDensity{0, 144}.Aspect()), 1.0F);
+  EXPECT_EQ((PixelDensity{72, 0}.Aspect()), 1.0F);
+  EXPECT_EQ((PixelDensity{72, 144}.Aspect()), 2.0F);
+}
+
 TEST(ExifOrientation, IsReadInEitherByteOrder) {
   EXPECT_EQ(exif_orientation(kLittleEndian), 6);
   EXPECT_EQ(exif_orientation(kBigEndian), 6);

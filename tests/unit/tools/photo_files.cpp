@@ -63,6 +63,21 @@ std::string jpeg_file(unsigned width, unsigned height, const std::vector<std::ui
   return file;
 }
 
+std::string with_density(std::string jpeg, unsigned char unit, unsigned char across,
+                         unsigned char down) {
+  jpeg[13] = static_cast<char>(unit);
+  jpeg[15] = static_cast<char>(across);
+  jpeg[17] = static_cast<char>(down);
+  return jpeg;
+}
+
+std::vector<std::uint8_t> exif_density_data(std::uint8_t across, std::uint8_t down) {
+  return {'M',  'M',  0, 42,     0, 0, 0, 8, 0, 2,                       // two entries
+          0x01, 0x1A, 0, 5,      0, 0, 0, 1, 0, 0, 0, 38,                // across
+          0x01, 0x1B, 0, 5,      0, 0, 0, 1, 0, 0, 0, 46,   0, 0, 0, 0,  // down
+          0,    0,    0, across, 0, 0, 0, 2, 0, 0, 0, down, 0, 0, 0, 2};
+}
+
 std::vector<std::uint8_t> exif_data(std::uint8_t orientation) {
   return {'M', 'M', 0, 42, 0, 0, 0,           8, 0, 1, 0x01, 0x12, 0,
           3,   0,   0, 0,  1, 0, orientation, 0, 0, 0, 0,    0,    0};

@@ -12,6 +12,13 @@
 std::string jpeg_file(unsigned width, unsigned height, const std::vector<std::uint8_t>& exif = {},
                       const std::vector<std::uint8_t>& profile = {});
 
+/// The JPEG file with this density in its first marker; unit 1 is the inch, 2 the centimetre.
+std::string with_density(std::string jpeg, unsigned char unit, unsigned char across,
+                         unsigned char down);
+
+/// Exif data that says these densities, as fractions of 2.
+std::vector<std::uint8_t> exif_density_data(std::uint8_t across, std::uint8_t down);
+
 /// Exif data that says this orientation and nothing else.
 std::vector<std::uint8_t> exif_data(std::uint8_t orientation);
 

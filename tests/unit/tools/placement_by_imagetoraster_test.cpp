@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "tests/unit/temp_file.h"
+#include "tests/unit/tools/photo_files.h"
 #include "tests/unit/tools/tool_process.h"
 #include "tools/picture.h"
 #include "tools/placement.h"
@@ -72,14 +73,12 @@ RasterPage read_raster(const std::string& path) {
   return page;
 }
 
-RasterPage print(const PlacementCase& that) {
+RasterPage print(const PlacementCase& that, const std::string& picture, const char* type) {
   const TempFolder folder;
-  write_picture(folder / "picture.png", picture_of_places(that.width, that.height));
   const ToolRun run = run_program(
-      {"env", std::string("PPD=") + TQR7_PPD, "LC_ALL=C", "CONTENT_TYPE=image/png",
+      {"env", std::string("PPD=") + TQR7_PPD, "LC_ALL=C", std::string("CONTENT_TYPE=") + type,
        "FINAL_CONTENT_TYPE=application/vnd.cups-raster", IMAGETORASTER, "1", "anna", "Beach", "1",
-       "PageSize=" + std::string(that.size) + " print-scaling=" + words(that.scaling),
-       folder / "picture.png"});
+       "PageSize=" + std::string(that.size) + " print-scaling=" + words(that.scaling), picture});
   EXPECT_EQ(run.status, 0) << run.errors;
   std::ofstream(folder / "raster", std::ios::binary) << run.out;
   return read_raster(folder / "raster");
@@ -99,7 +98,9 @@ TEST_P(PlacementByImagetoraster, IsAsPredicted) {
   const PlacementCase& that = GetParam();
   const Placement placement =
       place_picture(that.width, that.height, *find_print_size(that.size), that.scaling);
-  const RasterPage page = print(that);
+  const TempFolder folder;
+  write_picture(folder / "picture.png", picture_of_places(that.width, that.height));
+  const RasterPage page = print(that, folder / "picture.png", "image/png");
   ASSERT_EQ(page.width, placement.width);
   ASSERT_EQ(page.height, placement.height);
 
@@ -149,6 +150,56 @@ INSTANTIATE_TEST_SUITE_P(AtTheEdges, PlacementByImagetoraster,
                                          PlacementCase{1000, 1000, "RQ_10x15", kFill},
                                          PlacementCase{300, 3000, "RQ_10x15", kFill},
                                          PlacementCase{3000, 300, "RQ_13x18_WB", kFit}));
+
+// A photo whose file says how dense its pixels are.
+struct DensityCase {
+  const char* name;
+  std::string photo;
+  PlacementCase place;
+};
+
+void PrintTo(const DensityCase& that, std::ostream* out) {
+  *out << that.name;
+}
+
+class PlacementOfPixelsThatAreNotSquare : public testing::TestWithParam<DensityCase> {};
+
+TEST_P(PlacementOfPixelsThatAreNotSquare, IsAsPredicted) {
+  const auto& [name, photo, that] = GetParam();
+  const TempFolder folder;
+  std::ofstream(folder / "photo.jpg", std::ios::binary) << photo;
+  const RasterPage page = print(that, folder / "photo.jpg", "image/jpeg");
+  const PictureFile file = read_picture_file(folder / "photo.jpg");
+  const Placement placement = place_picture(that.width, that.height, *find_print_size(that.size),
+                                            that.scaling, file.density.Aspect());
+  EXPECT_EQ(page.width, placement.width);
+  EXPECT_EQ(page.height, placement.height);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    AsTheFileSays, PlacementOfPixelsThatAreNotSquare,
+    testing::Values(DensityCase{"high",
+                                with_density(jpeg_file(1600, 1200), 1, 72, 144),
+                                {1600, 1200, "RQ_10x15", kFit}},
+                    DensityCase{"high, cropped as if square",
+                                with_density(jpeg_file(1600, 1200), 1, 72, 144),
+                                {1600, 1200, "RQ_10x15", kFill}},
+                    DensityCase{"wide, turned",
+                                with_density(jpeg_file(1600, 1200), 1, 144, 72),
+                                {1600, 1200, "RQ_13x18_WB", kFit}},
+                    DensityCase{"to the centimetre",
+                                with_density(jpeg_file(1201, 1600), 2, 28, 57),
+                                {1201, 1600, "RQ_13x13", kFill}},
+                    DensityCase{"without a unit",
+                                with_density(jpeg_file(1600, 1200), 0, 1, 2),
+                                {1600, 1200, "RQ_10x15", kFit}},
+                    DensityCase{"half known",
+                                with_density(jpeg_file(1600, 1200), 1, 72, 0),
+                                {1600, 1200, "RQ_10x15", kFit}},
+                    DensityCase{
+                        "in the Exif data",
+                        with_density(jpeg_file(1600, 1200, exif_density_data(145, 250)), 1, 72, 72),
+                        {1600, 1200, "RQ_10x15", kFit}}));
 
 }  // namespace
 }  // namespace tools
