@@ -246,25 +246,6 @@ TEST(Fields, GiveOneErrorForARunOfBytesThatShouldBeZero) {
                           "are not zero, allowed 0x00"));
 }
 
-TEST(Fields, OfARepeatedQueryMustBeThoseOfTheFirst) {
-  Bytes second = stream::readiness_query(stream::paper_10x15(), Finish::Gloss);
-  second.at(82) = 0x63;
-  EXPECT_THAT(errors_open(stream::join(
-                  {stream::status_request(),
-                   stream::readiness_query(stream::paper_10x15(), Finish::Gloss), second})),
-              ElementsAre("offset 602: readiness query, OP rate: came 0x63, allowed 0x64 as in the "
-                          "last readiness query"));
-}
-
-TEST(Fields, OfAQueryMayBeOthersBehindTheNextStatusRequest) {
-  Bytes other = stream::readiness_query(stream::paper_10x15(), Finish::Gloss);
-  other.at(10) = 9;
-  EXPECT_THAT(errors_of(stream::join({stream::status_request(),
-                                      stream::readiness_query(stream::paper_10x15(), Finish::Gloss),
-                                      stream::status_request(), other})),
-              testing::IsEmpty());
-}
-
 TEST(Fields, OfThePrintOutAreChecked) {
   EXPECT_THAT(
       errors_of(stream::join({stream::status_request(), {0x1B, 0x42, 0x51, 0x31, 0x01, 0x05}})),

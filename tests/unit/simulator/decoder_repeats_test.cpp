@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The wait byte at a job's end against that of its sheets.
+// What one command of the stream must repeat of another, and what it need not.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -13,6 +13,25 @@ using stream::Bytes;
 using stream::Finish;
 using testing::ElementsAre;
 using testing::IsEmpty;
+
+TEST(Fields, OfARepeatedQueryMustBeThoseOfTheFirst) {
+  Bytes second = stream::readiness_query(stream::paper_10x15(), Finish::Gloss);
+  second.at(82) = 0x63;
+  EXPECT_THAT(errors_open(stream::join(
+                  {stream::status_request(),
+                   stream::readiness_query(stream::paper_10x15(), Finish::Gloss), second})),
+              ElementsAre("offset 602: readiness query, OP rate: came 0x63, allowed 0x64 as in the "
+                          "last readiness query"));
+}
+
+TEST(Fields, OfAQueryBehindAStatusRequestMayBeOthers) {
+  EXPECT_THAT(
+      errors_open(stream::join({stream::status_request(),
+                                stream::readiness_query(stream::paper_10x15(), Finish::Gloss),
+                                stream::status_request(),
+                                stream::readiness_query(stream::paper_5x15(), Finish::Matte)})),
+      IsEmpty());
+}
 
 TEST(WaitByte, OfThePrintOutIsThatOfTheJobHeader) {
   const Bytes sheet = stream::sheet(stream::paper_5x15(), Finish::Gloss, {});
