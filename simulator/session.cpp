@@ -143,7 +143,7 @@ void Session::OnReadinessQuery(std::uint64_t offset, const decoder::JobHeader& h
   if (!permission_.RepeatAllowed()) {
     OnError({offset, decoder::Command::ReadinessQuery, "answer to the readiness query",
              "a repeated query after " + permission_.ReadinessSeen(),
-             "a repeated query after " + hex_number(kEnableBusy)});
+             "a repeated query after " + decoder::hex_word(kEnableBusy)});
   }
   const AnswerPlan plan = printer_.faults.Answer(Question::Readiness, true);
   permission_.ReadinessAnswered(plan);
