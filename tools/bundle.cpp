@@ -5,6 +5,7 @@
 #include <archive_entry.h>
 
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 
 namespace tools {
@@ -43,6 +44,14 @@ std::string words_of(archive* writer) {
   return words != nullptr ? words : "it cannot be written";
 }
 
+// Half a bundle is of no use. What is no file, such as a device, is not ours to remove.
+void remove_part(const std::string& path) {
+  std::error_code none;
+  if (std::filesystem::is_regular_file(path, none)) {
+    std::remove(path.c_str());
+  }
+}
+
 }  // namespace
 
 std::string write_bundle(const std::string& path, const std::string& folder,
@@ -56,7 +65,7 @@ std::string write_bundle(const std::string& path, const std::string& folder,
   }
   if (!add_files(writer.get(), folder, files)) {
     std::string words = words_of(writer.get());
-    std::remove(path.c_str());
+    remove_part(path);
     return words;
   }
   return {};

@@ -40,9 +40,11 @@ PATH=$PATH:/usr/sbin lpadmin -p photo -v "$(printer_uri "$PRINTER_PORT")"
 "$TQR7_BUILD/tqr7" resume photo >/dev/null || fail 'resume'
 expect_completed "$JOB"
 
-SAID=$(report -o "$work/report.tar.gz" --stream "$work/stream")
+mkdir "$work/tmp"
+SAID=$(TMPDIR=$work/tmp report -o "$work/report.tar.gz" --stream "$work/stream")
 expect_equal 'the exit status' 0 "$?"
 expect_equal 'what is said' "$work/report.tar.gz" "$SAID"
+expect_equal 'what is left behind' '' "$(ls "$work/tmp")"
 expect_equal 'the files' 'tqr7-report-photo-1/README.txt
 tqr7-report-photo-1/versions.txt
 tqr7-report-photo-1/status.txt
@@ -69,6 +71,7 @@ expect_in log.txt '[Job 1] argv[3]=(left out)'
 expect_in exchanges.txt '[CMD] 0000: 1b 47 44 30 00 00 01 16'
 expect_in exchanges.txt '[STS]CMD_GET_ENABLE 0000: '
 expect_in stream.txt 'job header, 512 bytes'
+grep -E '^  [0-9a-f]+:( 00)+$' "$folder/stream.txt" && fail 'stream.txt has lines of zeros'
 
 # Nothing personal: the title in all of its parts, the user, the machine, names of queue and place.
 expect_nowhere geburtstag "Erna's" erna mustermann Keller Drucker 127.0.0.1 'localhost' \

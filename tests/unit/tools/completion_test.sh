@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: Apache-2.0
 # The completion of tqr7 as bash calls it: what it offers behind some words of a command line.
+# completion_test.sh COMPLETION TQR7
 set -euo pipefail
 
 folder=$(mktemp -d)
@@ -51,5 +52,30 @@ expect tqr7 check --size RQ_10 = 'RQ_10x15 RQ_10x15_WB'
 expect tqr7 check --size RQ_5 = 'RQ_5x15 RQ_5x15x2_1 RQ_5x15x2_2'
 expect tqr7 check --size '' = "RQ_9x13 RQ_9x13_WB RQ_10x15 RQ_10x15_WB RQ_13x18 RQ_13x18_WB \
 RQ_15x20 RQ_15x20_WB RQ_5x15 RQ_15x15 RQ_13x13 RQ_5x15x2_1 RQ_5x15x2_2"
+
+# All options that there are, and no other, in the words of the program's own help.
+options_of_help() {
+  "$tool" "$@" --help | sed -n 's/^  \(-[a-zA-Z],\)\{0,1\}\(--[a-z-]*\).*/\2/p' | sort | paste -sd ' '
+}
+options_offered() {
+  _tqr7_options "$@" | tr ' ' '\n' | sort | paste -sd ' '
+}
+tool=$2
+subcommands=$("$tool" --help | sed '1,/^Subcommands:/d' | awk 'NF { print $1 }')
+for subcommand in '' $subcommands; do
+  there_are=$(options_of_help ${subcommand:+"$subcommand"})
+  offered=$(options_offered "$subcommand")
+  if [ -z "$there_are" ] || [ "$there_are" != "$offered" ]; then
+    echo "tqr7 $subcommand has \"$there_are\", offered is \"$offered\"" >&2
+    failed=1
+  fi
+  COMP_WORDS=(tqr7 "$subcommand")
+  COMP_CWORD=1
+  _tqr7
+  if [ -z "${COMPREPLY[*]}" ]; then
+    echo "the subcommand $subcommand is not offered" >&2
+    failed=1
+  fi
+done
 
 exit $failed

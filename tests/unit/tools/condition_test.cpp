@@ -125,6 +125,11 @@ TEST(ConditionInWords, TellsWhoStoppedTheQueue) {
   EXPECT_THAT(words, HasSubstr("When the queue is started again: `tqr7 resume photo`"));
 }
 
+TEST(ConditionInWords, QuotesNoProgramAsAPersonsWords) {
+  EXPECT_THAT(tools::in_words(condition_of(refused_queue("photo"))),
+              Not(HasSubstr("Said with it")));
+}
+
 TEST(ConditionInWords, ListsTenJobsAtMost) {
   Queue queue = idle_queue("photo");
   for (int id = 1; id <= 11; ++id) {
@@ -156,6 +161,18 @@ TEST(ConditionAsJson, TellsAllOfAQueue) {
   EXPECT_EQ(photo["jobs"]["stopped"], nlohmann::json::array({7}));
   EXPECT_EQ(photo["bidirectional"], true);
   EXPECT_EQ(photo["backend"], "socket");
+}
+
+TEST(ConditionAsJson, SaysNullWhereNothingIsKnown) {
+  Queue queue = refused_queue("photo");
+  queue.message = "Paused";
+  queue.deviceUri = "beh:/1/3/5/socket://printer";
+  const nlohmann::json json = nlohmann::json::parse(tools::as_json({condition_of(queue)}, false));
+  const nlohmann::json& photo = json["queues"][0];
+  EXPECT_EQ(photo["standstill"]["by"], "person");
+  EXPECT_TRUE(photo["standstill"]["job"].is_null());
+  EXPECT_TRUE(photo["standstill"]["word"].is_null());
+  EXPECT_TRUE(photo["bidirectional"].is_null());
 }
 
 TEST(ConditionAsJson, IsOneLineWhenCompact) {

@@ -43,6 +43,13 @@ INSTANTIATE_TEST_SUITE_P(Writings, ExplainInAnyWriting,
                                          "Com.Corvantiel-Error0008_2665",
                                          "com.corvantiel-error0008_2665-error"));
 
+TEST(Explain, LetsNoControlCharacterThrough) {
+  const ToolRun run = run_tool({"explain", "a\033[2Jb"});
+  EXPECT_THAT(run.out, testing::Not(HasSubstr("\033")));
+  EXPECT_THAT(run.errors, testing::Not(HasSubstr("\033")));
+  EXPECT_EQ(run.status, 1);
+}
+
 TEST(Explain, FillsAShortNumberUp) {
   EXPECT_THAT(run_tool({"explain", "4"}).out,
               StartsWith("Number:  0004\nClass:   0004\nKeyword: com.corvantiel-error0004\n"));

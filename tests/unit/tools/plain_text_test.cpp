@@ -30,6 +30,19 @@ TEST(PlainText, ReplacesEachByteThatIsNotUtf8) {
   EXPECT_EQ(plain_text("\xF4\x90\x80\x80"), "????");
 }
 
+TEST(PlainText, ReplacesLongWritingsOfShortCharacters) {
+  EXPECT_EQ(plain_text("\xE0\x80\x80"), "???");
+  EXPECT_EQ(plain_text("\xF0\x80\x80\x80"), "????");
+}
+
+TEST(PlainText, ReplacesTheEndOfADirection) {
+  EXPECT_EQ(plain_text("a\u2069b"), "a?b");
+}
+
+TEST(PlainText, ReadsNothingBehindItsEnd) {
+  EXPECT_EQ(plain_text(std::string_view("\u20AC").substr(0, 2)), "??");
+}
+
 TEST(PlainText, IsCutBetweenCharacters) {
   EXPECT_EQ(plain_text("abcdef", 3), "abc…");
   EXPECT_EQ(plain_text("abc", 3), "abc");

@@ -3,6 +3,7 @@
 // tqr7 proof as a person runs it.
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <string>
 
 #include "tests/unit/simulator/png_file.h"
@@ -136,6 +137,27 @@ TEST(Proof, ThroughAFileThatIsNoProfileSaysWhy) {
   EXPECT_THAT(run.errors, testing::StartsWith("tqr7 proof: " + (folder / "profile") + ": "));
   EXPECT_EQ(run.status, 2);
   EXPECT_FALSE(std::filesystem::exists(folder / "proofs"));
+}
+
+TEST(Proof, SaysTheFirstErrorsOnly) {
+  const TempFolder folder;
+  std::string garbage;
+  for (int i = 0; i < 30; ++i) {
+    garbage += "\x1BGD0" + std::string("\x01\x00\x01\x16", 4);
+  }
+  const ToolRun run = run_tool({"proof", "-", "-o", folder.path().string()}, garbage);
+  EXPECT_EQ(std::count(run.errors.begin(), run.errors.end(), '\n'), 20);
+  EXPECT_EQ(run.out, "0 sheets, 30 errors\n");
+}
+
+TEST(Proof, OfASheetThatCannotBeWrittenHasNoAnswer) {
+  const TempFolder folder;
+  const ToolRun run =
+      run_program({"sh", "-c", "trap '' XFSZ; ulimit -f 1; exec \"$0\" proof - -o \"$1\"",
+                   TQR7_TOOL, folder.path().string()},
+                  text_of(stream::small_job()));
+  EXPECT_THAT(run.errors, HasSubstr("tqr7 proof: "));
+  EXPECT_EQ(run.status, 2);
 }
 
 TEST(Proof, NeedsAFolder) {

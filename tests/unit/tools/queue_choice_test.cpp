@@ -37,6 +37,15 @@ TEST(QueueChoice, SaysThatNoneIsTheDrivers) {
   EXPECT_THAT(choice.complaints, ElementsAre("there is no queue of this driver's"));
 }
 
+TEST(QueueChoice, FollowsNoClassIntoItself) {
+  Queue circle = idle_queue("circle");
+  circle.isClass = true;
+  circle.makeAndModel = "Local Printer Class";
+  circle.members = {"circle", "lost"};
+  const Room room{{circle}};
+  EXPECT_THAT(tools::choose_queues(room, {}).queues, IsEmpty());
+}
+
 TEST(QueueChoice, FollowsTheNamesInTheirOrder) {
   const Room room{{idle_queue("left"), idle_queue("right")}};
   EXPECT_THAT(tools::choose_queues(room, {"right", "left"}).queues,

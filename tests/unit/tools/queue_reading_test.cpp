@@ -112,6 +112,12 @@ TEST(QueueReading, TakesNothingFromAttributesOfAnotherType) {
   EXPECT_THAT(room.queues[0].reasons, IsEmpty());
 }
 
+TEST(QueueReading, TakesATimeBeforeAllTimesForNone) {
+  Answer answer;
+  answer.Name(kPrinter, "printer-name", "photo").Number(kPrinter, "printer-state-change-time", -5);
+  EXPECT_EQ(tools::read_queues(answer.Message()).queues.at(0).changedAt, 0);
+}
+
 TEST(QueueReading, KnowsNoStateOutsideTheStandard) {
   Answer answer;
   answer.Name(kPrinter, "printer-name", "photo").Enum(kPrinter, "printer-state", 261);

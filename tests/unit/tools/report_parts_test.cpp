@@ -5,6 +5,7 @@
 
 #include <vector>
 
+#include "tests/unit/temp_file.h"
 #include "tools/bundle.h"
 #include "tools/header_blocks.h"
 #include "tools/job_log.h"
@@ -112,8 +113,8 @@ TEST(PersonalWords, ReplacesNumericAddresses) {
 
 TEST(PersonalWords, LeavesVersionsAndNumbersAlone) {
   const PersonalWords words;
-  EXPECT_EQ(words.Without("CUPS 2.4.2, 1.2.3.4.5, 6.17 x 4.11"),
-            "CUPS 2.4.2, 1.2.3.4.5, 6.17 x 4.11");
+  EXPECT_EQ(words.Without("CUPS 2.4.2, 1.2.3.4.5, 1234.1.1.1, 6.17 x 4.11"),
+            "CUPS 2.4.2, 1.2.3.4.5, 1234.1.1.1, 6.17 x 4.11");
 }
 
 TEST(JobLog, KeepsTheLinesOfItsJobOnly) {
@@ -182,10 +183,12 @@ TEST(JobLog, TakesTheExchangesOutOfTheLines) {
   JobLog log(12, words);
   log.Take(debug_line("[CMD] 0000: 1b 47 44 30"));
   log.Take(debug_line("Loading print file."));
+  log.Take(debug_line("CUPS_SC_CMD_DRAIN_OUTPUT=CUPS_SC_STATUS_OK(1)"));
   log.Take(debug_line("[STS] 0000: 00 00"));
   log.Take(debug_line("=======> printer_state=GOOD"));
   EXPECT_EQ(log.Exchanges(),
-            "[CMD] 0000: 1b 47 44 30\n[STS] 0000: 00 00\n=======> printer_state=GOOD\n");
+            "[CMD] 0000: 1b 47 44 30\nCUPS_SC_CMD_DRAIN_OUTPUT=CUPS_SC_STATUS_OK(1)\n"
+            "[STS] 0000: 00 00\n=======> printer_state=GOOD\n");
 }
 
 TEST(JobLog, TellsWhetherThereAreDebugLines) {
@@ -205,6 +208,17 @@ TEST(HeaderBlocks, ListsCommandsWithoutTheirLinesOfZeros) {
             "stream of 8 bytes, 0 errors\n");
 }
 
+TEST(HeaderBlocks, ListsNoMoreThanABugReportCanCarry) {
+  std::vector<std::uint8_t> stream;
+  for (int i = 0; i < 140000; ++i) {
+    stream.insert(stream.end(), {0x1B, 0x47, 0x44, 0x30, 0x00, 0x00, 0x01, 0x16});
+  }
+  const std::string text = blocks_of(stream);
+  EXPECT_GT(text.size(), 8U << 20U);
+  EXPECT_LT(text.size(), (8U << 20U) + 1000);
+  EXPECT_THAT(text, testing::EndsWith("stream of 1120000 bytes, 0 errors\n"));
+}
+
 TEST(HeaderBlocks, ShowsNothingBehindTheFirstError) {
   std::vector<std::uint8_t> stream(20, 0xAB);
   const std::vector<std::uint8_t> request = {0x1B, 0x47, 0x44, 0x30, 0x00, 0x00, 0x01, 0x16};
@@ -220,6 +234,13 @@ TEST(FileName, HoldsNothingThatAFolderOrAShellTakesNoticeOf) {
   EXPECT_EQ(tools::file_name_of("../a b/ö"), "_._a_b___");
   EXPECT_EQ(tools::file_name_of(""), "_");
   EXPECT_EQ(tools::file_name_of(std::string(100, 'a')), std::string(64, 'a'));
+}
+
+TEST(Bundle, LeavesADeviceAloneThatTakesNothing) {
+  const TempFolder folder;
+  std::filesystem::create_symlink("/dev/full", folder / "full");
+  EXPECT_NE(tools::write_bundle(folder / "full", "a", {{"b", "c"}}), "");
+  EXPECT_TRUE(std::filesystem::is_symlink(folder / "full"));
 }
 
 TEST(Bundle, SaysWhyItCannotBeWritten) {

@@ -220,6 +220,26 @@ TEST(Standstill, IsAPersonsWhenAPersonStoppedBehindThePolicy) {
   EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
 }
 
+TEST(Standstill, IsAPersonsWhenTheStoppedJobsMessageIsNoPrograms) {
+  Queue queue = refused_queue("photo");
+  queue.jobs.front().printerMessage = "Bea was here";
+  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
+}
+
+// Which member a class's job ran on is not told, so one that came through says nothing.
+TEST(Standstill, IsTheDriversThoughAJobOfAClassCameThroughLater) {
+  Queue group = idle_queue("room");
+  group.isClass = true;
+  group.members = {"photo"};
+  group.jobs = {refused_job(8)};
+  group.jobs.front().state = JobState::Completed;
+  group.jobs.front().processingSince = 995;
+  const Room room{{refused_queue("photo"), group}};
+  const Cause cause = tools::cause_of_standstill(room, room.queues.front());
+  EXPECT_EQ(cause.kind, Standstill::Refused);
+  EXPECT_EQ(cause.job, 7);
+}
+
 TEST(RefusalWord, IsEachOfTheDriversWordsWithItsNumber) {
   EXPECT_EQ(tools::refusal_word("pagesize-inkribbon-unmuch 0x0001"), "pagesize-inkribbon-unmuch");
   EXPECT_EQ(tools::refusal_word("driver-setting-unmuch 0x0200"), "driver-setting-unmuch");
