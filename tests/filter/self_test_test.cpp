@@ -46,6 +46,13 @@ std::string DotOfImage(const std::string& stream, int width, int x, int y) {
   return dot;
 }
 
+/// The pixels of the test page under one more variable of the environment.
+std::string PictureWith(const std::pair<std::string, std::string>& variable) {
+  Job job = SelfTestJob();
+  job.environment = {variable};
+  return Print(job).stream.substr(kImageStart);
+}
+
 TEST(SelfTest, IsASheetLikeAPhotos) {
   const Outcome outcome = Print(SelfTestJob());
 
@@ -69,6 +76,18 @@ TEST(SelfTest, HasItsPatchesInTheImage) {
   EXPECT_EQ(DotOfImage(outcome.stream, 1852, 820, 110), "8000FF");
   EXPECT_EQ(DotOfImage(outcome.stream, 1852, 110, 208), "F6D7C3");
   EXPECT_EQ(DotOfImage(outcome.stream, 1852, 211, 310), "242424");
+}
+
+TEST(SelfTest, NamesItsQueue) {
+  EXPECT_TRUE(SameStream(PictureWith({"PRINTER", "photo"}), PictureWith({"PRINTER", "photo"})));
+  EXPECT_FALSE(SameStream(PictureWith({"PRINTER", "photo"}), PictureWith({"PRINTER", "paper"})));
+}
+
+TEST(SelfTest, ShowsItsDateToTheMinute) {
+  const std::string picture = PictureWith({"FILTER_TEST_CLOCK", "2026 3 4 5 6 7"});
+  EXPECT_TRUE(SameStream(picture, PictureWith({"FILTER_TEST_CLOCK", "2026 3 4 5 6 8"})));
+  EXPECT_FALSE(SameStream(picture, PictureWith({"FILTER_TEST_CLOCK", "2026 3 4 5 7 7"})));
+  EXPECT_FALSE(SameStream(picture, PictureWith({"FILTER_TEST_CLOCK", "2026 3 5 5 6 7"})));
 }
 
 TEST(SelfTest, IsPrintedWithTheJobsOptions) {
