@@ -152,7 +152,8 @@ void read_into(Job& job, const Attribute& attribute) {
     attribute.To(job.processingSince);
   } else if (attribute.Is("job-impressions-completed")) {
     attribute.To(job.impressions);
-  } else if (attribute.Is("document-format-detected")) {
+  } else if (attribute.Is("document-format") || attribute.Is("document-format-detected")) {
+    // Detected is only what was sent without a type.
     attribute.To(job.format);
   }
 }

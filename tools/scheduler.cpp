@@ -28,15 +28,16 @@ constexpr std::array<const char*, 12> kQueueAttributes = {"printer-name",
                                                           "device-uri",
                                                           "printer-error-policy",
                                                           "printer-commands"};
-constexpr std::array<const char*, 9> kJobAttributes = {"job-id",
-                                                       "job-printer-uri",
-                                                       "job-state",
-                                                       "job-state-reasons",
-                                                       "job-printer-state-message",
-                                                       "job-printer-state-reasons",
-                                                       "time-at-processing",
-                                                       "job-impressions-completed",
-                                                       "document-format-detected"};
+constexpr std::array<const char*, 10> kJobAttributes = {"job-id",
+                                                        "job-printer-uri",
+                                                        "job-state",
+                                                        "job-state-reasons",
+                                                        "job-printer-state-message",
+                                                        "job-printer-state-reasons",
+                                                        "time-at-processing",
+                                                        "job-impressions-completed",
+                                                        "document-format",
+                                                        "document-format-detected"};
 
 int give_up(http_t* /*http*/, void* /*data*/) {
   return 0;

@@ -120,6 +120,12 @@ expect_nowhere erna mustermann geburtstag 127.0.0.1 localhost
 
 SAID=$(report 99)
 expect_equal 'no such job' "tqr7 report: no queue of this driver's has a job 99" "$SAID"
+SAID=$(report 1x)
+expect_equal 'no whole number' 'tqr7 report: "1x" is not the number of a job' "$SAID"
+# The question put to a printer is a job, too, but not the one that a person means.
+"$TQR7_BUILD/tqr7" status --ask photo >/dev/null
+expect_equal 'the last job' "$work/last.tar.gz" "$(report -o "$work/last.tar.gz")"
+expect_contains 'the last job' 'tqr7-report-room-2/job.txt' "$(tar -tzf "$work/last.tar.gz")"
 SAID=$(report last)
 expect_equal 'no number' 'tqr7 report: "last" is not the number of a job' "$SAID"
 SAID=$(CUPS_SERVER=$work/nobody report)

@@ -102,6 +102,8 @@ watcher=$!
 wait_until 'the first look' grep -q '^good: good' "$work/watched"
 cupsdisable good
 wait_until 'the change' grep -q '^good: not good, stopped' "$work/watched"
+# A few looks more, at which nothing has changed.
+sleep 0.5
 kill -INT "$watcher"
 wait "$watcher"
 expect_equal 'the exit status of --watch' 1 "$?"

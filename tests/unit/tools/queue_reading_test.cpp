@@ -149,6 +149,24 @@ TEST(QueueReading, GivesEachQueueItsJobsByNumber) {
   EXPECT_EQ(room.queues[0].jobs[1].printerMessage, "Filter failed");
 }
 
+TEST(QueueReading, TellsAJobOfCommandsByItsFormatDetectedOrNot) {
+  Room room;
+  room.queues.resize(1);
+  room.queues[0].name = "photo";
+  Answer answer;
+  answer.Number(kJob, "job-id", 8)
+      .Uri(kJob, "job-printer-uri", "ipp://localhost/printers/photo")
+      .Name(kJob, "document-format", "application/vnd.cups-command")
+      .Next()
+      .Number(kJob, "job-id", 9)
+      .Uri(kJob, "job-printer-uri", "ipp://localhost/printers/photo")
+      .Name(kJob, "document-format-detected", "application/vnd.cups-command");
+  tools::read_jobs(answer.Message(), room);
+  ASSERT_EQ(room.queues[0].jobs.size(), 2U);
+  EXPECT_TRUE(tools::is_command(room.queues[0].jobs[0]));
+  EXPECT_TRUE(tools::is_command(room.queues[0].jobs[1]));
+}
+
 TEST(QueueReading, PassesOverJobsWithoutANumber) {
   Room room;
   room.queues.resize(1);
