@@ -62,6 +62,14 @@ bool shows_refusal(const Job& job) {
              : job.state == JobState::Stopped && is_of_programs(job.printerMessage);
 }
 
+// A change of the queue, such as of its address, puts a job in print back, also one that was
+// refused a moment before. So does a person's stop, but that takes the word out of the queue's
+// message.
+bool shows_refusal_put_back(const Queue& queue, const Job& job) {
+  return job.state == JobState::Pending && contains(job.printerReasons, "paused") &&
+         !refusal_word(queue.message).empty() && queue.message == job.printerMessage;
+}
+
 bool speaks_of_failed_backend(const std::string& message) {
   return std::any_of(kWordsOfFailedBackends.begin(), kWordsOfFailedBackends.end(),
                      [&](std::string_view words) { return message.starts_with(words); });
@@ -131,7 +139,7 @@ Cause cause_of_standstill(const Room& room, const Queue& queue) {
   const Job* const job = last_job(room, queue);
   const bool touched = queue.isClass || contains(queue.reasons, "hold-new-jobs") ||
                        !is_of_programs(queue.message) || job == nullptr;
-  if (!touched && shows_refusal(*job)) {
+  if (!touched && (shows_refusal(*job) || shows_refusal_put_back(queue, *job))) {
     return {Standstill::Refused, job->id, refusal_word(job->printerMessage)};
   }
   if (!touched && queue.errorPolicy == "stop-printer" && shows_failed_backend(*job)) {

@@ -9,7 +9,8 @@
 // - The driver pauses the queue for a refused sheet. The job stands stopped, and keeps with itself
 //   the reason "paused" and the driver's word ("driver-setting-unmuch 0x0200"), or a later
 //   complaint of another program; the word stays when the job is cancelled afterwards. A person who
-//   stops a queue that prints leaves the job pending, also within the driver's last second.
+//   stops a queue that prints leaves the job pending, also within the driver's last second. So does
+//   a change of the queue's settings; then the driver's word is the queue's message, too.
 // - The error policy "stop-printer" stops the queue because the backend failed. The job is pending
 //   for the reason "printer-stopped", and keeps the backend's words with itself, or the driver's
 //   reason and a later complaint of another program.

@@ -220,6 +220,25 @@ TEST(Standstill, IsAPersonsWhenAPersonStoppedBehindThePolicy) {
   EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
 }
 
+TEST(Standstill, IsTheDriversWhereAChangeOfTheQueuePutTheRefusedJobBack) {
+  Queue queue = refused_queue("photo");
+  queue.message = "driver-setting-unmuch 0x0200";
+  queue.jobs.front().state = JobState::Pending;
+  queue.jobs.front().reasons = {"job-printing"};
+  const Cause cause = cause_of(queue);
+  EXPECT_EQ(cause.kind, Standstill::Refused);
+  EXPECT_EQ(cause.word, "driver-setting-unmuch");
+}
+
+TEST(Standstill, IsAPersonsWhereAPersonPutTheRefusedJobBack) {
+  Queue queue = refused_queue("photo");
+  queue.jobs.front().state = JobState::Pending;
+  for (const char* const message : {"", "Paused", "Waiting for printer to finish."}) {
+    queue.message = message;
+    EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson) << message;
+  }
+}
+
 TEST(Standstill, IsAPersonsWhenTheStoppedJobsMessageIsNoPrograms) {
   Queue queue = refused_queue("photo");
   queue.jobs.front().printerMessage = "Bea was here";
