@@ -47,13 +47,12 @@ bool PrintClient::Send(const stream::Bytes& bytes) const {
   return true;
 }
 
-std::size_t PrintClient::SendForAWhile(const stream::Bytes& bytes) const {
+std::size_t PrintClient::SendForAWhile(const stream::Bytes& bytes, int milliseconds) const {
   constexpr int kSmallBuffer = 16384;
-  constexpr int kWhileMilliseconds = 250;
   ::setsockopt(socket_, SOL_SOCKET, SO_SNDBUF, &kSmallBuffer, sizeof kSmallBuffer);
   std::size_t sent = 0;
   pollfd wait{socket_, POLLOUT, 0};
-  while (sent < bytes.size() && ::poll(&wait, 1, kWhileMilliseconds) > 0) {
+  while (sent < bytes.size() && ::poll(&wait, 1, milliseconds) > 0) {
     const ssize_t count =
         ::send(socket_, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL | MSG_DONTWAIT);
     sent += count > 0 ? static_cast<std::size_t>(count) : 0;

@@ -22,9 +22,9 @@ class PrintClient {
   /// Sends all bytes; false when the printer does not take them.
   bool Send(const stream::Bytes& bytes) const;
 
-  /// Sends what the printer takes within a quarter of a second, over buffers that are small; how
-  /// many bytes that were.
-  std::size_t SendForAWhile(const stream::Bytes& bytes) const;
+  /// Sends over buffers that are small until the printer takes nothing for so long; how many bytes
+  /// that were.
+  std::size_t SendForAWhile(const stream::Bytes& bytes, int milliseconds = 250) const;
 
   /// Reads what has come, and waits when nothing has; nothing at the end of the connection.
   stream::Bytes ReadSome() const;

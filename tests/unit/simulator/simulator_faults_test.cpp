@@ -198,7 +198,7 @@ TEST_F(Faults, LetASlowReaderAnswerWhenItHasReadTheQuestion) {
 }
 
 TEST_F(Faults, LetAVerySlowReaderTakeTheQuestionByteByByte) {
-  PrinterProcess printer(By({"read 15 bytes/s"}));
+  PrinterProcess printer(By({"read 20 bytes/s"}));
   const PrintClient client(printer.Port());
   ASSERT_TRUE(client.Send(stream::status_request()));
   EXPECT_FALSE(client.AnswerComes());
