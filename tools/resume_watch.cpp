@@ -36,11 +36,16 @@ int ResumeWatch::Step() {
   for (const Queue* const queue : choice.queues) {
     StepQueue(*room, *queue);
   }
-  return choice.complaints.empty() ? StatusOf(*room, choice.queues) : kExitCannotTell;
+  return choice.complaints.empty() ? StatusNow() : kExitCannotTell;
 }
 
-int ResumeWatch::StatusOf(const Room& room, const std::vector<const Queue*>& queues) const {
-  const ResumePlan plan = plan_resume(room, queues, rules_);
+// Looks again: what was just started runs.
+int ResumeWatch::StatusNow() {
+  const std::optional<Room> room = scheduler_.Look();
+  if (!room) {
+    return kExitCannotTell;
+  }
+  const ResumePlan plan = plan_resume(*room, choose_queues(*room, names_).queues, rules_);
   return plan.left.empty() && !plan.HasWork() ? kExitGood : kExitNotGood;
 }
 

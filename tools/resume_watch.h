@@ -39,7 +39,7 @@ class ResumeWatch {
   bool PrinterStillInError(const Room& room, const Queue& queue);
   bool Ask(const Queue& queue);
   void Attempt(const ResumePlan& plan, Track& track);
-  int StatusOf(const Room& room, const std::vector<const Queue*>& queues) const;
+  int StatusNow();
 
   Scheduler& scheduler_;
   ResumeActions& actions_;
