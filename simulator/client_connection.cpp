@@ -9,7 +9,8 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <system_error>
+
+#include "simulator/error_words.h"
 
 namespace simulator {
 namespace {
@@ -23,10 +24,6 @@ constexpr std::uint64_t kLargestBuffer = 1 << 20;
 constexpr std::uint64_t kBuffersPerSecond = 4;
 constexpr std::uint64_t kReadsPerSecond = 20;
 constexpr std::chrono::milliseconds kCatchUp{100};
-
-std::string error_words(int errorNumber) {
-  return std::generic_category().message(errorNumber);
-}
 
 bool is_temporary(int errorNumber) {
   return errorNumber == EINTR || errorNumber == EAGAIN || errorNumber == EWOULDBLOCK;

@@ -5,8 +5,8 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <system_error>
 
+#include "simulator/error_words.h"
 #include "simulator/wording.h"
 
 namespace simulator {
@@ -50,12 +50,12 @@ std::string section(const ContactEntry& entry) {
 std::string write_file(const std::filesystem::path& path, const std::string& text) {
   std::FILE* const file = std::fopen(path.c_str(), "we");
   if (file == nullptr) {
-    return std::generic_category().message(errno);
+    return error_words(errno);
   }
   const bool written = std::fwrite(text.data(), 1, text.size(), file) == text.size();
   const int writeError = errno;
   const bool closed = std::fclose(file) == 0;
-  return written && closed ? "" : std::generic_category().message(written ? errno : writeError);
+  return written && closed ? "" : error_words(written ? errno : writeError);
 }
 
 }  // namespace
@@ -135,7 +135,7 @@ std::string ContactSheet::Write() {
   const std::filesystem::path part = folder_ / (".index-" + std::to_string(::getpid()) + ".part");
   std::string why = write_file(part, Page());
   if (why.empty() && std::rename(part.c_str(), (folder_ / "index.html").c_str()) != 0) {
-    why = std::generic_category().message(errno);
+    why = error_words(errno);
   }
   if (!why.empty()) {
     ::unlink(part.c_str());

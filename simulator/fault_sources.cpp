@@ -4,8 +4,8 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <system_error>
 
+#include "simulator/error_words.h"
 #include "simulator/fault_script.h"
 
 namespace simulator {
@@ -21,7 +21,7 @@ std::string place(const std::string& source, const ScriptError& error) {
 std::string read_file(const std::string& path, std::string& text) {
   std::FILE* const file = std::fopen(path.c_str(), "re");
   if (file == nullptr) {
-    return path + ": " + std::generic_category().message(errno);
+    return path + ": " + error_words(errno);
   }
   std::array<char, 4096> bytes{};
   std::size_t count = 0;
@@ -33,7 +33,7 @@ std::string read_file(const std::string& path, std::string& text) {
   const int errorNumber = std::ferror(file) != 0 ? errno : 0;
   std::fclose(file);
   if (errorNumber != 0) {
-    return path + ": " + std::generic_category().message(errorNumber);
+    return path + ": " + error_words(errorNumber);
   }
   return text.size() > kScriptLengthMost ? path + ": larger than 1 MiB, which no script is" : "";
 }

@@ -9,7 +9,8 @@
 #include <cerrno>
 #include <csetjmp>
 #include <cstring>
-#include <system_error>
+
+#include "simulator/error_words.h"
 
 namespace simulator {
 namespace {
@@ -80,10 +81,6 @@ bool end_png(png_structp png, png_infop info) {
   return true;
 }
 // NOLINTEND(cert-err52-cpp)
-
-std::string error_words(int errorNumber) {
-  return std::generic_category().message(errorNumber);
-}
 
 }  // namespace
 

@@ -11,8 +11,8 @@
 #include <array>
 #include <cerrno>
 #include <memory>
-#include <system_error>
 
+#include "simulator/error_words.h"
 #include "simulator/event_log.h"
 #include "simulator/wording.h"
 
@@ -21,10 +21,6 @@ namespace {
 
 constexpr int kBacklog = 16;
 constexpr int kRetryMilliseconds = 100;
-
-std::string error_words(int errorNumber) {
-  return std::generic_category().message(errorNumber);
-}
 
 struct AddressDeleter {
   void operator()(addrinfo* list) const { ::freeaddrinfo(list); }

@@ -12,6 +12,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "simulator/error_words.h"
+
 namespace simulator {
 namespace {
 
@@ -51,7 +53,7 @@ std::string SheetFolder::Open(const std::filesystem::path& folder) {
     return error ? error.message() : "not a folder";
   }
   if (::access(folder.c_str(), W_OK | X_OK) != 0) {
-    return std::generic_category().message(errno);
+    return error_words(errno);
   }
   std::filesystem::directory_iterator entry(folder, error);
   for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
@@ -83,11 +85,11 @@ std::string SheetFolder::MakeThumbnails() const {
 std::string SheetFolder::AddLine(const std::string& line) const {
   std::FILE* const file = std::fopen((folder_ / "sheets.txt").c_str(), "ae");
   if (file == nullptr) {
-    return std::generic_category().message(errno);
+    return error_words(errno);
   }
   const bool written = std::fprintf(file, "%s\n", line.c_str()) >= 0;
   const bool closed = std::fclose(file) == 0;
-  return written && closed ? "" : std::generic_category().message(errno);
+  return written && closed ? "" : error_words(errno);
 }
 
 }  // namespace simulator

@@ -2,7 +2,8 @@
 #include "simulator/stream_recorder.h"
 
 #include <cerrno>
-#include <system_error>
+
+#include "simulator/error_words.h"
 
 namespace simulator {
 
@@ -14,7 +15,7 @@ StreamRecorder::~StreamRecorder() {
 
 std::string StreamRecorder::Open(const std::filesystem::path& path) {
   file_ = std::fopen(path.c_str(), "wbe");
-  return file_ != nullptr ? "" : std::generic_category().message(errno);
+  return file_ != nullptr ? "" : error_words(errno);
 }
 
 std::string StreamRecorder::Add(std::span<const std::uint8_t> bytes) {
@@ -28,7 +29,7 @@ std::string StreamRecorder::Add(std::span<const std::uint8_t> bytes) {
   const int errorNumber = errno;
   std::fclose(file_);
   file_ = nullptr;
-  return std::generic_category().message(errorNumber);
+  return error_words(errorNumber);
 }
 
 }  // namespace simulator

@@ -8,12 +8,12 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <system_error>
 
 #include "decoder/proof_choice.h"
 #include "decoder/soft_proof.h"
 #include "simulator/command_line.h"
 #include "simulator/contact_sheet.h"
+#include "simulator/error_words.h"
 #include "simulator/event_log.h"
 #include "simulator/fault_schedule.h"
 #include "simulator/fault_sources.h"
@@ -51,14 +51,14 @@ std::string write_port_file(const std::string& path, std::uint16_t port) {
   const std::string part = path + ".part";
   std::FILE* const file = std::fopen(part.c_str(), "we");
   if (file == nullptr) {
-    return std::generic_category().message(errno);
+    return error_words(errno);
   }
   const bool written = std::fprintf(file, "%u\n", unsigned{port}) > 0;
   const bool closed = std::fclose(file) == 0;
   if (!written || !closed || std::rename(part.c_str(), path.c_str()) != 0) {
     const int errorNumber = errno;
     std::remove(part.c_str());
-    return std::generic_category().message(errorNumber);
+    return error_words(errorNumber);
   }
   return {};
 }
@@ -92,7 +92,7 @@ int serve(const Options& options, Server& server, const Waiter& waiter, Printer 
 int run(const Options& options) {
   const std::optional<SignalEnds> signals = catch_signals();
   if (!signals) {
-    return cannot_start("signals", std::generic_category().message(errno));
+    return cannot_start("signals", error_words(errno));
   }
   FaultSchedule faults(std::chrono::steady_clock::now, log_event);
   if (const std::string why = load_faults(options.faults, faults); !why.empty()) {
