@@ -121,15 +121,8 @@ add_scaling() {
 }
 
 build() {
-  install_packages "${TQR7_PACKAGES[@]}" || fail "packages are missing"
-  echo "Building (the first time takes a minute or two) ..."
-  mkdir -p "$here/build"
-  local log="$here/build/demo-build.log"
-  if ! build_preset release "$here" rastertoprinter commandtoprinter tqr7.icc tqr7-printer-sim \
-    tqr7.ppd sample-photo job-state compare-prints >"$log" 2>&1; then
-    tail -n 30 "$log" >&2
-    fail "the build failed; all it said is in $log"
-  fi
+  build_quietly "$here" demo-build.log rastertoprinter commandtoprinter tqr7.icc \
+    tqr7-printer-sim tqr7.ppd sample-photo job-state compare-prints || exit 1
 }
 
 stop_all() {

@@ -72,15 +72,8 @@ read_arguments() {
 
 build_all() {
   build=$here/build/release
-  install_packages "${TQR7_PACKAGES[@]}" || fail "packages are missing"
-  echo "Building (the first time takes a minute or two) ..."
-  mkdir -p "$here/build"
-  local log="$here/build/rehearse-build.log"
-  if ! build_preset release "$here" rastertoprinter commandtoprinter tqr7.icc tqr7-printer-sim \
-    tqr7.ppd tqr7 sample-photo job-state >"$log" 2>&1; then
-    tail -n 30 "$log" >&2
-    fail "the build failed; all it said is in $log"
-  fi
+  build_quietly "$here" rehearse-build.log rastertoprinter commandtoprinter tqr7.icc \
+    tqr7-printer-sim tqr7.ppd tqr7 sample-photo job-state || exit 1
 }
 
 stop_all() {

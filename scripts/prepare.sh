@@ -51,3 +51,21 @@ build_preset() {
   (cd "$source" && cmake --preset "$preset" &&
     cmake --build --preset "$preset" --parallel ${1:+--target "$@"})
 }
+
+# Makes ready what a person's script runs: packages, and the release targets named behind the source
+# folder $1 and the name $2 of the log, which alone has the compiler's words. Says what is missing.
+build_quietly() {
+  local source=$1 log="$1/build/$2"
+  shift 2
+  if ! install_packages "${TQR7_PACKAGES[@]}"; then
+    echo "${0##*/}: packages are missing" >&2
+    return 1
+  fi
+  echo "Building (the first time takes a minute or two) ..."
+  mkdir -p "$source/build"
+  if ! build_preset release "$source" "$@" >"$log" 2>&1; then
+    tail -n 30 "$log" >&2
+    echo "${0##*/}: the build failed; all it said is in $log" >&2
+    return 1
+  fi
+}
