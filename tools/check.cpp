@@ -9,10 +9,10 @@
 #include <string>
 
 #include "simulator/wording.h"
-#include "tools/error_text.h"
 #include "tools/exit_status.h"
 #include "tools/json_output.h"
 #include "tools/photo_check.h"
+#include "tools/plain_text.h"
 #include "tools/sheet_preview.h"
 #include "tools/subcommands.h"
 
@@ -135,7 +135,7 @@ std::string all_sizes() {
 int check(const Options& options) {
   const PrintSize* const size = find_print_size(options.size);
   if (size == nullptr) {
-    return cannot("\"" + printable(options.size) + "\" is no size; there are " + all_sizes());
+    return cannot("\"" + plain_text(options.size) + "\" is no size; there are " + all_sizes());
   }
   const PictureFile photo = read_picture_file(options.photo);
   const Placement placement = place_picture(static_cast<std::uint32_t>(photo.picture.width),

@@ -3,6 +3,7 @@
 
 #include <charconv>
 #include <optional>
+#include <string>
 #include <system_error>
 
 namespace tools {
@@ -39,20 +40,6 @@ Explanation explain_text(std::string_view text) {
   }
   return explain_keyword(is_class_and_number(text) ? "error" + std::string(text)
                                                    : std::string(text));
-}
-
-std::string printable(std::string_view text) {
-  constexpr std::size_t kLongest = 100;
-  constexpr unsigned char kFirstPrintable = 0x20;
-  constexpr unsigned char kDelete = 0x7F;
-  std::string shown(text.substr(0, kLongest));
-  for (char& letter : shown) {
-    const auto code = static_cast<unsigned char>(letter);
-    if (code < kFirstPrintable || code == kDelete) {
-      letter = '?';
-    }
-  }
-  return text.size() > kLongest ? shown + "..." : shown;
 }
 
 }  // namespace tools

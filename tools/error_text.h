@@ -4,7 +4,6 @@
 #ifndef TQR7_TOOLS_ERROR_TEXT_H
 #define TQR7_TOOLS_ERROR_TEXT_H
 
-#include <string>
 #include <string_view>
 
 #include "tools/explanation.h"
@@ -15,9 +14,6 @@ namespace tools {
 /// with or without "0x"; a class and a number, "0008_2665"; or a keyword, whole or without its
 /// beginning.
 Explanation explain_text(std::string_view text);
-
-/// The text fit to be shown on a terminal: control characters become "?", and what is long is cut.
-std::string printable(std::string_view text);
 
 }  // namespace tools
 

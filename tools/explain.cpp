@@ -12,6 +12,7 @@
 #include "tools/exit_status.h"
 #include "tools/explanation.h"
 #include "tools/json_output.h"
+#include "tools/plain_text.h"
 #include "tools/subcommands.h"
 
 namespace tools {
@@ -51,7 +52,7 @@ void print(const Explanation& told) {
 
 int explain_one(const Options& options) {
   Explanation told = explain_text(options.text);
-  told.keyword = printable(told.keyword);
+  told.keyword = plain_text(told.keyword);
   if (options.json) {
     print_json(stdout, json_of(told));
   } else {
@@ -59,7 +60,7 @@ int explain_one(const Options& options) {
   }
   if (!told.inTable) {
     std::fprintf(stderr, "tqr7 explain: \"%s\" is not in the table of the printer's errors\n",
-                 printable(options.text).c_str());
+                 plain_text(options.text).c_str());
   }
   return told.inTable ? kExitGood : kExitNotGood;
 }

@@ -109,6 +109,11 @@ TEST(Explain, ShowsNoControlCharactersOnATerminal) {
             "tqr7 explain: \"?[31mred?\" is not in the table of the printer's errors\n");
 }
 
+TEST(Explain, ShowsNoControlCharactersOfEightBitsEither) {
+  EXPECT_EQ(run_tool({"explain", "\xC2\x9B;red"}).errors,
+            "tqr7 explain: \"?;red\" is not in the table of the printer's errors\n");
+}
+
 TEST(Explain, WritesOneJsonDocument) {
   const ToolRun run = run_tool({"explain", "--json", "2202"});
   EXPECT_EQ(nlohmann::json::parse(run.out), nlohmann::json::parse(R"({
