@@ -13,6 +13,7 @@ add_library(tqr7_core STATIC
   filter/job_state.cpp
   filter/module_path.cpp
   filter/page_conversion.cpp
+  filter/page_loop.cpp
   filter/paper_table.cpp
   filter/ppd_options.cpp
   filter/progress.cpp

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "filter/page_loop.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+
+#include "filter/filter_hooks.h"
+#include "filter/job_state.h"
+#include "filter/progress.h"
+#include "filter/sheet_assembly.h"
+#include "protocol/job_header.h"
+
+namespace {
+
+constexpr int kBytesPerPixel = 3;
+constexpr unsigned int kLinesPerReport = 128;
+constexpr int kPercentRead = 50;  // printing the page takes the other half
+
+// Reads the page's lines into the page buffer. The header is hostile: a line holds as many bytes as
+// it says, never more, and what it does not hold stays white.
+void read_page(cups_raster_t* raster, const cups_page_header_t& header,
+               const tagPRINTSETTING& settings) {
+  const auto raster_width = static_cast<std::int32_t>(header.cupsWidth);
+  const auto raster_height = static_cast<std::int32_t>(header.cupsHeight);
+  const std::int64_t wanted =
+      std::int64_t{kBytesPerPixel} *
+      std::max<std::int32_t>(std::min(settings.nImageWidth, raster_width), 0);
+  const auto copied =
+      static_cast<std::size_t>(std::min<std::int64_t>(wanted, header.cupsBytesPerLine));
+  const std::size_t step = kBytesPerPixel * static_cast<std::size_t>(settings.nImageWidth);
+
+  unsigned char* destination = Planes[1];
+  for (std::int32_t y = 0; y < raster_height; ++y) {
+    const auto line = static_cast<std::uint32_t>(y);
+    if (line % kLinesPerReport == 0) {
+      report_progress(static_cast<int>(line * kPercentRead / header.cupsHeight));
+    }
+    if (cupsRasterReadPixels(raster, Planes[0], header.cupsBytesPerLine) == 0) {
+      break;
+    }
+    if (y < settings.nImageHeight) {
+      std::memcpy(destination, Planes[0], copied);
+      destination += step;
+    }
+  }
+  report_progress(kPercentRead);
+}
+
+}  // namespace
+
+bool print_pages(cups_raster_t* raster, ppd_file_t* ppd, const tagPRINTSETTING& settings,
+                 const char* module_path) {
+  cups_page_header_t header;
+  while (cupsRasterReadHeader(raster, &header) != 0) {
+    ++page;
+    std::fprintf(stderr, "PAGE: %d %d\n", page, static_cast<int>(header.NumCopies));
+    StartPage(ppd, &header, &settings);
+    if (Planes[0] == nullptr || Planes[1] == nullptr) {
+      EndPage(nullptr, nullptr, nullptr);
+      return false;
+    }
+    read_page(raster, header, settings);
+    if (!EndPage(&header, &settings, module_path)) {
+      return false;
+    }
+  }
+  print_last_page(&settings);
+  wr_esc_printout(fpOut, &settings);
+  return true;
+}
