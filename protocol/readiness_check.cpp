@@ -2,6 +2,7 @@
 #include "protocol/readiness_check.h"
 
 #include <cups/sidechannel.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include "diag/dump.h"
@@ -23,16 +24,49 @@ constexpr std::size_t kOffsetCodeLow = 5;
 constexpr unsigned int kBusyStep = 2;     // seconds between two queries of a busy printer
 constexpr unsigned int kBusyLimit = 180;  // seconds
 
-// Bytes of the reply, 6 or more, or −1. An empty read is not the end: the answer may still be on
-// its way.
+// A read that comes back empty is not the end, the answer may stand behind it. But a back channel
+// that is at its end, because the backend has closed it, reads as empty for ever, and at once. So
+// the first empty reads in a row, more than any backend makes, are followed by the next at once;
+// the next ones by a nap, which gives the processor away, up to ten seconds in all.
+constexpr int kEmptyReadsAtOnce = 4096;
+constexpr int kNap = 20;    // milliseconds
+constexpr int kNaps = 500;  // then the channel counts as closed
+
+// What to do about empty reads in a row. A channel that has brought nothing but them for all the
+// naps is to be read no more.
+class EmptyReads {
+ public:
+  bool channel_is_closed() {
+    ++reads_;
+    if (reads_ < kEmptyReadsAtOnce) {
+      return false;
+    }
+    if (reads_ == kEmptyReadsAtOnce + kNaps) {
+      return true;
+    }
+    poll(nullptr, 0, kNap);
+    return false;
+  }
+
+  void start_anew() { reads_ = 0; }
+
+ private:
+  int reads_ = 0;
+};
+
+// Bytes of the reply, 6 or more, or −1.
 int read_reply(char* buffer) {
+  EmptyReads empty;
   std::size_t total = 0;
   while (total < kReplyMin) {
     const ssize_t count =
         cupsBackChannelRead(buffer + total, kReplyBufferSize - total, kReplyTimeout);
-    if (count < 0) {
+    if (count < 0 || (count == 0 && empty.channel_is_closed())) {
       std::fprintf(stderr, "DEBUG: cupsBackChannelRead() failed. ret=%zd\n", count);
       return -1;
+    }
+    if (count > 0) {
+      empty.start_anew();
     }
     total += static_cast<std::size_t>(count);
   }

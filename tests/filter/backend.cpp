@@ -108,6 +108,14 @@ void Backend::ReadStream() {
   }
 }
 
+void Backend::TakeOnce() {
+  std::array<char, 65536> buffer;
+  const ssize_t bytes = read(stream_, buffer.data(), buffer.size());
+  if (bytes > 0) {
+    received_.append(buffer.data(), static_cast<std::size_t>(bytes));
+  }
+}
+
 void Backend::CloseStream() {
   CloseAndForget(&stream_);
 }

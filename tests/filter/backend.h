@@ -30,6 +30,10 @@ class Backend {
   void CloseFilterEnds();
 
   void set_reading(bool reading) { reading_ = reading; }
+  /// Has the printer say more, whatever it was asked.
+  void Say(const std::string& bytes) { pieces_.push_back(bytes); }
+  /// Takes what waits in the print stream's pipe, in one read.
+  void TakeOnce();
   /// True when the filter cannot write any more until the stream is read.
   bool stream_full() const;
   const std::string& received() const { return received_; }

@@ -47,6 +47,9 @@ std::map<std::string, std::string> FilterEnvironment(const Job& job,
   for (const auto& [name, value] : job.environment) {
     result[name] = value;
   }
+  for (const std::string& name : job.unset) {
+    result.erase(name);
+  }
   return result;
 }
 
@@ -99,6 +102,9 @@ void FilterProcess::Start(const Job& job) {
     dup2(log_end, 2);
     dup2(backend_.filter_back_channel(), 3);
     dup2(backend_.filter_side_channel(), 4);
+    for (const auto& [descriptor, given] : job.given_descriptors) {
+      dup2(given, descriptor);
+    }
     for (const int descriptor : job.closed_descriptors) {
       close(descriptor);
     }
@@ -195,15 +201,22 @@ void FilterProcess::WaitUntilStuck() {
   }
 }
 
+long FilterProcess::Writes() const {
+  std::ifstream counts("/proc/" + std::to_string(process_) + "/io");
+  for (std::string name, count; counts >> name >> count;) {
+    if (name == "syscw:") {
+      return std::stol(count);
+    }
+  }
+  ADD_FAILURE() << "the system does not count writes";
+  return 0;
+}
+
 void FilterProcess::PlayFor(std::chrono::milliseconds time) {
   const auto end = std::chrono::steady_clock::now() + time;
   while (log_pipe_ >= 0 && std::chrono::steady_clock::now() < end) {
     Step();
   }
-}
-
-void FilterProcess::Terminate() const {
-  kill(process_, SIGTERM);
 }
 
 Outcome FilterProcess::Finish() {

@@ -29,8 +29,10 @@ struct Job {
   std::optional<std::vector<std::string>> arguments = {};  ///< in place of the usual five
   std::optional<Ppd> ppd = Ppd{};                          ///< without one, PPD is not set
   std::map<std::string, std::string> environment = {};
+  std::vector<std::string> unset = {};  ///< variables that are not in the environment
   Script printer = {};
   std::vector<int> closed_descriptors = {};
+  std::map<int, int> given_descriptors = {};  ///< in place of the usual one: one of the test's own
   std::string output_path = {};  ///< standard output is this file instead of the backend's pipe
   bool broken_pipe_is_an_error = false;     ///< SIGPIPE is ignored, so that a write fails instead
   StreamEnd stream_end = StreamEnd::Whole;  ///< what Finish holds the stream against
@@ -60,10 +62,16 @@ class FilterProcess {
   /// Waits until the filter is held up in a write that nobody takes.
   void WaitUntilStuck();
   void PlayFor(std::chrono::milliseconds time);
+  void SendAnswer(const std::string& bytes) { backend_.Say(bytes); }
+  /// How many writes the filter has made so far.
+  long Writes() const;
+  /// Takes what is in the pipe of the print stream, no more than that.
+  void TakeFromStream() { backend_.TakeOnce(); }
   /// Gives more standard input.
   void Feed(const std::string& bytes) { input_bytes_ += bytes; }
   void CloseInput() { more_input_ = false; }
-  void Terminate() const;
+  void Terminate() const { Send(SIGTERM); }
+  void Send(int signal) const { kill(process_, signal); }
 
   /// Plays on to the end, and has the stream inspected.
   Outcome Finish();

@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Preloaded into the filter: pauses that pass at once, a clock that stands still but for them,
-// waits on the scheduler's channels that can be shortened, and memory that can be refused. What was
-// asked for is noted, so that a test can hold it against what the filter should ask for.
+// Preloaded into the filter: pauses and naps that pass at once, a clock that stands still but for
+// them, waits on the scheduler's channels that can be shortened, and memory that can be refused.
+// What was asked for is noted, so that a test can hold it against what the filter should ask for.
 //
 // Settings come from the environment:
 //   FILTER_TEST_NOTES       file that every sleep and every wait on a channel is noted in
 //   FILTER_TEST_CLOCK       the local time at the start, "2026 3 4 5 6 7"
+//   FILTER_TEST_TIME        the time in seconds, whose local time is the system's own
+//   FILTER_TEST_LOCALE      "early": the locale of the environment holds from the start, as if a
+//                           library that the filter loads had set it
 //   FILTER_TEST_WAIT_SCALE  factor on every wait on the side channel, such as 0.05
 //   FILTER_TEST_READ_SCALE  the same on the back channel
-//   FILTER_TEST_READS       results of the back channel's reads in turn: a number, or "real"
+//   FILTER_TEST_READS       results of the back channel's reads in turn: a number, "0*4000" for so
+//                           many empty reads, or "real"
 //   FILTER_TEST_TERM_SLEEP  the sleep during which SIGTERM arrives, counted from 1
 //   FILTER_TEST_REASONS     a default destination with these state reasons
 //   FILTER_TEST_DEFAULT     "bare": a default destination without state reasons
@@ -20,9 +24,11 @@
 #include <cups/sidechannel.h>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <poll.h>
 #include <stdio_ext.h>
 #include <unistd.h>
 
+#include <clocale>
 #include <csignal>
 #include <cstdarg>
 #include <cstdio>
@@ -37,7 +43,6 @@ constexpr std::time_t kFrozenTime = 1234567890;
 
 unsigned int g_slept = 0;
 int g_sleeps = 0;
-int g_reads = 0;
 
 const char* Setting(const char* name) {
   return std::getenv(name);
@@ -72,17 +77,27 @@ double Scaled(double seconds, const char* setting) {
 
 /// The result that the setting gives for this read, or false when the read is to be made.
 bool ScriptedRead(ssize_t* result) {
-  const char* entry = Setting("FILTER_TEST_READS");
-  for (int skipped = 0; entry != nullptr && skipped < g_reads; ++skipped) {
+  static const char* entry = Setting("FILTER_TEST_READS");
+  static long repeated = 0;
+  if (entry == nullptr || *entry == '\0') {
+    return false;
+  }
+  const bool real = std::strncmp(entry, "real", 4) == 0;
+  char* end = nullptr;
+  *result = std::strtol(entry, &end, 10);
+  const long times = !real && *end == '*' ? std::atol(end + 1) : 1;
+  if (++repeated >= times) {
+    repeated = 0;
     entry = std::strchr(entry, ' ');
     entry = entry == nullptr ? nullptr : entry + 1;
   }
-  ++g_reads;
-  if (entry == nullptr || *entry == '\0' || std::strncmp(entry, "real", 4) == 0) {
-    return false;
+  return !real;
+}
+
+__attribute__((constructor)) void SetLocale() {
+  if (Setting("FILTER_TEST_LOCALE") != nullptr && std::setlocale(LC_ALL, "") == nullptr) {
+    std::abort();
   }
-  *result = std::atol(entry);
-  return true;
 }
 
 bool RefuseArray(std::size_t bytes) {
@@ -113,11 +128,22 @@ extern "C" unsigned int sleep(unsigned int seconds) {
   return 0;
 }
 
-extern "C" std::time_t time(std::time_t* result) {
-  if (result != nullptr) {
-    *result = kFrozenTime;
+// A wait for nothing but time is a nap.
+extern "C" int poll(pollfd* polls, nfds_t count, int timeout) {
+  if (count == 0) {
+    Note("nap %d ms\n", timeout);
+    return 0;
   }
-  return kFrozenTime;
+  return Real<int (*)(pollfd*, nfds_t, int)>("poll")(polls, count, timeout);
+}
+
+extern "C" std::time_t time(std::time_t* result) {
+  const char* setting = Setting("FILTER_TEST_TIME");
+  const std::time_t now = setting == nullptr ? kFrozenTime : std::atol(setting);
+  if (result != nullptr) {
+    *result = now;
+  }
+  return now;
 }
 
 extern "C" std::tm* localtime(const std::time_t* when) {
