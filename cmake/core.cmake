@@ -1,8 +1,11 @@
 # SPDX-License-Identifier: Apache-2.0
 #
-# The filter's five folders but for its main. MVChangeImage stays undefined here: whoever links this
-# library brings a conversion library, or a test's stand-in.
-add_library(tqr7_core STATIC
+# The filter's five folders but for its main. MVChangeImage stays undefined here: whoever links them
+# brings a conversion library, or a test's stand-in.
+#
+# There are two builds of them: what is installed has the C library's checked calls, and in the library
+# for tests and tools each call can be replaced.
+set(TQR7_CORE_SOURCES
   diag/csv_values.cpp
   diag/dump.cpp
   diag/enum_names.cpp
@@ -32,8 +35,13 @@ add_library(tqr7_core STATIC
   status/reason_table.cpp
   status/state_reasons.cpp
   status/status_query.cpp)
-target_include_directories(tqr7_core PUBLIC "${PROJECT_SOURCE_DIR}")
-target_link_libraries(tqr7_core PUBLIC Cups::Cups "${CUPSIMAGE_LIBRARY}")
-# The driver interface of CUPS (PPD files, raster version 1) is marked deprecated in its headers, and
-# is what a filter is given to work with.
-target_compile_options(tqr7_core PRIVATE -Wno-deprecated-declarations)
+
+foreach(library tqr7_core tqr7_core_installed)
+  add_library(${library} STATIC ${TQR7_CORE_SOURCES})
+  target_include_directories(${library} PUBLIC "${PROJECT_SOURCE_DIR}")
+  target_link_libraries(${library} PUBLIC Cups::Cups "${CUPSIMAGE_LIBRARY}")
+  # The driver interface of CUPS (PPD files, raster version 1) is marked deprecated in its headers, and
+  # is what a filter is given to work with.
+  target_compile_options(${library} PRIVATE -Wno-deprecated-declarations)
+endforeach()
+set_target_properties(tqr7_core PROPERTIES TQR7_REPLACEABLE_CALLS ON)

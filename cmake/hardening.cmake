@@ -3,6 +3,8 @@
 # What the compiler and the linker can do against a mistake of ours being turned into somebody else's
 # code: programs at a random place, a guard on the stack, checked copies of the C library, tables of
 # the loader that nobody writes after start, and no stack that runs code.
+# A target with the property TQR7_REPLACEABLE_CALLS does without the checked copies. Those are called
+# by names of their own (__snprintf_chk), past whatever a test puts in a function's place.
 include(CheckCXXCompilerFlag)
 include(CheckCXXSourceCompiles)
 include(CheckPIESupported)
@@ -24,10 +26,12 @@ if(NOT TQR7_SANITIZE AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
   check_cxx_source_compiles("#include <cstring>\nint main() { return 0; }" TQR7_HAS_FORTIFY_3)
   unset(CMAKE_REQUIRED_FLAGS)
   if(TQR7_HAS_FORTIFY_3)
-    add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3)
+    set(level 3)
   else()
-    add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+    set(level 2)
   endif()
+  set(replaceable "$<BOOL:$<TARGET_PROPERTY:TQR7_REPLACEABLE_CALLS>>")
+  add_compile_options(-U_FORTIFY_SOURCE "$<$<NOT:${replaceable}>:-D_FORTIFY_SOURCE=${level}>")
 endif()
 
 if(NOT APPLE)
