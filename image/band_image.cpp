@@ -14,12 +14,16 @@ std::int64_t product(std::int64_t a, std::int64_t b) {
   return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) * static_cast<std::uint64_t>(b));
 }
 
-// Bytes of a buffer of width × height pixels. An inverted rectangle, and one beyond the number
-// range, asks for more than any allocator has, never for a small buffer.
-std::size_t buffer_size(std::int64_t width, std::int64_t height, std::int64_t bytes_per_pixel) {
+// Bytes of a buffer over the rectangle. An inverted rectangle, and one beyond the number range,
+// asks for more than any allocator has, never for a small buffer.
+std::size_t buffer_size(const tagRECT& rect, std::int64_t bytes_per_pixel) {
+  std::int64_t width = 0;
+  std::int64_t height = 0;
   std::int64_t pixels = 0;
   std::int64_t size = 0;
-  if (__builtin_mul_overflow(width, height, &pixels) ||
+  if (__builtin_sub_overflow(rect.right, rect.left, &width) ||
+      __builtin_sub_overflow(rect.bottom, rect.top, &height) ||
+      __builtin_mul_overflow(width, height, &pixels) ||
       __builtin_mul_overflow(pixels, bytes_per_pixel, &size) || size < 0) {
     return std::numeric_limits<std::size_t>::max();
   }
@@ -31,11 +35,9 @@ std::size_t buffer_size(std::int64_t width, std::int64_t height, std::int64_t by
 bool CImageUtility::CreateBandImage(tagMVBandImageParams* image, const tagRECT& rect,
                                     int bitsPerPixel, int direction) {
   const std::int64_t bytes_per_pixel = bitsPerPixel / 8;
-  const std::int64_t width = rect_width(rect);
-  const std::int64_t height = rect_height(rect);
-  const std::size_t size = buffer_size(width, height, bytes_per_pixel);
+  const std::size_t size = buffer_size(rect, bytes_per_pixel);
 
-  const std::int64_t line = product(width, bytes_per_pixel);
+  const std::int64_t line = product(rect_width(rect), bytes_per_pixel);
   image->lStride = direction < 0 ? product(line, -1) : line;
   image->rcBand = rect;
   image->pBits = new (std::nothrow) unsigned char[size];

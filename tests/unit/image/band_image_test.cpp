@@ -139,6 +139,14 @@ TEST(CreateBandImage, ASizeBeyondAnyMemoryFails) {
   EXPECT_EQ(band.pBits, nullptr);
 }
 
+TEST(CreateBandImage, ARectangleWiderAndHigherThanNumbersGoFails) {
+  // Both distances are 2^64 − 1 and wrap to −1: as a product they would be one pixel.
+  const tagRECT rect{INT64_MIN, INT64_MIN, INT64_MAX, INT64_MAX};
+  tagMVBandImageParams band{};
+  EXPECT_FALSE(CImageUtility::CreateBandImage(&band, rect, 48, -1));
+  EXPECT_EQ(band.pBits, nullptr);
+}
+
 TEST(DeleteBandImage, ReleasesTheBufferAndKeepsTheGeometry) {
   const long before = LiveArrays();
   tagMVBandImageParams band{};
