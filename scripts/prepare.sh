@@ -12,6 +12,10 @@ TQR7_PACKAGES=(
   cups cups-client cups-filters ghostscript
 )
 
+# What the fuzz targets need besides.
+# shellcheck disable=SC2034
+TQR7_FUZZ_PACKAGES=(clang libclang-rt-14-dev)
+
 # Prints those of the named packages that are not installed.
 missing_packages() {
   local package

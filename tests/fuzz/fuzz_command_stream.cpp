@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // Fuzzes the command stream reader with what a broken filter or anyone at the simulated printer's
-// port may send. Fed at once and byte by byte, a stream gives the same.
+// port may send. Fed at once and byte by byte, a stream gives the same; and a stream without errors
+// is written again by the filter's own writers, from the fields and rows that were read, byte for
+// byte.
 #include <cstdint>
-#include <cstdlib>
-#include <span>
 #include <string>
+#include <vector>
 
-#include "decoder/command_listener.h"
 #include "decoder/stream_parser.h"
+#include "tests/fuzz/fake_printer.h"
+#include "tests/fuzz/input.h"
+#include "tests/fuzz/rewriter.h"
+#include "tests/fuzz/streams.h"
 
 namespace {
 
@@ -23,8 +27,27 @@ class Record : public decoder::CommandListener {
   void OnImageHeader(std::uint64_t offset, const decoder::ImageHeader&) override {
     Add("image", offset);
   }
+  void OnImageRow(std::uint32_t row, std::span<const std::uint16_t> samples) override {
+    Add("row", row);
+    for (const std::uint16_t sample : samples) {
+      text_ += std::to_string(sample) + " ";
+    }
+  }
+  void OnMatteRow(std::uint32_t row, std::span<const std::uint8_t> bytes) override {
+    Add("matte", row);
+    text_.append(bytes.begin(), bytes.end());
+  }
+  void OnSheetEnd(const decoder::SheetEnd& end) override {
+    Add("end", end.offset);
+    Add("bad samples", end.badSamples);
+  }
+  void OnSheetCut() override { Add("cut", 0); }
   void OnPrintOut(std::uint64_t offset, std::uint8_t) override { Add("print-out", offset); }
   void OnError(const decoder::StreamError& error) override { text_ += to_string(error) + "\n"; }
+  void OnSkipped(std::uint64_t offset, std::uint64_t count) override {
+    Add("skipped", offset);
+    Add("skipped bytes", count);
+  }
 
   const std::string& Text() const { return text_; }
 
@@ -36,24 +59,47 @@ class Record : public decoder::CommandListener {
   std::string text_;
 };
 
-std::string read(std::span<const std::uint8_t> bytes, std::size_t piece) {
-  Record record;
-  decoder::StreamParser parser(record);
+using Bytes = std::span<const std::uint8_t>;
+
+// The number of errors.
+std::uint64_t read(decoder::CommandListener& listener, Bytes bytes, std::size_t piece) {
+  decoder::StreamParser parser(listener);
   while (!bytes.empty()) {
-    const std::size_t count = piece < bytes.size() ? piece : bytes.size();
+    const std::size_t count = std::min(piece, bytes.size());
     parser.Feed(bytes.first(count));
     bytes = bytes.subspan(count);
   }
   parser.EndOfStream();
-  return record.Text();
+  return parser.ErrorCount();
+}
+
+void write_again(Bytes bytes) {
+  std::vector<std::uint8_t> again;
+  fuzz::PrinterStream stream(
+      [&](Bytes piece) { again.insert(again.end(), piece.begin(), piece.end()); });
+  fuzz::Rewriter rewriter(bytes.size());
+  read(rewriter, bytes, bytes.size());
+  fuzz::require(stream.Flush() &&
+                std::equal(again.begin(), again.end(), bytes.begin(), bytes.end()));
 }
 
 }  // namespace
 
+extern "C" int LLVMFuzzerInitialize(int*, char***);
+extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
+  fuzz::drop_log();
+  return 0;
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::span<const std::uint8_t> bytes(data, size);
-  if (read(bytes, size) != read(bytes, 1)) {
-    std::abort();
+  const Bytes bytes(data, size);
+  Record at_once;
+  Record by_bytes;
+  const std::uint64_t errors = read(at_once, bytes, size);
+  read(by_bytes, bytes, 1);
+  fuzz::require(at_once.Text() == by_bytes.Text());
+  if (errors == 0) {
+    write_again(bytes);
   }
   return 0;
 }

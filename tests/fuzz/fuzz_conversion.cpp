@@ -3,63 +3,60 @@
 // Fuzzes the conversion library with any geometry, strides, settings and pixels, on every kind of
 // processor that this computer can play: all must give the same bytes. The bands lie in buffers
 // that hold exactly what their geometry promises, so the sanitizer sees every step beyond.
-
+//
+// Input: the conversion's settings, the page's size, three bands (line gap, misalignment, place,
+// line order, first pixels), three bends, whether there is a matte plane, which folder.
+#include <algorithm>
 #include <cstdint>
-#include <cstdlib>
-#include <cstring>
+#include <iterator>
+#include <memory>
 #include <vector>
 
 #include "conversion/processor.h"
 #include "image/mv_change_image.h"
+#include "tests/fuzz/input.h"
 
 namespace {
 
-// Takes numbers off the input's front; zero once it is used up.
-class Input {
- public:
-  Input(const std::uint8_t* data, std::size_t size) : data_(data), left_(size) {}
+using fuzz::Input;
+using fuzz::require;
 
-  template <typename Number>
-  Number Take() {
-    Number value{};
-    const std::size_t count = left_ < sizeof value ? left_ : sizeof value;
-    std::memcpy(&value, data_, count);
-    data_ += count;
-    left_ -= count;
-    return value;
-  }
-
- private:
-  const std::uint8_t* data_;
-  std::size_t left_;
-};
-
+// A band in a heap block that begins up to 15 bytes before the first pixel and ends with the last.
 struct Band {
   tagMVBandImageParams params{};
-  std::vector<unsigned char> bytes;
+  std::unique_ptr<unsigned char[]> block;
+  std::size_t size = 0;
+
+  std::vector<unsigned char> Bytes() const { return {block.get(), block.get() + size}; }
+  void Set(const std::vector<unsigned char>& bytes) {
+    std::copy(bytes.begin(), bytes.end(), block.get());
+  }
 };
 
-// A band of up to 40 × 40 pixels whose edges and stride may be bent: a bent one keeps its small
-// buffer, and the library must refuse it by its numbers.
+// A band whose edges and stride may be bent later: a bent one keeps its small buffer, and the
+// library must refuse it by its numbers.
 Band make_band(Input& input, std::int64_t width, std::int64_t height, std::int64_t depth) {
   Band band;
-  const std::int64_t padding = input.Take<std::uint8_t>() % 5;
-  const std::int64_t stride = width * depth + padding;
-  band.bytes.assign(static_cast<std::size_t>(stride * height - padding), 0x5A);
-  const auto left = input.Take<std::int16_t>();
-  const auto top = input.Take<std::int16_t>();
+  const std::int64_t gap = input.Take<std::uint8_t>() % 40;
+  const std::int64_t misaligned = input.Take<std::uint8_t>() % 16;
+  const std::int64_t stride = width * depth + gap;
+  band.size = static_cast<std::size_t>(misaligned + stride * height - gap);
+  band.block = std::make_unique<unsigned char[]>(band.size);
+  const auto left = input.Take<std::int64_t>() >> 8;  // far out, but with room for the other edge
+  const auto top = input.Take<std::int64_t>() >> 8;
   const bool top_down = (input.Take<std::uint8_t>() & 1U) != 0;
-  band.params = {
-      band.bytes.data(), top_down ? -stride : stride, {left, top, left + width, top + height}};
-  for (std::size_t i = 0; i < band.bytes.size() && i < 64; ++i) {
-    band.bytes[i] = input.Take<std::uint8_t>();
+  band.params = {band.block.get() + misaligned,
+                 top_down ? -stride : stride,
+                 {left, top, left + width, top + height}};
+  for (std::size_t i = 0; i < band.size; ++i) {
+    band.block[i] = i < 64 ? input.Take<std::uint8_t>() : static_cast<unsigned char>(i * 37);
   }
   return band;
 }
 
 // An inverted or empty rectangle, or a stride that holds no line.
 void bend(tagMVBandImageParams& band, std::uint8_t how) {
-  switch (how & 7U) {
+  switch (how % 16U) {
     case 1:
       band.rcBand.right = band.rcBand.left;
       break;
@@ -78,45 +75,67 @@ void bend(tagMVBandImageParams& band, std::uint8_t how) {
     case 6:
       band.pBits = nullptr;
       break;
+    case 7:
+      band.lStride = band.lStride < 0 ? -1 : 1;
+      break;
+    case 8:
+      --band.rcBand.right;
+      break;
+    case 9:
+      band.rcBand = {INT64_MIN, INT64_MIN, INT64_MAX, INT64_MAX};
+      break;
     default:
       break;
   }
 }
 
+// One call: it sets both rates and all pixels, or leaves everything as it was.
+long convert(const Band& source, const tagMVChangeParams& params, Band& destination,
+             tagMVBandImageParams* matte) {
+  const std::vector<unsigned char> before = destination.Bytes();
+  unsigned char rgb_rate = 201;
+  unsigned char op_rate = 202;
+  const long code =
+      MVChangeImage(&source.params, &params, &destination.params, matte, &rgb_rate, &op_rate);
+  if (code == 0) {
+    require(rgb_rate <= 100 && op_rate <= 100);
+  } else {
+    require(rgb_rate == 201 && op_rate == 202 && destination.Bytes() == before);
+  }
+  return code;
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  constexpr const char* kFolders[] = {nullptr, "", "/nowhere/", "\xFF%s"};
   Input input(data, size);
   auto params = input.Take<tagMVChangeParams>();
-  params.pszModulePath = nullptr;
   const std::int64_t width = 1 + input.Take<std::uint8_t>() % 40;
   const std::int64_t height = 1 + input.Take<std::uint8_t>() % 40;
   Band source = make_band(input, width, height, 3);
   Band destination = make_band(input, width, height, 6);
-  Band matte = make_band(input, 1 + input.Take<std::uint8_t>() % 40, height, 1);
+  const std::int64_t matte_width = 1 + input.Take<std::uint8_t>() % 48;
+  Band matte = make_band(input, matte_width, 1 + input.Take<std::uint8_t>() % 48, 1);
   bend(source.params, input.Take<std::uint8_t>());
   bend(destination.params, input.Take<std::uint8_t>());
   bend(matte.params, input.Take<std::uint8_t>());
   const bool with_matte = (input.Take<std::uint8_t>() & 1U) != 0;
-  const std::vector<unsigned char> before = destination.bytes;
+  params.pszModulePath = kFolders[input.Take<std::uint8_t>() % std::size(kFolders)];
 
-  std::vector<unsigned char> first;
+  const std::vector<unsigned char> pixels = destination.Bytes();
+  const std::vector<unsigned char> plane = matte.Bytes();
+  std::vector<std::vector<unsigned char>> results;
   for (const std::int64_t processor : usable_targets()) {
     use_target(processor);
-    destination.bytes = before;
-    unsigned char rgb_rate = 201;
-    unsigned char op_rate = 202;
-    const long code = MVChangeImage(&source.params, &params, &destination.params,
-                                    with_matte ? &matte.params : nullptr, &rgb_rate, &op_rate);
-    const bool refused_cleanly = rgb_rate == 201 && op_rate == 202 && destination.bytes == before;
-    if (code == 0 ? rgb_rate > 100 || op_rate > 100 : !refused_cleanly) {
-      std::abort();
-    }
-    if (first.empty()) {
-      first = destination.bytes;
-    } else if (destination.bytes != first) {
-      std::abort();
-    }
+    destination.Set(pixels);
+    matte.Set(plane);
+    const long code = convert(source, params, destination, with_matte ? &matte.params : nullptr);
+    results.push_back(destination.Bytes());
+    results.back().push_back(static_cast<unsigned char>(code));
+    const std::vector<unsigned char> drawn = matte.Bytes();
+    results.back().insert(results.back().end(), drawn.begin(), drawn.end());
+    require(results.back() == results.front());
   }
   return 0;
 }

@@ -4,19 +4,15 @@
 // rule that is written again reads as the same rule.
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 #include "simulator/fault_script.h"
+#include "tests/fuzz/input.h"
 
 namespace {
 
-void require(bool holds) {
-  if (!holds) {
-    std::abort();
-  }
-}
+using fuzz::require;
 
 void check_error(const simulator::Script& script, std::string_view text) {
   require(script.rules.empty() && script.errors.size() == 1);
