@@ -85,6 +85,8 @@ ppd_file_t* open_ppd(std::span<const std::uint8_t> text) {
 }  // namespace
 
 // libcups leaks a string or two of a PPD that it refuses. It does so once a job.
+// The name is the sanitizer's.
+// NOLINTNEXTLINE(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
 extern "C" const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions() {
   return "leak:_ppdOpen\n";

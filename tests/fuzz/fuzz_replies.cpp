@@ -102,7 +102,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::Input input(data, size);
   const int question = input.Take<std::uint8_t>() % kQuestions;
   fuzz::FakePrinter fresh;
-  fresh.side_channel_status = input.Take<std::int8_t>();
+  fresh.side_channel_status = input.Take<std::uint8_t>() - 1;  // −1: no answer within the time
   fresh.good_in_the_end = (input.Take<std::uint8_t>() & 1U) != 0;
   const auto reasons = input.TakeBytes(input.Take<std::uint8_t>());
   fresh.reasons.assign(reasons.begin(), reasons.end());

@@ -3,6 +3,8 @@
 // How the sanitizers treat every target: memory that an input asks for beyond 256 MiB is refused as
 // a full machine would, and that is no finding; what stays unreleased is one.
 
+// The name is the sanitizer's.
+// NOLINTNEXTLINE(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
 extern "C" const char* __asan_default_options();
 
 extern "C" const char* __asan_default_options() {

@@ -141,7 +141,7 @@ Seeds command_stream_seeds() {
 
 Seeds replies_seeds() {
   const auto input = [](char question, const std::string& reasons, const std::string& script) {
-    return std::string{question, 1, 0, static_cast<char>(reasons.size())} + reasons + script;
+    return std::string{question, 2, 0, static_cast<char>(reasons.size())} + reasons + script;
   };
   std::string busy;
   for (int i = 0; i < 95; ++i) {
