@@ -12,6 +12,7 @@
 //                           library that the filter loads had set it
 //   FILTER_TEST_WAIT_SCALE  factor on every wait on the side channel, such as 0.05
 //   FILTER_TEST_READ_SCALE  the same on the back channel
+//   FILTER_TEST_MOST_WAIT   most milliseconds of any other wait, such as libcups' for the scheduler
 //   FILTER_TEST_READS       results of the back channel's reads in turn: a number, "0*4000" for so
 //                           many empty reads, or "real"
 //   FILTER_TEST_TERM_SLEEP  the sleep during which SIGTERM arrives, counted from 1
@@ -28,6 +29,7 @@
 #include <stdio_ext.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <clocale>
 #include <csignal>
 #include <cstdarg>
@@ -134,7 +136,9 @@ extern "C" int poll(pollfd* polls, nfds_t count, int timeout) {
     Note("nap %d ms\n", timeout);
     return 0;
   }
-  return Real<int (*)(pollfd*, nfds_t, int)>("poll")(polls, count, timeout);
+  const char* most = Setting("FILTER_TEST_MOST_WAIT");
+  const int wait = most == nullptr ? timeout : std::min(timeout, std::atoi(most));
+  return Real<int (*)(pollfd*, nfds_t, int)>("poll")(polls, count, wait);
 }
 
 extern "C" std::time_t time(std::time_t* result) {

@@ -112,6 +112,45 @@ TEST(BrokenStream, WithinTheImageStopsTheProgressThere) {
   EXPECT_EQ(outcome.status, 0);
 }
 
+TEST(BrokenStream, WithinTheMattePlaneGoesUnnoticed) {
+  const Settings matte{.finish = kMatte};
+  const std::size_t half_a_plane = 1550 * 1094 / 2;
+  const std::string up_to_there = StatusRequest() + StatusRequest() + ReadinessQuery(matte) +
+                                  JobHeader(matte) + ImageHeader(matte) + SmallImage();
+
+  const Outcome outcome = Print({.input = SmallRaster(),
+                                 .options = "RQPrintFinish=Matte",
+                                 .printer = {.stream_limit = up_to_there.size() + half_a_plane},
+                                 .broken_pipe_is_an_error = true,
+                                 .stream_end = StreamEnd::Cut});
+
+  EXPECT_TRUE(SameStream(outcome.stream.substr(0, up_to_there.size()), up_to_there));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + SmallSheet(matte)));
+  EXPECT_EQ(outcome.status, 0);
+}
+
+TEST(BrokenStream, AtThePrintOutGoesUnnoticed) {
+  const std::string sheet = StatusRequest() + Sheet(kSettings, SmallImage());
+
+  const Outcome outcome = Print({.input = SmallRaster(),
+                                 .printer = {.stream_limit = sheet.size()},
+                                 .broken_pipe_is_an_error = true});
+
+  EXPECT_TRUE(SameStream(outcome.stream, sheet));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + SmallSheet(kSettings)));
+  EXPECT_EQ(outcome.status, 0);
+}
+
+TEST(BrokenStream, BehindTheFirstQuestionIsASignalOnlyUntilLibcupsHasIgnoredIt) {
+  // Asking the scheduler for its destinations, libcups sets SIGPIPE to be ignored for good.
+  const Outcome outcome =
+      Print({.input = SmallRaster(), .printer = {.status = {AnswerAndClose(kGood)}}});
+
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + kStatusCommand + kFlushFailed +
+                                       UnknownError("UNAVAILABLE") + kStop));
+  EXPECT_EQ(outcome.status, 1);
+}
+
 TEST(ShortWrite, OfTheStatusRequestMeansAnUnavailablePrinter) {
   const Outcome outcome =
       Print({.input = SmallRaster(), .environment = {{"FILTER_TEST_SHORT_WRITE", "8 3"}}});

@@ -42,6 +42,20 @@ void ReserveWithAllOpen() {
   _exit(0);
 }
 
+/// Exits with 0 when the back channel, and it alone, does not wait for what is not there.
+void ReserveBlockingOnes() {
+  for (int descriptor = 0; descriptor < 5; ++descriptor) {
+    dup2(open("/dev/null", O_RDWR), descriptor);
+  }
+  reserve_scheduler_descriptors();
+  for (int descriptor = 0; descriptor < 5; ++descriptor) {
+    if (((fcntl(descriptor, F_GETFL) & O_NONBLOCK) != 0) != (descriptor == 3)) {
+      _exit(1);
+    }
+  }
+  _exit(0);
+}
+
 void ReserveWithNoneOpen() {
   for (int descriptor = 0; descriptor < 5; ++descriptor) {
     close(descriptor);
@@ -59,6 +73,10 @@ void ReserveWithNoneOpen() {
 
 TEST(SchedulersDescriptors, ThoseThatAreOpenStayAsTheyAre) {
   EXPECT_EXIT(ReserveWithAllOpen(), testing::ExitedWithCode(0), "");
+}
+
+TEST(SchedulersDescriptors, TheBackChannelDoesNotWaitForWhatIsNotThere) {
+  EXPECT_EXIT(ReserveBlockingOnes(), testing::ExitedWithCode(0), "");
 }
 
 TEST(SchedulersDescriptors, ThoseThatAreClosedAreTaken) {
