@@ -18,10 +18,11 @@ enum class StreamEnd {
   Whole,     ///< behind a whole command or plane
   Cut,       ///< inside one
   Anywhere,  ///< behind one or inside one, as it happens
+  Undated,   ///< behind a whole one, with an image header whose date is none
 };
 
-/// `tqr7 inspect` finds no error in the stream, or, where it is cut, that error and no other. A job
-/// that sends nothing has no stream to inspect.
+/// `tqr7 inspect` finds no error in the stream, or, where it is cut or has no date, that error and
+/// no other. A job that sends nothing has no stream to inspect.
 testing::AssertionResult PassesInspection(const std::string& stream, StreamEnd end,
                                           const TemporaryFolder& folder);
 

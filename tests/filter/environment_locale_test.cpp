@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// The languages of the world: the scheduler starts the filter with the job's own, and what the
+// filter compares, counts and writes must not change with it.
+#include <gtest/gtest.h>
+
+#include "tests/filter/comparison.h"
+#include "tests/filter/filter_process.h"
+#include "tests/filter/small_job.h"
+
+namespace filter_test {
+namespace {
+
+class Language : public testing::TestWithParam<const char*> {
+ protected:
+  /// The locale holds from the filter's first line on.
+  std::map<std::string, std::string> Environment() const {
+    return {{"LC_ALL", GetParam()},
+            {"LANG", GetParam()},
+            {"LOCPATH", FILTER_TEST_LOCALES},
+            {"FILTER_TEST_LOCALE", "early"}};
+  }
+};
+
+TEST_P(Language, ChangesNeitherSheetNorLog) {
+  const Outcome outcome = Print({.input = SmallRaster(), .environment = Environment()});
+
+  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet({}, SmallImage()) + PrintOut()));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + SmallSheet({})));
+  EXPECT_EQ(outcome.status, 0);
+}
+
+TEST_P(Language, DoesNotChangeWhichLettersAreTheSame) {
+  // minus2: 2, and the flag of a sharpness that is not 0; DISABLED: no colour conversion.
+  const Outcome outcome =
+      Print({.input = SmallRaster(),
+             .options = "RQSharpness_Common=minus2 RQColorConversion=DISABLED RQPrintMode=fast "
+                        "RQPrintFinish=matte RQMarginCutOff=TRUE RQWaitingNextImage=FALSE",
+             .environment = Environment()});
+
+  const Settings settings{.wait = 0xFF, .margin_cut_off = 1, .finish = kMatte, .mode = 5};
+  EXPECT_NE(outcome.log.find("DEBUG: Params=0x00010006 (0:0:0, 0:0:0, 0:0:0) (0,0,5,0) 1\n"),
+            std::string::npos);
+  EXPECT_NE(outcome.stream.find(JobHeader(settings)), std::string::npos);
+  EXPECT_EQ(outcome.status, 0);
+}
+
+TEST_P(Language, DoesNotChangeWhatANumberIs) {
+  const Outcome outcome = Print({.input = SmallRaster(),
+                                 .options = "RQGammaR=-2 RQBrightnessG=200 RQContrastB=-20",
+                                 .environment = Environment()});
+
+  EXPECT_NE(outcome.log.find("DEBUG: Params=0x00010007 (-2:0:0, 0:0:-20, 0:128:0) (0,0,1,0) 3\n"),
+            std::string::npos);
+  EXPECT_EQ(outcome.status, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Locale, Language,
+                         testing::Values("tr_TR.UTF-8", "tr_TR.ISO-8859-9", "fa_IR.UTF-8",
+                                         "th_TH.UTF-8", "hi_IN.UTF-8"),
+                         [](const testing::TestParamInfo<const char*>& locale) {
+                           std::string name = locale.param;
+                           std::erase_if(name,
+                                         [](unsigned char c) { return std::isalnum(c) == 0; });
+                           return name;
+                         });
+
+TEST(Language, ThatTheSystemDoesNotKnowChangesNothing) {
+  const Outcome outcome =
+      Print({.input = SmallRaster(), .environment = {{"LC_ALL", "tlh_QO.UTF-8"}, {"LANG", "tlh"}}});
+
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + SmallSheet({})));
+  EXPECT_EQ(outcome.status, 0);
+}
+
+TEST(Language, OfALongNameChangesNothing) {
+  const std::string name(100000, 'x');
+
+  const Outcome outcome =
+      Print({.input = SmallRaster(), .environment = {{"LC_ALL", name}, {"LANG", name}}});
+
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + SmallSheet({})));
+  EXPECT_EQ(outcome.status, 0);
+}
+
+}  // namespace
+}  // namespace filter_test

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// Environment variables and arguments that are missing, huge or wrong.
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+
+#include "tests/filter/comparison.h"
+#include "tests/filter/descriptors.h"
+#include "tests/filter/filter_process.h"
+#include "tests/filter/small_job.h"
+
+namespace filter_test {
+namespace {
+
+const Settings kGloss{};
+const Settings kMattePage{.finish = kMatte};
+constexpr std::size_t kHuge = 120 * 1024;  // the system takes up to 128 KiB in one argument
+
+void ExpectPrinted(const Outcome& outcome, const Settings& settings) {
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + SmallSheet(settings)));
+  EXPECT_TRUE(
+      SameStream(outcome.stream, StatusRequest() + Sheet(settings, SmallImage()) + PrintOut()));
+  EXPECT_EQ(outcome.status, 0);
+}
+
+TEST(Environment, OfNothingButThePpdPrints) {
+  ExpectPrinted(Print({.input = SmallRaster(),
+                       .unset = {"HOME", "LC_ALL", "PATH", "TMPDIR", "TZ", "CUPS_SERVERROOT"}}),
+                kGloss);
+}
+
+TEST(Environment, OfHugeValuesPrints) {
+  const std::string huge(kHuge, '/');
+  ExpectPrinted(Print({.input = SmallRaster(),
+                       .environment = {{"HOME", huge},
+                                       {"TMPDIR", huge},
+                                       {"PATH", huge},
+                                       {"PRINTER", huge},
+                                       {"LPDEST", huge},
+                                       {"USER", huge},
+                                       {"CUPS_ENCRYPTION", huge},
+                                       {"CUPS_DATADIR", huge},
+                                       {"CONTENT_TYPE", huge},
+                                       {"DEVICE_URI", huge}}}),
+                kGloss);
+}
+
+TEST(Environment, OfAThousandVariablesPrints) {
+  std::map<std::string, std::string> variables;
+  for (int number = 0; number < 1000; ++number) {
+    variables["VARIABLE_" + std::to_string(number)] = std::string(1000, 'v');
+  }
+  ExpectPrinted(Print({.input = SmallRaster(), .environment = variables}), kGloss);
+}
+
+TEST(Scheduler, ThatTakesNoConnectionHasNoDefaultDestination) {
+  ExpectPrinted(Print({.input = SmallRaster(), .environment = {{"CUPS_SERVER", "127.0.0.1:1"}}}),
+                kGloss);
+}
+
+TEST(Scheduler, OfAHugeNameHasNoDefaultDestination) {
+  ExpectPrinted(Print({.input = SmallRaster(),
+                       .environment = {{"CUPS_SERVER", "/" + std::string(kHuge, 'x')}}}),
+                kGloss);
+}
+
+TEST(Scheduler, ThatNeverAnswersIsGivenUpAndHasNoDefaultDestination) {
+  const TemporaryFolder folder;
+  sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+  folder.Path("scheduler").copy(address.sun_path, sizeof address.sun_path - 1);
+  const int scheduler = MoveHigh(socket(AF_UNIX, SOCK_STREAM, 0));
+  ASSERT_EQ(bind(scheduler, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  ASSERT_EQ(listen(scheduler, 20), 0);
+
+  ExpectPrinted(Print({.input = SmallRaster(),
+                       .environment = {{"CUPS_SERVER", address.sun_path},
+                                       {"FILTER_TEST_MOST_WAIT", "200"},
+                                       {"FILTER_TEST_WAIT_SCALE", "1"}}}),
+                kGloss);
+  close(scheduler);
+}
+
+TEST(OptionsText, WithAHugeValueIsReadToItsEnd) {
+  const std::string text = "junk=" + std::string(kHuge, 'x') + " RQPrintFinish=Matte";
+  ExpectPrinted(Print({.input = SmallRaster(), .options = text}), kMattePage);
+}
+
+TEST(OptionsText, WithAHugeChoiceLeavesTheDefault) {
+  const std::string text = "RQPrintFinish=" + std::string(kHuge, 'M');
+  ExpectPrinted(Print({.input = SmallRaster(), .options = text}), kGloss);
+}
+
+TEST(OptionsText, OfThousandsOfOptionsIsReadToItsEnd) {
+  std::string text;
+  for (int number = 0; text.size() < kHuge; ++number) {
+    const std::string digits = std::to_string(number);
+    text.append("o").append(digits).append("=").append(digits).append(" ");
+  }
+  ExpectPrinted(Print({.input = SmallRaster(), .options = text + "RQPrintFinish=Matte"}),
+                kMattePage);
+}
+
+TEST(OptionsText, OfTheSameOptionThousandsOfTimesTakesTheLast) {
+  std::string text;
+  while (text.size() < kHuge) {
+    text += "RQPrintFinish=Gloss ";
+  }
+  ExpectPrinted(Print({.input = SmallRaster(), .options = text + "RQPrintFinish=Matte"}),
+                kMattePage);
+}
+
+TEST(OptionsText, OfBracketsAndQuotesWithoutEndPrints) {
+  constexpr std::size_t kMany = 30 * 1024;  // libcups' time for quotes grows with their square
+  for (const char character : {'{', '}', '"', '\'', '\\', '=', '[', '\x01', '\xFF'}) {
+    SCOPED_TRACE(static_cast<int>(character));
+    ExpectPrinted(Print({.input = SmallRaster(),
+                         .options = "RQPrintFinish=Matte a=" + std::string(kMany, character)}),
+                  kMattePage);
+  }
+}
+
+TEST(Arguments, ThatAreHugePrint) {
+  const std::string huge(kHuge, 'x');
+  ExpectPrinted(Print({.input = SmallRaster(), .arguments = {{huge, huge, huge, huge, ""}}}),
+                kGloss);
+}
+
+TEST(Arguments, ThatAreEmptyPrint) {
+  ExpectPrinted(Print({.input = SmallRaster(), .arguments = {{"", "", "", "", ""}}}), kGloss);
+}
+
+}  // namespace
+}  // namespace filter_test
