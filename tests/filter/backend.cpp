@@ -149,6 +149,10 @@ void Backend::SendSideReply(cups_sc_command_t command, const SideReply& reply) {
                                    static_cast<int>(reply.data.size()), 1.0),
               0);
   }
+  if (reply.then_close) {
+    shutdown(CUPS_SC_FD, SHUT_RDWR);
+    side_channel_open_ = false;
+  }
 }
 
 // The filter drains after each of its two questions and after nothing else.

@@ -18,17 +18,21 @@ std::string DateOf(const Outcome& outcome) {
                                                     : outcome.stream.substr(kImageHeader + 32, 7);
 }
 
-void ExpectDate(std::map<std::string, std::string> environment, const std::string& date,
-                StreamEnd stream_end = StreamEnd::Whole) {
-  Job job{.input = SmallRaster()};
-  job.environment = std::move(environment);
-  job.stream_end = stream_end;
-
-  const Outcome outcome = Print(job);
-
+void ExpectDate(const Outcome& outcome, const std::string& date) {
   EXPECT_EQ(testing::PrintToString(DateOf(outcome)), testing::PrintToString(date));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + SmallSheet({})));
   EXPECT_EQ(outcome.status, 0);
+}
+
+void ExpectDate(const std::map<std::string, std::string>& environment, const std::string& date) {
+  ExpectDate(Print({.input = SmallRaster(), .environment = environment}), date);
+}
+
+/// For a date that no printer's manual knows.
+void ExpectOddDate(const std::map<std::string, std::string>& environment, const std::string& date) {
+  ExpectDate(
+      Print({.input = SmallRaster(), .environment = environment, .stream_end = StreamEnd::Undated}),
+      date);
 }
 
 const std::string kMarch4th2026 = "1772600767";  // 05:06:07 UTC
@@ -51,13 +55,11 @@ TEST(Clock, OfTwentyOneHundredGivesItsDate) {
 
 TEST(Clock, OfAYearBeyondTwoBytesGivesItsLowBytes) {
   // 31 December 99999, 23:59:59: 0x1869F.
-  ExpectDate({{"FILTER_TEST_TIME", "3093527980799"}}, "\x86\x9F\x0C\x1F\x17\x3B\x3B"s,
-             StreamEnd::Undated);
+  ExpectOddDate({{"FILTER_TEST_TIME", "3093527980799"}}, "\x86\x9F\x0C\x1F\x17\x3B\x3B"s);
 }
 
 TEST(Clock, WithoutADateLeavesItsFieldsZero) {
-  ExpectDate({{"FILTER_TEST_TIME", "9223372036854775807"}}, std::string(7, '\0'),
-             StreamEnd::Undated);
+  ExpectOddDate({{"FILTER_TEST_TIME", "9223372036854775807"}}, std::string(7, '\0'));
 }
 
 TEST(Clock, OfALeapSecondGivesTheLastOrdinaryOne) {

@@ -121,6 +121,24 @@ TEST(SideChannel, ThatIsClosedInMidAnswerMeansNoTwoWays) {
   ExpectNoTwoWays(PrintWith(4, theirs));
 }
 
+TEST(SideChannel, ThatIsClosedAfterItsFirstAnswerLeavesThePrintersToBeRead) {
+  FilterProcess filter({.input = SmallRaster(),
+                        .environment = kRealWaits,
+                        .printer = {.bidi = {.data = "\x01", .then_close = true}},
+                        .broken_pipe_is_an_error = true});
+  const std::string reply = StatusReply(0x26, 0x65);
+  filter.SendAnswer(reply);
+
+  const Outcome outcome = filter.Finish();
+
+  std::string log = kBanner + kTwoWays + StatusExchange(reply) +
+                    KnownError("0x2665", "com.corvantiel-error0008_2665") + kStop;
+  log.replace(log.find(kDrained), kDrained.size(),
+              "DEBUG: CUPS_SC_CMD_DRAIN_OUTPUT=CUPS_SC_STATUS_TIMEOUT(3)\n");
+  EXPECT_TRUE(SameLog(outcome.log, log));
+  EXPECT_EQ(outcome.status, 1);
+}
+
 TEST(BackChannel, ThatIsAFolderMeansAnUnavailablePrinter) {
   ExpectUnavailable(PrintWith(3, Opened("/", O_RDONLY)), -1);
 }

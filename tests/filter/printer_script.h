@@ -21,7 +21,8 @@ struct SideReply {
   cups_sc_status_t status = CUPS_SC_STATUS_OK;
   std::string data = {};
   bool silent = false;
-  std::string frame = {};  ///< when not empty, sent as it stands in place of a well-formed answer
+  std::string frame = {};   ///< when not empty, sent as it stands in place of a well-formed answer
+  bool then_close = false;  ///< the backend closes its side of the channel
 };
 
 /// The printer's answer to one status request or readiness query.

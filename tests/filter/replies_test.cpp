@@ -119,6 +119,35 @@ TEST(StatusReply, IsNotWaitedForAgainAfterAnEmptyRead) {
   EXPECT_EQ(outcome.status, 1);
 }
 
+TEST(StrayByte, BeforeTheFirstStatusReplyIsTakenForItsFirst) {
+  FilterProcess filter({.input = SmallRaster()});
+  filter.SendAnswer("!");
+
+  const Outcome outcome = filter.Finish();
+
+  // The fourth and the fifth byte of the printer's reply have moved to where the number stands.
+  EXPECT_TRUE(SameLog(outcome.log, kBanner + kTwoWays + StatusExchange("!" + kGood) +
+                                       UnknownError("0x4400") + kStop));
+  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest()));
+  EXPECT_EQ(outcome.status, 1);
+}
+
+TEST(StrayByte, BehindTheStatusReplyIsTakenForTheReadinessRepliesFirst) {
+  const Outcome outcome = Print({.input = SmallRaster(),
+                                 .printer = {.status = {Answer(kGood), Pieces({kGood, "\x01"})},
+                                             .readiness = {Answer(kReady)}}});
+
+  // The reply's fourth byte and the first of its code have moved to where the code stands.
+  EXPECT_TRUE(SameLog(outcome.log, BeforeExamination() + kExamine +
+                                       ReadinessExchange(kSettings, "\x01" + kReady) +
+                                       "DEBUG: PROTOCOL ERROR\n"
+                                       "STATE: +paused\n"
+                                       "ERROR: protocol-error 0xd400\n"
+                                       "DEBUG: protocol-error\n"
+                                       "[sleep 1]\n"));
+  EXPECT_EQ(outcome.status, 1);
+}
+
 TEST(ReadinessReply, IsGatheredFromFourAndTwoBytes) {
   ExpectPrinted(
       Print({.input = SmallRaster(),
