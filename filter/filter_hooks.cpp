@@ -16,15 +16,15 @@
 
 namespace {
 
-// Set once SIGTERM has cut into a page. It may have cut into the allocator too, so nothing is
-// taken or released any more.
+// Set once SIGTERM has cut into a page.
 volatile std::sig_atomic_t g_cancelled = 0;
 
-void set_sigterm(void (*action)(int)) {
+// SIGTERM itself is blocked while its action runs: a second one changes nothing.
+void set_action(int signal_number, void (*action)(int)) {
   struct sigaction signal_action {};
   signal_action.sa_handler = action;
   sigemptyset(&signal_action.sa_mask);
-  sigaction(SIGTERM, &signal_action, nullptr);
+  sigaction(signal_number, &signal_action, nullptr);
 }
 
 // Bytes of the page buffer; an impossible page asks for more than there is.
@@ -39,6 +39,12 @@ std::size_t page_size(const tagPRINTSETTING* settings) {
 void release_plane(unsigned char*& plane) {
   delete[] plane;
   plane = nullptr;
+}
+
+// Always, but in the handler: there a call on the stream may be under way, whose buffer is then
+// half changed, and headers may be held that are to go out with pixels or not at all.
+bool stream_may_be_flushed() {
+  return gOutputCalls == 0 && gHeadersHeld == 0;
 }
 
 bool convert_and_print(const tagPRINTSETTING* settings, const char* module_path) {
@@ -58,7 +64,7 @@ void Shutdown() {}
 
 void StartPage(ppd_file_s* /*ppd*/, const cups_page_header_s* header,
                const tagPRINTSETTING* settings) {
-  set_sigterm(CancelJob);
+  set_action(SIGTERM, CancelJob);
   Planes[0] = new (std::nothrow) unsigned char[header->cupsBytesPerLine];
   const std::size_t size = page_size(settings);
   Planes[1] = new (std::nothrow) unsigned char[size];
@@ -76,11 +82,11 @@ void StartPage(ppd_file_s* /*ppd*/, const cups_page_header_s* header,
 bool EndPage(const cups_page_header_s* header, const tagPRINTSETTING* settings,
              const char* module_path) {
   const bool printed = header == nullptr || convert_and_print(settings, module_path);
-  if (gOutputCalls == 0) {
+  if (stream_may_be_flushed()) {
     const OutputCall call;
     static_cast<void>(std::fflush(fpOut));
   }
-  set_sigterm(SIG_IGN);
+  set_action(SIGTERM, SIG_IGN);
   if (g_cancelled == 0) {
     release_plane(Planes[0]);
     release_plane(Planes[1]);
@@ -88,12 +94,24 @@ bool EndPage(const cups_page_header_s* header, const tagPRINTSETTING* settings,
   return printed;
 }
 
-// Runs at any moment of a page, inside the allocator or a call on the printer's stream included:
-// it does only what is safe there. A stream that is in use is left as it is, its sheet is cut
-// within the bytes that its header announced. The process ends without exit()'s handlers, which
-// would use both.
+// SIGTERM is not blocked anywhere, since each wait of a page must end at once when the job is
+// cancelled: for the printer, for the next raster line, for the conversion, for a reader that takes
+// no more. So this runs at any moment of a page, on top of whatever holds a lock or has a structure
+// half changed: the allocator, libcups, the conversion library, a call on one of the streams. It
+// never goes back there, and does only what none of them can be in the way of:
+//
+//   - It takes and releases no memory. The page's buffers go with the process.
+//   - It uses one stream, the printer's, and that only when no call on it is under way: the flush
+//     then finds a whole buffer and a free lock. A slow reader may hold up the flush, nothing else.
+//   - It writes no message.
+//   - It ends the process by _exit. exit() would flush every stream, run the libraries' clean-up
+//     and take their locks.
+//
+// The scheduler cancels the backend with the filter. Where that was faster, the flush has nobody to
+// write to, and SIGPIPE must not stand for the job's status.
 void CancelJob(int /*signal_number*/) {
   g_cancelled = 1;
+  set_action(SIGPIPE, SIG_IGN);
   EndPage(nullptr, nullptr, nullptr);
   Shutdown();
   _exit(0);

@@ -23,7 +23,8 @@ void StartPage(ppd_file_s* ppd, const cups_page_header_s* header, const tagPRINT
 bool EndPage(const cups_page_header_s* header, const tagPRINTSETTING* settings,
              const char* module_path);
 
-/// The SIGTERM handler: drops the page and ends the process with status 0.
+/// The SIGTERM handler: drops the page, sends what was written unless it is in the middle of that,
+/// and ends the process with status 0. Safe at any moment.
 void CancelJob(int signal_number);
 
 /// Called once when a job is cancelled. The printer needs nothing here.
