@@ -3,9 +3,11 @@
 // The command filter's main: reads a file of printer commands and carries them out.
 #include <cups/ppd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <new>
 
 #include "commands/command_file.h"
 #include "commands/self_test.h"
@@ -96,6 +98,9 @@ int run_job(std::FILE* input, const char* options) {
     return 1;
   }
   ppd_file_t* ppd = open_marked_ppd(options);
+  if (ppd == nullptr && errno == ENOMEM) {
+    throw std::bad_alloc();
+  }
   Commands commands(ppd);
   bool good = true;
   while (const std::optional<Command> command = good ? file.next() : std::nullopt) {

@@ -6,6 +6,8 @@
 
 #include <cstdlib>
 
+#include "filter/memory_watch.h"
+
 namespace {
 
 // The scheduler's PPD is an ordinary file. Opening a pipe that nobody writes would wait for ever,
@@ -17,14 +19,41 @@ const char* ppd_path() {
   return usable ? path : nullptr;
 }
 
+// What libcups could not finish for want of memory is not given to its next call, which would fall
+// over it. Each call is watched by itself: a later one may overwrite errno.
+bool mark_defaults(ppd_file_s* ppd) {
+  const MemoryWatch watch;
+  ppdMarkDefaults(ppd);
+  return !watch.refused();
+}
+
+bool mark_options(ppd_file_s* ppd, int count, cups_option_t* parsed) {
+  const MemoryWatch watch;
+  cupsMarkOptions(ppd, count, parsed);
+  return !watch.refused();
+}
+
+bool mark_choices(ppd_file_s* ppd, const char* options) {
+  const MemoryWatch watch;
+  cups_option_t* parsed = nullptr;
+  const int count = cupsParseOptions(options, 0, &parsed);
+  if (watch.refused()) {
+    return false;  // a half-made list is not even safe to release
+  }
+  const bool marked = mark_defaults(ppd) && mark_options(ppd, count, parsed);
+  cupsFreeOptions(count, parsed);
+  return marked;
+}
+
 }  // namespace
 
 ppd_file_s* open_marked_ppd(const char* options) {
+  const MemoryWatch watch;
   ppd_file_s* ppd = ppdOpenFile(ppd_path());
-  cups_option_t* parsed = nullptr;
-  const int count = cupsParseOptions(options, 0, &parsed);
-  ppdMarkDefaults(ppd);
-  cupsMarkOptions(ppd, count, parsed);
-  cupsFreeOptions(count, parsed);
-  return ppd;
+  if (!watch.refused() && mark_choices(ppd, options)) {
+    return ppd;
+  }
+  ppdClose(ppd);
+  errno = ENOMEM;
+  return nullptr;
 }

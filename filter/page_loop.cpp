@@ -8,6 +8,7 @@
 
 #include "filter/filter_hooks.h"
 #include "filter/job_state.h"
+#include "filter/memory_watch.h"
 #include "filter/progress.h"
 #include "filter/sheet_assembly.h"
 #include "protocol/job_header.h"
@@ -37,7 +38,9 @@ void read_page(cups_raster_t* raster, const cups_page_header_t& header,
     if (line % kLinesPerReport == 0) {
       report_progress(static_cast<int>(line * kPercentRead / header.cupsHeight));
     }
+    const MemoryWatch watch;
     if (cupsRasterReadPixels(raster, Planes[0], header.cupsBytesPerLine) == 0) {
+      watch.pass_on_refusal();  // or the rest would print white
       break;
     }
     if (y < settings.nImageHeight) {
@@ -48,12 +51,23 @@ void read_page(cups_raster_t* raster, const cups_page_header_t& header,
   report_progress(kPercentRead);
 }
 
+// False at the end of the stream. libcups says the same when it has no memory for the next page,
+// which would then be lost without a word.
+bool read_header(cups_raster_t* raster, cups_page_header_t* header) {
+  const MemoryWatch watch;
+  if (cupsRasterReadHeader(raster, header) != 0) {
+    return true;
+  }
+  watch.pass_on_refusal();
+  return false;
+}
+
 }  // namespace
 
 bool print_pages(cups_raster_t* raster, ppd_file_t* ppd, const tagPRINTSETTING& settings,
                  const char* module_path) {
   cups_page_header_t header;
-  while (cupsRasterReadHeader(raster, &header) != 0) {
+  while (read_header(raster, &header)) {
     ++page;
     std::fprintf(stderr, "PAGE: %d %d\n", page, static_cast<int>(header.NumCopies));
     StartPage(ppd, &header, &settings);

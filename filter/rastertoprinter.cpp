@@ -8,12 +8,14 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <new>
 
 #include "filter/descriptors.h"
 #include "filter/filter_hooks.h"
 #include "filter/foreign_signals.h"
 #include "filter/job_options.h"
 #include "filter/job_state.h"
+#include "filter/memory_watch.h"
 #include "filter/module_path.h"
 #include "filter/page_loop.h"
 #include "filter/ppd_options.h"
@@ -70,8 +72,21 @@ int finish_job(const JobInput& input, bool failed) {
   return failed ? 1 : 0;
 }
 
-// The job itself, once its arguments and its input are known.
-int run_job(const JobInput& input) {
+// Without memory libcups has no stream; what is no raster gives none either, and is no error yet.
+cups_raster_t* open_raster(int descriptor) {
+  const MemoryWatch watch;
+  cups_raster_t* raster = cupsRasterOpen(descriptor, CUPS_RASTER_READ);
+  if (raster == nullptr) {
+    watch.pass_on_refusal();
+  }
+  return raster;
+}
+
+// The job itself, once its arguments and its input are known. Throws when memory runs out where no
+// other end is laid down for it.
+int run_job(JobInput input, const char* options) {
+  input.raster = open_raster(input.descriptor);
+  input.ppd = open_marked_ppd(options);
   tagPRINTSETTING settings{};
   get_print_setting(input.ppd, &settings);
   char module_path[kModulePathSize] = {};
@@ -107,7 +122,12 @@ int main(int argc, char* argv[]) {
   if (!open_raster_file(argc, argv, &input)) {
     return 1;
   }
-  input.raster = cupsRasterOpen(input.descriptor, CUPS_RASTER_READ);
-  input.ppd = open_marked_ppd(argv[kArgumentOptions]);
-  return run_job(input);
+  try {
+    return run_job(input, argv[kArgumentOptions]);
+  } catch (const std::bad_alloc&) {
+    // Every sheet is sent whole before anything here can throw: what was printed stays printed, and
+    // nothing follows it. The process's end gives the memory back.
+    std::fprintf(stderr, "ERROR: Not enough memory for the job\n");
+    return 1;
+  }
 }

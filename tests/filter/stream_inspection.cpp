@@ -60,7 +60,7 @@ bool TellsOfDatesOnly(const std::string& errors) {
 
 testing::AssertionResult PassesInspection(const std::string& stream, StreamEnd end,
                                           const TemporaryFolder& folder) {
-  if (stream.empty()) {
+  if (stream.empty() || end == StreamEnd::Unlooked) {
     return testing::AssertionSuccess();
   }
   const int status = Inspect(folder.Write("stream", stream), folder.Path("listing"));

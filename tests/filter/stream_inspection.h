@@ -19,6 +19,7 @@ enum class StreamEnd {
   Cut,       ///< inside one
   Anywhere,  ///< behind one or inside one, as it happens
   Undated,   ///< behind a whole one, with an image header whose date is none
+  Unlooked,  ///< the stream is not inspected: the test itself holds every byte of it
 };
 
 /// `tqr7 inspect` finds no error in the stream, or, where it is cut or has no date, that error and

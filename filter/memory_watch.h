@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// Whether memory was refused to a call of libcups, which then often goes on in silence without what
+// it wanted: an option, a marked choice, a page of the raster.
+#ifndef TQR7_FILTER_MEMORY_WATCH_H
+#define TQR7_FILTER_MEMORY_WATCH_H
+
+#include <cerrno>
+#include <new>
+
+/// Stands around one call. Where the call leaves errno alone, errno keeps what it told before.
+class MemoryWatch {
+ public:
+  MemoryWatch() : before_(errno) { errno = 0; }
+  ~MemoryWatch() {
+    if (errno == 0) {
+      errno = before_;
+    }
+  }
+  MemoryWatch(const MemoryWatch&) = delete;
+  MemoryWatch& operator=(const MemoryWatch&) = delete;
+
+  /// The allocator's own word, which is the only trace.
+  bool refused() const { return errno == ENOMEM; }
+
+  /// As operator new tells it.
+  void pass_on_refusal() const {
+    if (refused()) {
+      throw std::bad_alloc();
+    }
+  }
+
+ private:
+  int before_;
+};
+
+#endif  // TQR7_FILTER_MEMORY_WATCH_H
