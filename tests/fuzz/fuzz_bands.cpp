@@ -33,15 +33,19 @@ bool same(const tagRECT& a, const tagRECT& b) {
   return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
 }
 
-// Any number, or one near 0 or an end of the number range.
+// Any number, or one near 0, a power of two or an end of the number range.
 std::int64_t take_edge(Input& input) {
-  switch (input.Take<std::uint8_t>() % 4) {
+  switch (input.Take<std::uint8_t>() % 5) {
     case 0:
       return input.Take<std::int64_t>();
     case 1:
       return kLowest + input.Take<std::uint8_t>();
     case 2:
       return kHighest - input.Take<std::uint8_t>();
+    case 3: {
+      const std::int64_t power = std::int64_t{1} << (input.Take<std::uint8_t>() % 63U);
+      return power + input.Take<std::int8_t>();
+    }
     default:
       return input.Take<std::int8_t>();
   }
@@ -110,8 +114,9 @@ void check_making(Input& input) {
     }
   }
   // Never a buffer that does not hold all pixels of the rectangle.
-  const bool in_range = width <= kHighest && height <= kHighest && line <= kHighest;
-  require(!sound || width == 0 || height == 0 || !made || in_range);
+  if (sound && width > 0 && height > 0) {
+    require(!made || (line <= kHighest && height <= kHighest && line * height <= kHighest));
+  }
   CImageUtility::DeleteBandImage(&band);
   CImageUtility::DeleteBandImage(&band);
   require(band.pBits == nullptr);

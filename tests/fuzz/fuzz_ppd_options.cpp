@@ -57,18 +57,23 @@ void check_settings(const tagPRINTSETTING& settings) {
           within(settings.nBrightness, 128));
 }
 
-// In a buffer of exactly `size` bytes; a larger one gives the same directory.
-void check_module_path(const ppd_file_t* ppd, std::size_t size) {
-  std::vector<char> small(size, 'x');
+// The directory, or nothing, in a buffer of exactly `size` bytes: the sanitizer watches.
+void check_directory(const ppd_file_t* ppd, const std::string& directory, std::size_t size) {
+  std::vector<char> buffer(size, 'x');
+  const bool fits = get_filter_path(ppd, buffer.data(), static_cast<int>(size));
+  require(fits == (!directory.empty() && directory.size() < size));
+  require(fits ? directory == buffer.data() : buffer == std::vector<char>(size, 'x'));
+}
+
+void check_module_path(const ppd_file_t* ppd, std::size_t room) {
   std::vector<char> large(4096, 'x');
-  const bool fits = get_filter_path(ppd, small.data(), static_cast<int>(size));
-  const bool known = get_filter_path(ppd, large.data(), static_cast<int>(large.size()));
-  require(known || !fits);
-  require(fits || small == std::vector<char>(size, 'x'));
-  if (known) {
-    const std::string path = large.data();
-    require(!path.empty() && path.back() == '/');
-    require(fits == (path.size() < size) && (!fits || path == small.data()));
+  std::string directory;
+  if (get_filter_path(ppd, large.data(), static_cast<int>(large.size()))) {
+    directory = large.data();
+    require(!directory.empty() && directory.back() == '/');
+  }
+  for (const std::size_t size : {room, directory.size(), directory.size() + 1}) {
+    check_directory(ppd, directory, size);
   }
 }
 
