@@ -64,6 +64,8 @@ Seeds bands_seeds() {
       {"widest", rectangles + rect(INT64_MIN, 0, INT64_MAX, 1) + rect(0, 0, 0, 0) + moves},
       {"made", making + rect(-3, 4, 30, 20) + '\x30' + bytes_of(-1)},
       {"made-wrapped", making + rect(INT64_MIN, 0, INT64_MAX, 1) + '\x30' + bytes_of(-1)},
+      {"made-of-powers",
+       making + rect(0, 0, INT64_C(1) << 31, INT64_C(1) << 31) + '\x20' + bytes_of(-1)},
       {"copied",
        copy + std::string{5, 1} + origin(0, 0) + band(0, 0, 20, 10, 0) + band(5, 3, 30, 20, 2)},
       {"copied-bottom-up",
