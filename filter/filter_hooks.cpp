@@ -108,7 +108,8 @@ bool EndPage(const cups_page_header_s* header, const tagPRINTSETTING* settings,
 //     and take their locks.
 //
 // The scheduler cancels the backend with the filter. Where that was faster, the flush has nobody to
-// write to, and SIGPIPE must not stand for the job's status.
+// write to, and SIGPIPE must not stand for the job's status; libcups may or may not have had it
+// ignored already.
 void CancelJob(int /*signal_number*/) {
   g_cancelled = 1;
   set_action(SIGPIPE, SIG_IGN);

@@ -212,7 +212,13 @@ long FilterProcess::Writes() const {
   return 0;
 }
 
-void FilterProcess::PlayFor(std::chrono::milliseconds time) {
+void FilterProcess::WaitForEnd() {
+  while (!Ended()) {
+    Step();
+  }
+}
+
+void FilterProcess::PlayFor(std::chrono::microseconds time) {
   const auto end = std::chrono::steady_clock::now() + time;
   while (log_pipe_ >= 0 && std::chrono::steady_clock::now() < end) {
     Step();

@@ -61,12 +61,22 @@ class FilterProcess {
   void WaitUntilTermIsIgnored();
   /// Waits until the filter is held up in a write that nobody takes.
   void WaitUntilStuck();
-  void PlayFor(std::chrono::milliseconds time);
   void SendAnswer(const std::string& bytes) { backend_.Say(bytes); }
   /// How many writes the filter has made so far.
   long Writes() const;
   /// Takes what is in the pipe of the print stream, no more than that.
   void TakeFromStream() { backend_.TakeOnce(); }
+  void PlayFor(std::chrono::microseconds time);
+  /// Plays until the filter has ended.
+  void WaitForEnd();
+  /// Plays what can be done now, and waits for some milliseconds where there is nothing.
+  void Step();
+  /// Whether the backend takes what the filter sends.
+  void SetReading(bool reading) { backend_.set_reading(reading); }
+  bool Ended() const { return log_pipe_ < 0; }
+  pid_t process() const { return process_; }
+  /// What the system says of the process under this name, such as "State".
+  std::string ProcessField(const std::string& name) const;
   /// Gives more standard input.
   void Feed(const std::string& bytes) { input_bytes_ += bytes; }
   void CloseInput() { more_input_ = false; }
@@ -78,9 +88,7 @@ class FilterProcess {
 
  private:
   void Start(const Job& job);
-  void Step();
   void FeedInput();
-  std::string ProcessField(const std::string& name) const;
 
   TemporaryFolder folder_;
   Backend backend_;
