@@ -15,7 +15,8 @@ namespace {
 
 const Settings kGloss{};
 const Settings kMattePage{.finish = kMatte};
-constexpr std::size_t kHuge = 120 * 1024;  // the system takes up to 128 KiB in one argument
+constexpr std::size_t kHuge =
+    std::size_t{120} * 1024;  // the system takes up to 128 KiB in one argument
 
 void ExpectPrinted(const Outcome& outcome, const Settings& settings) {
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + SmallSheet(settings)));
@@ -111,7 +112,8 @@ TEST(OptionsText, OfTheSameOptionThousandsOfTimesTakesTheLast) {
 }
 
 TEST(OptionsText, OfBracketsAndQuotesWithoutEndPrints) {
-  constexpr std::size_t kMany = 30 * 1024;  // libcups' time for quotes grows with their square
+  constexpr std::size_t kMany =
+      std::size_t{30} * 1024;  // libcups' time for quotes grows with their square
   for (const char character : {'{', '}', '"', '\'', '\\', '=', '[', '\x01', '\xFF'}) {
     SCOPED_TRACE(static_cast<int>(character));
     ExpectPrinted(Print({.input = SmallRaster(),

@@ -93,5 +93,18 @@ TEST(Interruptions, LeaveSigtermToEndAPage) {
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest()));
 }
 
+TEST(Interruptions, LeaveFaultsOfTheFilterToTheirHandler) {
+  for (const int fault : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGTRAP, SIGSYS, SIGABRT}) {
+    SCOPED_TRACE(fault);
+    FilterProcess filter({.input = SmallRaster().substr(0, 2000),
+                          .more_input = true,
+                          .environment = Interruptions()});
+    filter.WaitForLog("page 1, 0% complete");
+    filter.Send(fault);
+
+    EXPECT_EQ(filter.Finish().status, 77);
+  }
+}
+
 }  // namespace
 }  // namespace filter_test
