@@ -105,6 +105,9 @@ void Backend::ReadStream() {
       return;
     }
     received_.append(buffer.data(), static_cast<std::size_t>(bytes));
+    if (script_.forget_stream && received_.size() > kReadinessQueryLength) {
+      received_.erase(0, received_.size() - kReadinessQueryLength);
+    }
   }
 }
 

@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdlib>
@@ -172,7 +173,9 @@ void FilterProcess::Step() {
 }
 
 void FilterProcess::WaitForLog(const std::string& text) {
-  while (log_pipe_ >= 0 && log_.find(text) == std::string::npos) {
+  std::size_t searched = 0;
+  while (log_pipe_ >= 0 && log_.find(text, searched) == std::string::npos) {
+    searched = log_.size() - std::min(log_.size(), text.size());
     Step();
   }
 }

@@ -75,7 +75,7 @@ class FilterProcess {
   void SetReading(bool reading) { backend_.set_reading(reading); }
   bool Ended() const { return log_pipe_ < 0; }
   pid_t process() const { return process_; }
-  /// What the system says of the process under this name, such as "State".
+  /// A line of the filter's /proc/PID/status, such as "VmHWM", without its name.
   std::string ProcessField(const std::string& name) const;
   /// Gives more standard input.
   void Feed(const std::string& bytes) { input_bytes_ += bytes; }

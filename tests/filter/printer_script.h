@@ -70,6 +70,8 @@ struct Script {
   std::deque<Reply> readiness = {};
   /// The backend takes this many bytes of the print stream, then closes it.
   std::size_t stream_limit = std::string::npos;
+  /// Of a stream that is too long to keep, only the end is: enough to see the printer's questions.
+  bool forget_stream = false;
 };
 
 }  // namespace filter_test
