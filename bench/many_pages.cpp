@@ -48,10 +48,12 @@ void Measure(const char* name, const std::string& options) {
   job.ppd->filters = {"application/vnd.cups-raster 0 " FILTER_TEST_BUILD "/rastertoprinter"};
   job.printer.forget_stream = true;
   job.stream_end = StreamEnd::Unlooked;
+  job.longest_run = std::chrono::hours(3);
   FilterProcess filter(job);
   Memory settled;
   for (int page = kFirst; page <= Pages(); page += page < kSettled ? kSettled - kFirst : kStep) {
     const Memory now = AtPage(&filter, page);
+    ASSERT_GT(now.peak, 0) << "the filter has ended before page " << page;
     settled = page == kSettled ? now : settled;
     if (IsARow(page)) {
       std::printf("| %s | %d | %ld | %ld |\n", name, page, now.resident, now.peak);

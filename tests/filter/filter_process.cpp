@@ -18,8 +18,6 @@
 namespace filter_test {
 namespace {
 
-constexpr std::chrono::seconds kLongestRun{100};
-
 /// The whole environment of the filter: nothing of the person's own who runs the test.
 std::map<std::string, std::string> FilterEnvironment(const Job& job,
                                                      const TemporaryFolder& folder) {
@@ -78,7 +76,7 @@ FilterProcess::FilterProcess(const Job& job)
       input_bytes_(job.input),
       more_input_(job.more_input),
       stream_end_(job.stream_end),
-      deadline_(std::chrono::steady_clock::now() + kLongestRun) {
+      deadline_(std::chrono::steady_clock::now() + job.longest_run) {
   Start(job);
 }
 

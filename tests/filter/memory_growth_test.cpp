@@ -41,5 +41,15 @@ TEST(PeakOfMemory, DoesNotGrowWithTheJoinedMatteSheetsOfAJob) {
   ExpectNoGrowth("PageSize=RQ_5x15x2_2 RQPrintFinish=Matte");
 }
 
+TEST(PeakOfMemory, OfTheLargestMatteSheetIsBelowAHundredMegabytes) {
+  Job job;
+  job.input = SmallRaster(2);
+  job.options = "PageSize=RQ_15x20 RQPrintFinish=Matte";
+  FilterProcess filter(job);
+
+  EXPECT_LT(KilobytesAtPage(&filter, 2), 100 * 1024);
+  EXPECT_EQ(filter.Finish().status, 0);
+}
+
 }  // namespace
 }  // namespace filter_test
