@@ -54,6 +54,26 @@ TEST(Failures, OfTheListOfSheetsAreNamed) {
   EXPECT_EQ(printer.Stop(), 1);
 }
 
+TEST(Failures, OfAListOfSheetsOnAFullDiskAreNamedForEachSheet) {
+  const TemporaryFolder folder;
+  std::filesystem::create_symlink("/dev/full", folder.Path() / "sheets.txt");
+  PrinterProcess printer({"--output", folder.Path().string()});
+  ASSERT_TRUE(print(printer.Port(), stream::small_job()));
+  EXPECT_EQ(printer.WaitForLine("failure"),
+            "connection 1: failure: sheets.txt: No space left on device");
+  ASSERT_TRUE(print(printer.Port(), stream::small_job()));
+  EXPECT_EQ(printer.WaitForLine("failure"),
+            "connection 2: failure: sheets.txt: No space left on device");
+  EXPECT_EQ(printer.Stop(), 1);
+  EXPECT_TRUE(std::filesystem::exists(folder.Path() / "sheet-0002.png"));
+}
+
+TEST(Failures, OfAFolderThatCannotBeMadeKeepThePrinterFromStarting) {
+  const FinishedRun run = run_to_its_end({"--output", "/proc/sheets"});
+  EXPECT_EQ(run.status, 2);
+  EXPECT_THAT(run.errors, testing::HasSubstr("/proc/sheets: No such file or directory"));
+}
+
 TEST(Failures, OfTheRecordEndTheRecording) {
   const TemporaryFolder folder;
   PrinterProcess printer({"--output", folder.Path().string(), "--record", "/dev/full"});
