@@ -23,7 +23,8 @@ constexpr float kLeastWhite = 0.8F;
 constexpr float kMostBlack = 0.5F;
 
 constexpr std::size_t kChannels = 3;
-using Row = std::array<float, kGridPoints * kChannels>;
+constexpr std::size_t kRowValues = kGridPoints * kChannels;
+using Row = std::array<float, kRowValues>;
 
 const char* fault_of_header(cmsHPROFILE profile) {
   if (cmsGetColorSpace(profile) != cmsSigRgbData) {

@@ -16,7 +16,8 @@ bool tone_is_neutral(const tagMVChangeParams& params) {
 bool ToneTables::make(const tagMVChangeParams& params, std::uint16_t lineWhite,
                       std::uint16_t toneWhite) {
   for (std::size_t channel = 0; channel < channels_.size(); ++channel) {
-    std::uint16_t* table = new (std::nothrow) std::uint16_t[std::size_t{lineWhite} + 1];
+    const std::size_t levels = std::size_t{lineWhite} + 1;
+    std::uint16_t* table = new (std::nothrow) std::uint16_t[levels];
     channels_[channel].reset(table);
     if (table == nullptr) {
       return false;

@@ -44,15 +44,16 @@ Light light_of_black(const ProfileLight& profile) {
 
 Channel light_of_channel(const ProfileLight& profile, std::size_t channel, const Light& black) {
   Channel levels(kLevels);
-  std::array<std::uint16_t, kChannels * kPiece> device{};
-  std::array<float, kChannels * kPiece> light{};
+  constexpr std::size_t kPieceValues = kChannels * kPiece;
+  std::array<std::uint16_t, kPieceValues> device{};
+  std::array<float, kPieceValues> light{};
   static_assert(kLevels % kPiece == 0);
   for (std::size_t level = 0; level < kLevels; level += kPiece) {
     for (std::size_t i = 0; i < kPiece; ++i) {
       device[kChannels * i + channel] = on_16_bits(static_cast<std::uint16_t>(level + i));
     }
     profile.ToLight(device.data(), light.data(), kPiece);
-    for (std::size_t i = 0; i < kChannels * kPiece; ++i) {
+    for (std::size_t i = 0; i < kPieceValues; ++i) {
       const std::size_t part = i % kChannels;
       levels[level + i / kChannels].rgb[part] = light[i] - black.rgb[part];
     }

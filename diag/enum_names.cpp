@@ -24,7 +24,7 @@ const char* name_or_number(const char* name, Fallback& buffer, const char* forma
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
   std::snprintf(buffer, sizeof buffer, format, value);
 #pragma GCC diagnostic pop
-  return buffer;
+  return &buffer[0];
 }
 
 // An unknown value arrives in any of the enumeration's bits: it is read as the number it is.

@@ -14,7 +14,7 @@ constexpr std::uint64_t kNoEnd = std::numeric_limits<std::uint64_t>::max();
 
 }  // namespace
 
-Session::Session(std::uint64_t number, Printer printer, ClientConnection& client,
+Session::Session(std::uint64_t number, const Printer& printer, ClientConnection& client,
                  const Waiter& waiter)
     : printer_(printer),
       client_(client),

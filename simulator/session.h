@@ -42,7 +42,8 @@ class Session : private decoder::CommandListener {
  public:
   /// `number` names the connection in the event lines. Printer, client and waiter must outlive
   /// the session.
-  Session(std::uint64_t number, Printer printer, ClientConnection& client, const Waiter& waiter);
+  Session(std::uint64_t number, const Printer& printer, ClientConnection& client,
+          const Waiter& waiter);
 
   /// Until the client has sent all, is gone or dropped, or the simulator shall stop; false for the
   /// last. The

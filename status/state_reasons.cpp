@@ -31,12 +31,10 @@ ClearSet every_reason() {
 }
 
 bool matches(const PrinterStateReason& row, const PrinterState& state) {
-  unsigned int first = row.error_low;
-  unsigned int last = row.error_low;
-  if (row.error_low > kHighestDetail) {
-    first = row.error_low & kHighestDetail;
-    last = row.error_low >> 8U;
-  }
+  const unsigned int details = row.error_low;
+  const bool is_range = details > kHighestDetail;
+  const unsigned int first = is_range ? details & kHighestDetail : details;
+  const unsigned int last = is_range ? details >> 8U : details;
   for (unsigned int detail = first; detail <= last; ++detail) {
     const auto number = static_cast<unsigned short>(row.error_high * 256U + detail);
     if (state == PrinterState::Error(number)) {
@@ -81,6 +79,8 @@ void update_printer_state(const PrinterState& state) {
 namespace {
 
 // A text without a keyword still gives its one line, which then names none.
+// strtok_r cuts up the copy.
+// cppcheck-suppress passedByValue
 void withdraw_each(std::string reasons) {
   char* rest = nullptr;
   const char* keyword = strtok_r(reasons.data(), ",", &rest);
