@@ -7,6 +7,7 @@
 #include <cstdarg>
 #include <cstddef>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 
@@ -55,7 +56,7 @@ void PrintTwoNumberedNames() {
   const std::string first = Expanded("img_%T_%C.raw");
   const std::string second = Expanded("img_%T_%C.raw");
   std::fprintf(stderr, "%s %s\n", first.c_str(), second.c_str());
-  std::_Exit(0);
+  std::exit(0);
 }
 
 void PrintTheNameAfterTenThousandOthers() {
@@ -63,12 +64,12 @@ void PrintTheNameAfterTenThousandOthers() {
     Expanded("%C");
   }
   std::fprintf(stderr, "%s\n", Expanded("%C").c_str());
-  std::_Exit(0);
+  std::exit(0);
 }
 
 void PrintTwoNumbersOfOneName() {
   std::fprintf(stderr, "%s\n", Expanded("%C-%W-%C").c_str());
-  std::_Exit(0);
+  std::exit(0);
 }
 
 }  // namespace

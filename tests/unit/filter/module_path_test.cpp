@@ -138,6 +138,21 @@ TEST(ModulePath, FieldsMayStandAnyBlanksApart) {
             "/opt/printer/");
 }
 
+TEST(ModulePath, ACostMayHaveEitherSignAndIsNotASignAlone) {
+  EXPECT_EQ(FindInList({"application/vnd.cups-raster +5 /opt/plus/filter"}).text, "/opt/plus/");
+  EXPECT_EQ(FindInList({"application/vnd.cups-raster -5 /opt/minus/filter"}).text, "/opt/minus/");
+  EXPECT_FALSE(FindInList({"application/vnd.cups-raster + /opt/sign/filter"}).found);
+}
+
+TEST(ModulePath, AnEmptyPlaceInTheListIsSkipped) {
+  std::string line = "application/vnd.cups-raster 0 /opt/printer/filter";
+  std::vector<char*> pointers = {nullptr, line.data()};
+  ppd_file_t ppd = {};
+  ppd.num_filters = 2;
+  ppd.filters = pointers.data();
+  EXPECT_EQ(Find(&ppd).text, "/opt/printer/");
+}
+
 TEST(ModulePath, AProgramEndsAtABlank) {
   EXPECT_EQ(FindInList({"application/vnd.cups-raster 0 /opt/my printer/filter"}).text, "/opt/");
 }

@@ -294,3 +294,11 @@ TEST_F(MatteTransfer, GivesItsBufferBack) {
   EXPECT_EQ(LiveArrays(), before);
   EXPECT_EQ(LastArraySize(), 196608U);
 }
+
+TEST_F(ImageTransfer, OfABottomUpBandWithoutRowsSendsNothing) {
+  std::vector<unsigned char> bytes(6);
+  const tagMVBandImageParams band = {bytes.data(), 6, {0, 5, 1, 5}};
+  SingleWrites out;
+  SendImage(out, band);
+  EXPECT_EQ(out.bytes(), "");
+}
