@@ -46,3 +46,14 @@ foreach(library tqr7_core tqr7_core_installed)
   target_compile_options(${library} PRIVATE -Wno-deprecated-declarations)
 endforeach()
 set_target_properties(tqr7_core PROPERTIES TQR7_REPLACEABLE_CALLS ON)
+
+# The tests are not counted, only what they reach. A process that ends by _exit has to write its
+# counts itself: tests/filter/interposed_calls.cpp calls __gcov_dump for it, where it finds one.
+if(TQR7_COVERAGE)
+  set(TQR7_COUNTING --coverage -fprofile-abs-path)
+  foreach(library tqr7_core tqr7_core_installed)
+    target_compile_options(${library} PRIVATE ${TQR7_COUNTING})
+    target_link_options(${library} PUBLIC --coverage
+      "LINKER:--undefined=__gcov_dump,--export-dynamic-symbol=__gcov_dump")
+  endforeach()
+endif()

@@ -11,6 +11,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdlib>
+#include <iterator>
 #include <sstream>
 
 #include "tests/filter/descriptors.h"
@@ -52,8 +53,22 @@ std::map<std::string, std::string> FilterEnvironment(const Job& job,
   return result;
 }
 
+/// The filter under test, or another build of it that the environment names.
+std::string DefaultProgram() {
+  const char* other = std::getenv("FILTER_TEST_FILTER");
+  return other == nullptr ? FILTER_TEST_PROGRAM : other;
+}
+
+/// The words of FILTER_TEST_WRAPPER, a program that runs the filter, such as a memory checker.
+std::vector<std::string> WrapperWords() {
+  const char* wrapper = std::getenv("FILTER_TEST_WRAPPER");
+  std::istringstream words(wrapper == nullptr ? "" : wrapper);
+  return {std::istream_iterator<std::string>(words), {}};
+}
+
 std::vector<std::string> FilterArguments(const Job& job) {
-  std::vector<std::string> result = {job.program.empty() ? FILTER_TEST_PROGRAM : job.program};
+  std::vector<std::string> result = WrapperWords();
+  result.push_back(job.program.empty() ? DefaultProgram() : job.program);
   const std::vector<std::string> usual = {"7", "anna", "Beach", "1", job.options};
   const std::vector<std::string>& given = job.arguments ? *job.arguments : usual;
   result.insert(result.end(), given.begin(), given.end());
@@ -108,7 +123,7 @@ void FilterProcess::Start(const Job& job) {
       close(descriptor);
     }
     std::signal(SIGPIPE, job.broken_pipe_is_an_error ? SIG_IGN : SIG_DFL);
-    execve(argv[0], argv.data(), envp.data());
+    execvpe(argv[0], argv.data(), envp.data());
     _exit(127);
   }
   close(input_end);
