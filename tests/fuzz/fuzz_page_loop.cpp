@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <cstring>
 #include <limits>
+#include <new>
 
 #include "decoder/stream_parser.h"
 #include "filter/job_state.h"
@@ -87,11 +88,25 @@ ssize_t read_raster(void* context, unsigned char* buffer, std::size_t bytes) {
   return static_cast<ssize_t>(piece.size());
 }
 
+// What the end of the process gives back when memory runs out.
+void release_planes() {
+  for (unsigned char*& plane : Planes) {
+    delete[] plane;
+    plane = nullptr;
+  }
+}
+
 // As the filter's main does.
 bool run_job(fuzz::Input& raster_bytes, const tagPRINTSETTING& settings) {
   cups_raster_t* raster = cupsRasterOpenIO(read_raster, &raster_bytes, CUPS_RASTER_READ);
   page = 0;
-  const bool good = printer_is_good() && print_pages(raster, nullptr, settings, "/");
+  bool good = false;
+  try {
+    good = printer_is_good() && print_pages(raster, nullptr, settings, "/");
+    require(Planes[0] == nullptr && Planes[1] == nullptr);
+  } catch (const std::bad_alloc&) {
+    release_planes();
+  }
   CImageUtility::DeleteBandImage(&gImageCache);
   gImageCount = 0;
   CImageUtility::DeleteBandImage(&gMatteImage);
@@ -103,7 +118,6 @@ void check_stream(const Printer& printer, const tagPRINTSETTING& settings, bool 
   const int pages_a_sheet = settings.nJoinPages == 1 ? 2 : 1;
   require(printer.PrintedOut() == good);
   require(printer.Sheets() <= (page + pages_a_sheet - 1) / pages_a_sheet);
-  require(Planes[0] == nullptr && Planes[1] == nullptr);
   // Every page of a good job is on a sheet; half a sheet that waits to the end may be refused.
   require(!good || printer.Sheets() >= page / pages_a_sheet);
 }
