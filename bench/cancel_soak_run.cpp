@@ -52,22 +52,28 @@ End ExpectedEnd(const FilterProcess& filter) {
 struct Sent {
   End expected;
   bool exact;
+  bool running = false;  ///< known to be, and not at its end
+  std::string log = {};  ///< up to SIGTERM, where that is known
 };
 
 /// Sends SIGTERM. Half of the processes are stopped for it, so that it is known to which state of
 /// theirs it comes; the others run on, and may have gone on to the next state.
-Sent SendTerm(const FilterProcess& filter, bool exact) {
+Sent SendTerm(FilterProcess& filter, bool exact) {
+  Sent sent{.expected = End::Undisturbed, .exact = exact};
   if (exact) {
     kill(filter.process(), SIGSTOP);
     siginfo_t stopped{};
     waitid(P_PID, static_cast<id_t>(filter.process()), &stopped, WSTOPPED | WEXITED | WNOWAIT);
   }
-  const End expected = ExpectedEnd(filter);
+  sent.expected = ExpectedEnd(filter);
   filter.Terminate();
   if (exact) {
+    sent.running = filter.ProcessField("State").starts_with("T");
+    filter.Step();  // takes the log
+    sent.log = filter.log();
     kill(filter.process(), SIGCONT);
   }
-  return {expected, exact};
+  return sent;
 }
 
 /// True when this many bytes of the stream end behind a sheet's headers and before its last pixel.
@@ -102,6 +108,24 @@ std::string FindEnd(const Outcome& outcome, const Undisturbed& undisturbed, Resu
   } else {
     return "exit status " + std::to_string(outcome.status) + ", signal " +
            std::to_string(outcome.signal);
+  }
+  return {};
+}
+
+bool Has(const std::string& log, const char* text) {
+  return log.find(text) != std::string::npos;
+}
+
+/// What the log says of the moment: whether a page had begun, and whether one had ended.
+std::string JudgeMoment(const Sent& sent, const Outcome& outcome, const Result& result) {
+  if (result.end == End::Killed && Has(outcome.log, "INFO: Printing page 1")) {
+    return "killed within its pages";
+  }
+  if (result.end == End::Cut && !Has(outcome.log, "PAGE: 1 1\n")) {
+    return "status 0 before the first page";
+  }
+  if (result.end == End::Undisturbed && sent.running && !Has(sent.log, "MVChangeImage()=0\n")) {
+    return "undisturbed though no page had ended";
   }
   return {};
 }
@@ -167,6 +191,9 @@ Result CancelJob(const Kind& kind, const Sheets& sheets, const Undisturbed& undi
   result.failure = FindEnd(outcome, undisturbed, &result);
   if (result.failure.empty()) {
     result.failure = JudgeEnd(sent, result);
+  }
+  if (result.failure.empty()) {
+    result.failure = JudgeMoment(sent, outcome, result);
   }
   result.in_data = IsCutInData(outcome.stream.size(), undisturbed);
   return result;

@@ -76,6 +76,8 @@ class FilterProcess {
   void SetReading(bool reading) { backend_.set_reading(reading); }
   bool Ended() const { return log_pipe_ < 0; }
   pid_t process() const { return process_; }
+  /// Standard error so far.
+  const std::string& log() const { return log_; }
   /// A line of the filter's /proc/PID/status, such as "VmHWM", without its name.
   std::string ProcessField(const std::string& name) const;
   /// Gives more standard input.

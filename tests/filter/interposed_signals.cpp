@@ -163,6 +163,7 @@ extern "C" int sigaction(int signal_number, const struct sigaction* action,
   return result;
 }
 
+#ifndef FILTER_TEST_FOREIGN_ALLOCATOR  // the sanitizers' does not let itself be watched
 extern "C" void* malloc(std::size_t size) noexcept {
   static const auto real = Real<void* (*)(std::size_t)>("malloc");
   const ForbiddenCall call("malloc");
@@ -186,6 +187,7 @@ extern "C" void free(void* memory) noexcept {
   const ForbiddenCall call("free");
   real(memory);
 }
+#endif
 
 extern "C" std::size_t fwrite(const void* data, std::size_t size, std::size_t items,
                               std::FILE* file) {
