@@ -28,7 +28,7 @@ class Schedule : public testing::Test {
   std::uint16_t Enable() { return Asked(Question::Readiness, true).number; }
 
   AnswerPlan Asked(Question question, bool aboutSheet) {
-    const AnswerPlan plan = schedule_.Answer(question, aboutSheet);
+    AnswerPlan plan = schedule_.Answer(question, aboutSheet);
     schedule_.EndByCount();
     return plan;
   }
