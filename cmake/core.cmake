@@ -15,6 +15,7 @@ set(TQR7_CORE_SOURCES
   filter/foreign_signals.cpp
   filter/job_options.cpp
   filter/job_state.cpp
+  filter/memory_watch.cpp
   filter/module_path.cpp
   filter/page_conversion.cpp
   filter/page_loop.cpp
@@ -43,7 +44,7 @@ foreach(library tqr7_core tqr7_core_installed)
   target_link_libraries(${library} PUBLIC Cups::Cups "${CUPSIMAGE_LIBRARY}")
   # The driver interface of CUPS (PPD files, raster version 1) is marked deprecated in its headers, and
   # is what a filter is given to work with.
-  target_compile_options(${library} PRIVATE -Wno-deprecated-declarations)
+  target_compile_options(${library} PRIVATE -Wno-deprecated-declarations ${TQR7_OVER_PIXELS})
 endforeach()
 set_target_properties(tqr7_core PROPERTIES TQR7_REPLACEABLE_CALLS ON)
 

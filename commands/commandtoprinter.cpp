@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
-#include <new>
 
 #include "commands/command_file.h"
 #include "commands/self_test.h"
@@ -15,6 +14,7 @@
 #include "filter/descriptors.h"
 #include "filter/foreign_signals.h"
 #include "filter/job_options.h"
+#include "filter/memory_watch.h"
 #include "status/connection_check.h"
 #include "status/printer_check.h"
 
@@ -99,7 +99,8 @@ int run_job(std::FILE* input, const char* options) {
   }
   ppd_file_t* ppd = open_marked_ppd(options);
   if (ppd == nullptr && errno == ENOMEM) {
-    throw std::bad_alloc();
+    report_no_memory();
+    return 1;
   }
   Commands commands(ppd);
   bool good = true;
@@ -128,7 +129,7 @@ int main(int argc, char* argv[]) {
   try {
     return run_job(input, argv[kArgumentOptions]);
   } catch (const std::exception&) {
-    std::fprintf(stderr, "ERROR: Not enough memory for the job\n");
+    report_no_memory();
     return 1;
   }
 }

@@ -6,7 +6,6 @@
 #define TQR7_FILTER_MEMORY_WATCH_H
 
 #include <cerrno>
-#include <new>
 
 /// Stands around one call. Where the call leaves errno alone, errno keeps what it told before.
 class MemoryWatch {
@@ -23,15 +22,11 @@ class MemoryWatch {
   /// The allocator's own word, which is the only trace.
   bool refused() const { return errno == ENOMEM; }
 
-  /// As operator new tells it.
-  void pass_on_refusal() const {
-    if (refused()) {
-      throw std::bad_alloc();
-    }
-  }
-
  private:
   int before_;
 };
+
+/// The log line that a job ends with for want of memory.
+void report_no_memory();
 
 #endif  // TQR7_FILTER_MEMORY_WATCH_H

@@ -20,8 +20,9 @@ constexpr unsigned int kLinesPerReport = 128;
 constexpr int kPercentRead = 50;  // printing the page takes the other half
 
 // Reads the page's lines into the page buffer. The header is hostile: a line holds as many bytes as
-// it says, never more, and what it does not hold stays white.
-void read_page(cups_raster_t* raster, const cups_page_header_t& header,
+// it says, never more, and what it does not hold stays white. False when libcups had no memory for
+// a line.
+bool read_page(cups_raster_t* raster, const cups_page_header_t& header,
                const tagPRINTSETTING& settings) {
   const auto raster_width = static_cast<std::int32_t>(header.cupsWidth);
   const auto raster_height = static_cast<std::int32_t>(header.cupsHeight);
@@ -40,7 +41,10 @@ void read_page(cups_raster_t* raster, const cups_page_header_t& header,
     }
     const MemoryWatch watch;
     if (cupsRasterReadPixels(raster, Planes[0], header.cupsBytesPerLine) == 0) {
-      watch.pass_on_refusal();  // or the rest would print white
+      if (watch.refused()) {
+        report_no_memory();  // or the rest would print white
+        return false;
+      }
       break;
     }
     if (y < settings.nImageHeight) {
@@ -49,17 +53,19 @@ void read_page(cups_raster_t* raster, const cups_page_header_t& header,
     }
   }
   report_progress(kPercentRead);
+  return true;
 }
 
-// False at the end of the stream. libcups says the same when it has no memory for the next page,
-// which would then be lost without a word.
-bool read_header(cups_raster_t* raster, cups_page_header_t* header) {
+// What comes next in the stream. libcups tells of an end also when it has no memory for the next
+// page, which would then be lost without a word.
+enum class Next { Page, End, NoMemory };
+
+Next read_header(cups_raster_t* raster, cups_page_header_t* header) {
   const MemoryWatch watch;
   if (cupsRasterReadHeader(raster, header) != 0) {
-    return true;
+    return Next::Page;
   }
-  watch.pass_on_refusal();
-  return false;
+  return watch.refused() ? Next::NoMemory : Next::End;
 }
 
 }  // namespace
@@ -67,18 +73,22 @@ bool read_header(cups_raster_t* raster, cups_page_header_t* header) {
 bool print_pages(cups_raster_t* raster, ppd_file_t* ppd, const tagPRINTSETTING& settings,
                  const char* module_path) {
   cups_page_header_t header;
-  while (read_header(raster, &header)) {
+  Next next = read_header(raster, &header);
+  for (; next == Next::Page; next = read_header(raster, &header)) {
     ++page;
     std::fprintf(stderr, "PAGE: %d %d\n", page, static_cast<int>(header.NumCopies));
     StartPage(ppd, &header, &settings);
-    if (Planes[0] == nullptr || Planes[1] == nullptr) {
+    if (Planes[0] == nullptr || Planes[1] == nullptr || !read_page(raster, header, settings)) {
       EndPage(nullptr, nullptr, nullptr);
       return false;
     }
-    read_page(raster, header, settings);
     if (!EndPage(&header, &settings, module_path)) {
       return false;
     }
+  }
+  if (next == Next::NoMemory) {
+    report_no_memory();
+    return false;
   }
   print_last_page(&settings);
   wr_esc_printout(fpOut, &settings);

@@ -55,6 +55,18 @@ bool open_raster_file(int argc, char* argv[], JobInput* input) {
   return false;
 }
 
+// False without memory for the stream. What is no raster gives no stream either, and is no error
+// yet.
+bool open_raster(JobInput* input) {
+  const MemoryWatch watch;
+  input->raster = cupsRasterOpen(input->descriptor, CUPS_RASTER_READ);
+  if (input->raster == nullptr && watch.refused()) {
+    report_no_memory();
+    return false;
+  }
+  return true;
+}
+
 // The clean-up and the exit status of a job that came as far as its pages.
 int finish_job(const JobInput& input, bool failed) {
   CImageUtility::DeleteBandImage(&gImageCache);
@@ -72,21 +84,8 @@ int finish_job(const JobInput& input, bool failed) {
   return failed ? 1 : 0;
 }
 
-// Without memory libcups has no stream; what is no raster gives none either, and is no error yet.
-cups_raster_t* open_raster(int descriptor) {
-  const MemoryWatch watch;
-  cups_raster_t* raster = cupsRasterOpen(descriptor, CUPS_RASTER_READ);
-  if (raster == nullptr) {
-    watch.pass_on_refusal();
-  }
-  return raster;
-}
-
-// The job itself, once its arguments and its input are known. Throws when memory runs out where no
-// other end is laid down for it.
-int run_job(JobInput input, const char* options) {
-  input.raster = open_raster(input.descriptor);
-  input.ppd = open_marked_ppd(options);
+// The job itself, once its arguments and its input are known.
+int run_job(const JobInput& input) {
   tagPRINTSETTING settings{};
   get_print_setting(input.ppd, &settings);
   char module_path[kModulePathSize] = {};
@@ -119,15 +118,16 @@ int main(int argc, char* argv[]) {
     return 1;
   }
   JobInput input;
-  if (!open_raster_file(argc, argv, &input)) {
+  if (!open_raster_file(argc, argv, &input) || !open_raster(&input)) {
     return 1;
   }
+  input.ppd = open_marked_ppd(argv[kArgumentOptions]);
   try {
-    return run_job(input, argv[kArgumentOptions]);
+    return run_job(input);
   } catch (const std::bad_alloc&) {
-    // Every sheet is sent whole before anything here can throw: what was printed stays printed, and
-    // nothing follows it. The process's end gives the memory back.
-    std::fprintf(stderr, "ERROR: Not enough memory for the job\n");
+    // The C++ library's own, from texts and sets. Every sheet is sent whole before: what was
+    // printed stays printed, and nothing follows it. The process's end gives the memory back.
+    report_no_memory();
     return 1;
   }
 }
