@@ -37,10 +37,11 @@ done
 # It is switched on again.
 printer_start "$TQR7_BUILD" "$work/back" --device-values || exit 1
 scheduler_add_queue away "$(printer_uri "$PRINTER_PORT")"
-send_photos 90 100 110 120
+# As many as there are members: each has its turn.
+send_photos 90 100 110 120 130 140
 expect_all_completed "${JOBS[@]}"
 expect_works back
-expect_equal 'photos in the end, each once' '10 20 30 40 50 60 70 80 90 100 110 120' \
+expect_equal 'photos in the end, each once' '10 20 30 40 50 60 70 80 90 100 110 120 130 140' \
   "$(photos_printed_by "${policies[@]}" back good)"
 
 finish
