@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "protocol/plane_transfer.h"
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -52,6 +53,10 @@ Lines lines_of(const tagMVBandImageParams* band) {
 
 // The printer takes samples low byte first, whatever the order of this machine.
 void stage_pixels(unsigned char* to, const unsigned char* from, std::size_t pixels) {
+  if constexpr (std::endian::native == std::endian::little) {
+    std::memcpy(to, from, pixels * kBytesPerImagePixel);
+    return;
+  }
   for (std::size_t i = 0; i < pixels * 3; ++i) {
     std::uint16_t sample = 0;
     std::memcpy(&sample, from + 2 * i, sizeof sample);
