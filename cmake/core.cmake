@@ -24,6 +24,7 @@ set(TQR7_CORE_SOURCES
   filter/progress.cpp
   filter/sheet_assembly.cpp
   image/band_image.cpp
+  image/page_memory.cpp
   image/rect.cpp
   protocol/image_header.cpp
   protocol/job_header.cpp

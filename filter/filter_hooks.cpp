@@ -13,6 +13,7 @@
 #include "filter/job_state.h"
 #include "filter/page_conversion.h"
 #include "filter/sheet_assembly.h"
+#include "image/page_memory.h"
 
 namespace {
 
@@ -74,6 +75,7 @@ void StartPage(ppd_file_s* /*ppd*/, const cups_page_header_s* header,
     release_plane(Planes[1]);
   } else {
     // What the raster does not supply prints white.
+    expect_writes(Planes[1], size);
     std::memset(Planes[1], 0xFF, size);
   }
   curLine = 0;

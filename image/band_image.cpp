@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "image/band_image.h"
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 #include <new>
+
+#include "image/page_memory.h"
 
 namespace {
 
@@ -30,6 +33,19 @@ std::size_t buffer_size(const tagRECT& rect, std::int64_t bytes_per_pixel) {
   return static_cast<std::size_t>(size);
 }
 
+// Fills `size` bytes with a pixel: what is there already is copied behind itself, each time as
+// much.
+void repeat_pixel(unsigned char* line, std::size_t size, const void* pixel,
+                  std::size_t pixel_size) {
+  if (size == 0) {
+    return;
+  }
+  std::memcpy(line, pixel, pixel_size);
+  for (std::size_t filled = pixel_size; filled < size; filled *= 2) {
+    std::memcpy(line + filled, line, std::min(filled, size - filled));
+  }
+}
+
 }  // namespace
 
 bool CImageUtility::CreateBandImage(tagMVBandImageParams* image, const tagRECT& rect,
@@ -44,6 +60,7 @@ bool CImageUtility::CreateBandImage(tagMVBandImageParams* image, const tagRECT& 
   if (image->pBits == nullptr) {
     return false;
   }
+  expect_writes(image->pBits, size);
   std::memset(image->pBits, 0xFF, size);
   return true;
 }
@@ -99,17 +116,18 @@ bool CImageUtility::FillBandImage(tagMVBandImageParams* image, int bitsPerPixel,
   const std::int64_t height = rect_height(image->rcBand);
   const std::int64_t stride = image->lStride;
   const std::int64_t whole_pixels = (stride < 0 ? -stride : stride) / bytes_per_pixel;
+  const auto size = static_cast<std::size_t>(whole_pixels * bytes_per_pixel);
+  if (height <= 0) {
+    return true;
+  }
   unsigned char* line = image->pBits;
-  if (stride >= 0 && height > 0) {
+  if (stride >= 0) {
     line += stride * (height - 1);
   }
-  for (std::int64_t row = 0; row < height; ++row) {
-    for (std::int64_t i = 0; i < whole_pixels; ++i) {
-      std::memcpy(line + i * bytes_per_pixel, pattern, static_cast<std::size_t>(bytes_per_pixel));
-    }
-    if (row + 1 < height) {
-      line -= stride;
-    }
+  repeat_pixel(line, size, pattern, static_cast<std::size_t>(bytes_per_pixel));
+  for (std::int64_t row = 1; row < height; ++row) {
+    std::memcpy(line - stride, line, size);
+    line -= stride;
   }
   return true;
 }

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "image/page_memory.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+#include "tests/unit/image/faults.h"
+
+TEST(PageMemory, IsThereBeforeTheFirstWrite) {
+  const std::unique_ptr<unsigned char[]> band(new unsigned char[kBandBytes]);
+  expect_writes(band.get(), kBandBytes);
+  EXPECT_LE(faults_of_writing(band.get(), kBandBytes), kFewFaults);
+}
+
+TEST(PageMemory, KeepsTheBytesThatAreThere) {
+  std::vector<unsigned char> bytes(std::size_t{3} << 20U, 0xA5);
+  expect_writes(bytes.data() + 1, bytes.size() - 2);
+  EXPECT_TRUE(std::all_of(bytes.begin(), bytes.end(), [](unsigned char b) { return b == 0xA5; }));
+}
+
+TEST(PageMemory, LeavesErrnoAlone) {
+  errno = ENOENT;
+  // Nothing is there: the system refuses the hint, and that is no error of the page.
+  expect_writes(reinterpret_cast<unsigned char*>(4096), kBandBytes);
+  EXPECT_EQ(errno, ENOENT);
+}
+
+TEST(PageMemory, TakesWhatIsNoBuffer) {
+  expect_writes(nullptr, kBandBytes);
+  unsigned char none = 0x5A;
+  expect_writes(&none, 0);
+  EXPECT_EQ(none, 0x5A);
+}
