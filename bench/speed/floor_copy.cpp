@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// A floor: moves the bytes that the filter's contract has it move, and does nothing else. Each line
+// is read into a line buffer and copied into the page; the page is widened into a 48-bit band,
+// which was first set to 0xFF; the band is gathered into writes of 196,608 bytes.
+#include <cups/raster.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdio>
+#include <cstring>
+
+#include "bench/speed/widening.h"
+
+namespace {
+
+constexpr std::size_t kStagingSize = 196608;
+
+bool read_page(cups_raster_t* raster, const cups_page_header2_t& header, unsigned char* line,
+               unsigned char* page) {
+  for (unsigned y = 0; y < header.cupsHeight; ++y) {
+    if (cupsRasterReadPixels(raster, line, header.cupsBytesPerLine) == 0) {
+      return false;
+    }
+    std::memcpy(page, line, header.cupsBytesPerLine);
+    page += header.cupsBytesPerLine;
+  }
+  return true;
+}
+
+bool write_band(const unsigned char* band, std::size_t size) {
+  auto* staging = new unsigned char[kStagingSize];
+  bool written = true;
+  for (std::size_t sent = 0; written && sent < size; sent += kStagingSize) {
+    const std::size_t bytes = std::min(kStagingSize, size - sent);
+    std::memcpy(staging, band + sent, bytes);
+    written = std::fwrite(staging, bytes, 1, stdout) == 1;
+  }
+  delete[] staging;
+  return written;
+}
+
+// The buffers come and go in the filter's order.
+bool copy_page(cups_raster_t* raster, const cups_page_header2_t& header) {
+  const std::size_t samples = std::size_t{header.cupsBytesPerLine} * header.cupsHeight;
+  auto* line = new unsigned char[header.cupsBytesPerLine];
+  auto* page = new unsigned char[samples];
+  bool done = read_page(raster, header, line, page);
+  auto* band = new unsigned char[2 * samples];
+  std::memset(band, 0xFF, 2 * samples);
+  bench::widen(page, band, samples);
+  done = done && write_band(band, 2 * samples);
+  delete[] page;
+  delete[] band;
+  done = std::fflush(stdout) == 0 && done;
+  delete[] line;
+  return done;
+}
+
+}  // namespace
+
+int main() {
+  cups_raster_t* raster = cupsRasterOpen(0, CUPS_RASTER_READ);
+  cups_page_header2_t header;
+  while (cupsRasterReadHeader2(raster, &header) != 0) {
+    if (!copy_page(raster, header)) {
+      return 1;
+    }
+  }
+  cupsRasterClose(raster);
+  return 0;
+}

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// Writes a raster stream for measuring: make-raster [options] FILE, or - for standard output.
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <cstdint>
+#include <cstdio>
+#include <map>
+#include <string>
+
+#include "bench/speed/raster_pages.h"
+
+namespace {
+
+using bench::Content;
+using bench::RasterColours;
+
+const std::map<std::string, Content> kContents = {
+    {"photo", Content::Photo}, {"white", Content::White}, {"noise", Content::Noise}};
+const std::map<std::string, RasterColours> kColours = {{"rgb", RasterColours::Rgb},
+                                                       {"cmyk", RasterColours::Cmyk},
+                                                       {"grey", RasterColours::Grey},
+                                                       {"black", RasterColours::Black}};
+
+struct Request {
+  std::string file;
+  Content content = Content::Photo;
+  RasterColours colours = RasterColours::Rgb;
+  std::size_t width = 1852;  // the image area of RQ_10x15
+  std::size_t height = 1232;
+  int pages = 1;
+  std::uint32_t seed = 1;
+  bool compressed = false;
+};
+
+void describe(CLI::App& app, Request& request) {
+  constexpr int kMostDots = 20000;
+  app.add_option("file", request.file, "where to, - for standard output")->required();
+  app.add_option("--content", request.content, "photo, white or noise")
+      ->transform(CLI::CheckedTransformer(kContents));
+  app.add_option("--colours", request.colours, "rgb, cmyk, grey, or black: one bit a pixel")
+      ->transform(CLI::CheckedTransformer(kColours));
+  app.add_option("--width", request.width, "pixels")->check(CLI::Range(1, kMostDots));
+  app.add_option("--height", request.height, "pixels")->check(CLI::Range(1, kMostDots));
+  app.add_option("--pages", request.pages, "how many times the page")
+      ->check(CLI::NonNegativeNumber);
+  app.add_option("--seed", request.seed, "of the noise");
+  app.add_flag("--compressed", request.compressed, "in libcups' run lengths");
+}
+
+bool write(const Request& request) {
+  const int file = request.file == "-"
+                       ? STDOUT_FILENO
+                       : open(request.file.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
+  if (file < 0) {
+    return false;
+  }
+  const bench::Picture page =
+      bench::page_picture(request.content, request.width, request.height, request.seed);
+  const auto form = request.compressed ? bench::RasterForm::Compressed : bench::RasterForm::Raw;
+  const bool written = bench::write_raster(file, page, request.pages, form, request.colours);
+  return close(file) == 0 && written;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  CLI::App app("Writes a raster stream for measuring, by libcups' own writer");
+  Request request;
+  describe(app, request);
+  CLI11_PARSE(app, argc, argv);
+  if (!write(request)) {
+    std::perror(("make-raster: " + request.file).c_str());
+    return 1;
+  }
+  return 0;
+}
