@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 
@@ -28,13 +29,15 @@ bool read_page(cups_raster_t* raster, const cups_page_header2_t& header, unsigne
   return true;
 }
 
-bool write_band(const unsigned char* band, std::size_t size) {
+bool write_band(const std::uint16_t* band, std::size_t samples) {
+  const auto* bytes = reinterpret_cast<const unsigned char*>(band);
+  const std::size_t size = samples * sizeof *band;
   auto* staging = new unsigned char[kStagingSize];
   bool written = true;
   for (std::size_t sent = 0; written && sent < size; sent += kStagingSize) {
-    const std::size_t bytes = std::min(kStagingSize, size - sent);
-    std::memcpy(staging, band + sent, bytes);
-    written = std::fwrite(staging, bytes, 1, stdout) == 1;
+    const std::size_t part = std::min(kStagingSize, size - sent);
+    std::memcpy(staging, bytes + sent, part);
+    written = std::fwrite(staging, part, 1, stdout) == 1;
   }
   delete[] staging;
   return written;
@@ -46,10 +49,10 @@ bool copy_page(cups_raster_t* raster, const cups_page_header2_t& header) {
   auto* line = new unsigned char[header.cupsBytesPerLine];
   auto* page = new unsigned char[samples];
   bool done = read_page(raster, header, line, page);
-  auto* band = new unsigned char[2 * samples];
-  std::memset(band, 0xFF, 2 * samples);
+  auto* band = new std::uint16_t[samples];
+  std::memset(band, 0xFF, samples * sizeof *band);
   bench::widen(page, band, samples);
-  done = done && write_band(band, 2 * samples);
+  done = done && write_band(band, samples);
   delete[] page;
   delete[] band;
   done = std::fflush(stdout) == 0 && done;

@@ -7,16 +7,14 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 namespace bench {
 
-/// Widens `count` bytes into as many samples, which may lie at any address.
-inline void widen(const unsigned char* bytes, unsigned char* samples, std::size_t count) {
+/// Widens `count` bytes into as many samples.
+inline void widen(const unsigned char* bytes, std::uint16_t* samples, std::size_t count) {
   for (std::size_t i = 0; i < count; ++i) {
     const unsigned byte = bytes[i];
-    const auto sample = static_cast<std::uint16_t>(byte << 6U | byte >> 2U);
-    std::memcpy(samples + 2 * i, &sample, sizeof sample);
+    samples[i] = static_cast<std::uint16_t>(byte << 6U | byte >> 2U);
   }
 }
 

@@ -3,6 +3,7 @@
 // A conversion library that only widens each byte, in the place of the real one: what the filter
 // then takes is its own. A matte plane is filled with one value.
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 
 #include "bench/speed/widening.h"
@@ -24,7 +25,8 @@ std::size_t pixels_of(const tagMVBandImageParams& band) {
 long MVChangeImage(const tagMVBandImageParams* source, const tagMVChangeParams* /*params*/,
                    tagMVBandImageParams* destination, tagMVBandImageParams* matte,
                    unsigned char* rgbRate, unsigned char* opRate) {
-  bench::widen(source->pBits, destination->pBits, 3 * pixels_of(*source));
+  bench::widen(source->pBits, reinterpret_cast<std::uint16_t*>(destination->pBits),
+               3 * pixels_of(*source));
   if (matte != nullptr) {
     std::memset(matte->pBits, kMatteByte, pixels_of(*matte));
   }
