@@ -59,12 +59,11 @@ bool begin_sheet(const tagPRINTSETTING* settings, tagMVBandImageParams** matte) 
   if (settings->byPrintFinish != kFinishMatte) {
     return true;
   }
-  // The plane of the sheet before stays readable until this one takes its place.
-  tagMVBandImageParams previous = gMatteImage;
+  // The plane of the sheet before is readable until here; two at once would be two in memory.
+  CImageUtility::DeleteBandImage(&gMatteImage);
   const MV_TYPEDEF::tagRECT plane{0, 0, settings->nPaperWidth,
                                   std::int64_t{settings->nPaperHeight} + kMatteExtraRows};
   const bool made = CImageUtility::CreateBandImage(&gMatteImage, plane, kMatteDepth, kTopDown);
-  CImageUtility::DeleteBandImage(&previous);
   if (made) {
     *matte = &gMatteImage;
   }
