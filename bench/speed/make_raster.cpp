@@ -20,19 +20,18 @@ using bench::RasterColours;
 const std::map<std::string, Content> kContents = {
     {"photo", Content::Photo}, {"white", Content::White}, {"noise", Content::Noise}};
 const std::map<std::string, RasterColours> kColours = {{"rgb", RasterColours::Rgb},
-                                                       {"cmyk", RasterColours::Cmyk},
-                                                       {"grey", RasterColours::Grey},
-                                                       {"black", RasterColours::Black}};
+                                                       {"black", RasterColours::Black},
+                                                       {"kcmy", RasterColours::KcmyPlanes}};
 
 struct Request {
   std::string file;
   Content content = Content::Photo;
-  RasterColours colours = RasterColours::Rgb;
   std::size_t width = 1852;  // the image area of RQ_10x15
   std::size_t height = 1232;
   int pages = 1;
   std::uint32_t seed = 1;
   bool compressed = false;
+  bench::RasterStyle style = {};
 };
 
 void describe(CLI::App& app, Request& request) {
@@ -40,13 +39,18 @@ void describe(CLI::App& app, Request& request) {
   app.add_option("file", request.file, "where to, - for standard output")->required();
   app.add_option("--content", request.content, "photo, white or noise")
       ->transform(CLI::CheckedTransformer(kContents));
-  app.add_option("--colours", request.colours, "rgb, cmyk, grey, or black: one bit a pixel")
+  app.add_option("--colours", request.style.colours,
+                 "rgb; black: one bit a pixel; kcmy: four planes of bits")
       ->transform(CLI::CheckedTransformer(kColours));
   app.add_option("--width", request.width, "pixels")->check(CLI::Range(1, kMostDots));
   app.add_option("--height", request.height, "pixels")->check(CLI::Range(1, kMostDots));
   app.add_option("--pages", request.pages, "how many times the page")
       ->check(CLI::NonNegativeNumber);
   app.add_option("--seed", request.seed, "of the noise");
+  app.add_option("--compression", request.style.compression, "the header's field");
+  app.add_option("--row-count", request.style.row_count, "the header's field");
+  app.add_option("--row-feed", request.style.row_feed, "the header's field");
+  app.add_option("--row-step", request.style.row_step, "the header's field");
   app.add_flag("--compressed", request.compressed, "in libcups' run lengths");
 }
 
@@ -59,8 +63,9 @@ bool write(const Request& request) {
   }
   const bench::Picture page =
       bench::page_picture(request.content, request.width, request.height, request.seed);
-  const auto form = request.compressed ? bench::RasterForm::Compressed : bench::RasterForm::Raw;
-  const bool written = bench::write_raster(file, page, request.pages, form, request.colours);
+  bench::RasterStyle style = request.style;
+  style.form = request.compressed ? bench::RasterForm::Compressed : bench::RasterForm::Raw;
+  const bool written = bench::write_raster(file, page, request.pages, style);
   return close(file) == 0 && written;
 }
 

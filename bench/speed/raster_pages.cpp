@@ -4,6 +4,7 @@
 #include <cups/raster.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <memory>
 #include <random>
@@ -25,89 +26,99 @@ struct RasterCloser {
 
 struct Layout {
   cups_cspace_t space;
+  cups_order_t order;
   unsigned bits_per_colour;
   unsigned colours;
 };
 
 Layout layout_of(RasterColours colours) {
   switch (colours) {
-    case RasterColours::Cmyk:
-      return {CUPS_CSPACE_CMYK, 8, 4};
-    case RasterColours::Grey:
-      return {CUPS_CSPACE_W, 8, 1};
     case RasterColours::Black:
-      return {CUPS_CSPACE_K, 1, 1};
+      return {CUPS_CSPACE_K, CUPS_ORDER_CHUNKED, 1, 1};
+    case RasterColours::KcmyPlanes:
+      return {CUPS_CSPACE_KCMY, CUPS_ORDER_BANDED, 1, 4};
     case RasterColours::Rgb:
       break;
   }
-  return {CUPS_CSPACE_RGB, 8, 3};
+  return {CUPS_CSPACE_RGB, CUPS_ORDER_CHUNKED, 8, 3};
 }
 
-cups_page_header2_t header_of(const Picture& page, const Layout& layout) {
-  const auto width = static_cast<unsigned>(page.width);
-  const auto height = static_cast<unsigned>(page.height);
-  const double across = kPointsPerDot * width;
-  const double down = kPointsPerDot * height;
+void set_size(cups_page_header2_t* header, const Picture& page) {
+  header->cupsWidth = static_cast<unsigned>(page.width);
+  header->cupsHeight = static_cast<unsigned>(page.height);
+  const double across = kPointsPerDot * header->cupsWidth;
+  const double down = kPointsPerDot * header->cupsHeight;
+  header->HWResolution[0] = header->HWResolution[1] = kDotsPerInch;
+  header->PageSize[0] = static_cast<unsigned>(std::lround(across));
+  header->PageSize[1] = static_cast<unsigned>(std::lround(down));
+  header->ImagingBoundingBox[2] = header->PageSize[0];
+  header->ImagingBoundingBox[3] = header->PageSize[1];
+  header->cupsPageSize[0] = header->cupsImagingBBox[2] = static_cast<float>(across);
+  header->cupsPageSize[1] = header->cupsImagingBBox[3] = static_cast<float>(down);
+}
+
+cups_page_header2_t header_of(const Picture& page, const RasterStyle& style) {
+  const Layout layout = layout_of(style.colours);
+  const bool planes = layout.order == CUPS_ORDER_BANDED;
   cups_page_header2_t header{};
+  set_size(&header, page);
   header.NumCopies = 1;
-  header.HWResolution[0] = header.HWResolution[1] = kDotsPerInch;
-  header.PageSize[0] = static_cast<unsigned>(std::lround(across));
-  header.PageSize[1] = static_cast<unsigned>(std::lround(down));
-  header.ImagingBoundingBox[2] = header.PageSize[0];
-  header.ImagingBoundingBox[3] = header.PageSize[1];
-  header.cupsPageSize[0] = header.cupsImagingBBox[2] = static_cast<float>(across);
-  header.cupsPageSize[1] = header.cupsImagingBBox[3] = static_cast<float>(down);
-  header.cupsWidth = width;
-  header.cupsHeight = height;
   header.cupsBitsPerColor = layout.bits_per_colour;
-  header.cupsBitsPerPixel = layout.bits_per_colour * layout.colours;
-  header.cupsBytesPerLine = (width * header.cupsBitsPerPixel + kPixelsPerByte - 1) / kPixelsPerByte;
-  header.cupsColorOrder = CUPS_ORDER_CHUNKED;
+  header.cupsBitsPerPixel =
+      planes ? layout.bits_per_colour : layout.bits_per_colour * layout.colours;
+  header.cupsBytesPerLine = (header.cupsWidth * header.cupsBitsPerPixel + kPixelsPerByte - 1) /
+                            kPixelsPerByte * (planes ? layout.colours : 1);
+  header.cupsColorOrder = layout.order;
   header.cupsColorSpace = layout.space;
   header.cupsNumColors = layout.colours;
+  header.cupsCompression = style.compression;
+  header.cupsRowCount = style.row_count;
+  header.cupsRowFeed = style.row_feed;
+  header.cupsRowStep = style.row_step;
   return header;
 }
 
-unsigned char grey_of(const Rgb8& pixel) {
-  return static_cast<unsigned char>((31U * pixel[0] + 61U * pixel[1] + 8U * pixel[2]) / 100U);
+// How much of each ink a pixel has: black, cyan, magenta, yellow.
+std::array<unsigned, 4> inks_of(const Rgb8& pixel) {
+  const unsigned lightest = *std::max_element(pixel.begin(), pixel.end());
+  return {255U - lightest, lightest - pixel[0], lightest - pixel[1], lightest - pixel[2]};
 }
 
-void put_cmyk(unsigned char* to, const Rgb8& pixel) {
-  const unsigned char lightest = *std::max_element(pixel.begin(), pixel.end());
-  for (std::size_t channel = 0; channel < pixel.size(); ++channel) {
-    to[channel] = static_cast<unsigned char>(lightest - pixel[channel]);
-  }
-  to[3] = static_cast<unsigned char>(255 - lightest);
+// As much black as the pixel is dark.
+std::array<unsigned, 1> darkness_of(const Rgb8& pixel) {
+  return {255U - (31U * pixel[0] + 61U * pixel[1] + 8U * pixel[2]) / 100U};
 }
 
-// One row as the page's lines hold it. Black dots come from an ordered 4 × 4 screen, as a page of
-// one bit a pixel has them.
-std::vector<unsigned char> line_of(const Picture& page, std::size_t y, RasterColours colours,
-                                   std::size_t bytes) {
-  constexpr unsigned char kScreen[4][4] = {
+// One row as planes of one bit a dot, each at the byte behind the one before.
+template <typename Inks>
+std::vector<unsigned char> screened(const Picture& page, std::size_t y, Inks inks) {
+  constexpr unsigned kScreen[4][4] = {
       {8, 136, 40, 168}, {200, 72, 232, 104}, {56, 184, 24, 152}, {248, 120, 216, 88}};
-  std::vector<unsigned char> line(bytes);
+  const std::size_t plane = (page.width + kPixelsPerByte - 1) / kPixelsPerByte;
   const Rgb8* row = page.pixels.data() + y * page.width;
+  std::vector<unsigned char> line(plane * inks(row[0]).size());
   for (std::size_t x = 0; x < page.width; ++x) {
-    const Rgb8& pixel = row[x];
-    switch (colours) {
-      case RasterColours::Rgb:
-        std::copy(pixel.begin(), pixel.end(), line.begin() + static_cast<std::ptrdiff_t>(3 * x));
-        break;
-      case RasterColours::Cmyk:
-        put_cmyk(line.data() + 4 * x, pixel);
-        break;
-      case RasterColours::Grey:
-        line[x] = grey_of(pixel);
-        break;
-      case RasterColours::Black:
-        if (grey_of(pixel) < kScreen[y % 4][x % 4]) {
-          line[x / kPixelsPerByte] |= static_cast<unsigned char>(0x80U >> (x % kPixelsPerByte));
-        }
-        break;
+    const auto amounts = inks(row[x]);
+    for (std::size_t ink = 0; ink < amounts.size(); ++ink) {
+      if (amounts[ink] > kScreen[y % 4][x % 4]) {
+        line[ink * plane + x / kPixelsPerByte] |=
+            static_cast<unsigned char>(0x80U >> (x % kPixelsPerByte));
+      }
     }
   }
   return line;
+}
+
+std::vector<unsigned char> line_of(const Picture& page, std::size_t y, RasterColours colours) {
+  switch (colours) {
+    case RasterColours::Black:
+      return screened(page, y, darkness_of);
+    case RasterColours::KcmyPlanes:
+      return screened(page, y, inks_of);
+    case RasterColours::Rgb:
+      break;
+  }
+  return {page.row(y), page.row(y) + 3 * page.width};
 }
 
 bool write_page(cups_raster_t* raster, cups_page_header2_t header,
@@ -138,18 +149,17 @@ Picture page_picture(Content content, std::size_t width, std::size_t height, std
   });
 }
 
-bool write_raster(int descriptor, const Picture& page, int pages, RasterForm form,
-                  RasterColours colours) {
+bool write_raster(int descriptor, const Picture& page, int pages, const RasterStyle& style) {
   const cups_mode_t mode =
-      form == RasterForm::Compressed ? CUPS_RASTER_WRITE_COMPRESSED : CUPS_RASTER_WRITE;
+      style.form == RasterForm::Compressed ? CUPS_RASTER_WRITE_COMPRESSED : CUPS_RASTER_WRITE;
   const std::unique_ptr<cups_raster_t, RasterCloser> raster(cupsRasterOpen(descriptor, mode));
   if (raster == nullptr) {
     return false;
   }
-  const cups_page_header2_t header = header_of(page, layout_of(colours));
+  const cups_page_header2_t header = header_of(page, style);
   std::vector<std::vector<unsigned char>> lines;
   for (std::size_t y = 0; y < page.height; ++y) {
-    lines.push_back(line_of(page, y, colours, header.cupsBytesPerLine));
+    lines.push_back(line_of(page, y, style.colours));
   }
   for (int number = 0; number < pages; ++number) {
     if (!write_page(raster.get(), header, lines)) {

@@ -26,7 +26,7 @@ class RasterFile {
   RasterFile(const Picture& page, int pages, RasterForm form)
       : file_(memfd_create("raster", MFD_CLOEXEC)),
         path_("/proc/" + std::to_string(getpid()) + "/fd/" + std::to_string(file_)) {
-    EXPECT_TRUE(bench::write_raster(file_, page, pages, form));
+    EXPECT_TRUE(bench::write_raster(file_, page, pages, {.form = form}));
   }
   ~RasterFile() { close(file_); }
   RasterFile(const RasterFile&) = delete;

@@ -23,7 +23,7 @@ using testing::ElementsAre;
 std::string stream_of(const Picture& page, int pages, RasterForm form,
                       RasterColours colours = RasterColours::Rgb) {
   const int file = memfd_create("raster", 0);
-  EXPECT_TRUE(write_raster(file, page, pages, form, colours));
+  EXPECT_TRUE(write_raster(file, page, pages, {.form = form, .colours = colours}));
   std::string stream(static_cast<std::size_t>(lseek(file, 0, SEEK_END)), '\0');
   EXPECT_EQ(pread(file, stream.data(), stream.size(), 0), static_cast<ssize_t>(stream.size()));
   close(file);
@@ -107,22 +107,29 @@ TEST(RasterPages, HaveTheSameNoiseForTheSameSeed) {
             page_picture(Content::Noise, 5, 5, 2).pixels);
 }
 
-TEST(RasterPages, HaveFourInksAPixelInCmyk) {
-  const std::vector<ReadPage> pages =
-      read_back(stream_of(kFourPixels, 1, RasterForm::Raw, RasterColours::Cmyk));
-  EXPECT_EQ(pages.at(0).header.cupsColorSpace, CUPS_CSPACE_CMYK);
-  EXPECT_THAT(pages.at(0).lines, ElementsAre(2, 1, 0, 252, 0, 0, 0, 0, 0, 0, 0, 255, 2, 1, 0, 246));
-}
-
-TEST(RasterPages, HaveOneByteAPixelInGrey) {
-  EXPECT_THAT(read_back(stream_of(kFourPixels, 1, RasterForm::Raw, RasterColours::Grey))[0].lines,
-              ElementsAre(1, 255, 0, 7));
-}
-
 TEST(RasterPages, HaveOneBitAPixelInBlack) {
   const Picture page{2, 1, {{0, 0, 0}, {255, 255, 255}}};
-  EXPECT_THAT(read_back(stream_of(page, 1, RasterForm::Raw, RasterColours::Black))[0].lines,
-              ElementsAre(0x80));
+  const std::vector<ReadPage> pages =
+      read_back(stream_of(page, 1, RasterForm::Raw, RasterColours::Black));
+  EXPECT_THAT(pages.at(0).lines, ElementsAre(0x80));
+}
+
+TEST(RasterPages, HaveFourPlanesALineInKcmy) {
+  const Picture page{9,
+                     1,
+                     {{0, 0, 0},
+                      {0, 255, 255},
+                      {255, 0, 255},
+                      {255, 255, 0},
+                      {255, 255, 255},
+                      {255, 255, 255},
+                      {255, 255, 255},
+                      {255, 255, 255},
+                      {255, 0, 0}}};
+  const std::vector<ReadPage> pages =
+      read_back(stream_of(page, 1, RasterForm::Raw, RasterColours::KcmyPlanes));
+  EXPECT_THAT(pages.at(0).lines, ElementsAre(0x80, 0x00, 0x40, 0x00, 0x20, 0x80, 0x10, 0x80));
+  EXPECT_EQ(pages.at(0).header.cupsColorOrder, CUPS_ORDER_BANDED);
 }
 
 }  // namespace
