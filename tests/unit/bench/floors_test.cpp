@@ -3,13 +3,11 @@
 // The floors move the bytes that they are said to: otherwise the filter would be held against too
 // little or too much.
 #include <gtest/gtest.h>
-#include <sys/mman.h>
-#include <unistd.h>
 
 #include <string>
 
-#include "bench/speed/meter.h"
-#include "bench/speed/raster_pages.h"
+#include "bench/speed/contestants.h"
+#include "bench/speed/raster_file.h"
 
 namespace {
 
@@ -17,31 +15,12 @@ using bench::Content;
 using bench::measure;
 using bench::MeteredRun;
 using bench::Picture;
+using bench::RasterFile;
 using bench::RasterForm;
 using bench::Streams;
 
-/// A raster stream that has a name while it is needed.
-class RasterFile {
- public:
-  RasterFile(const Picture& page, int pages, RasterForm form)
-      : file_(memfd_create("raster", MFD_CLOEXEC)),
-        path_("/proc/" + std::to_string(getpid()) + "/fd/" + std::to_string(file_)) {
-    EXPECT_TRUE(bench::write_raster(file_, page, pages, {.form = form}));
-  }
-  ~RasterFile() { close(file_); }
-  RasterFile(const RasterFile&) = delete;
-  RasterFile& operator=(const RasterFile&) = delete;
-
-  const std::string& path() const { return path_; }
-
- private:
-  int file_;
-  std::string path_;
-};
-
 MeteredRun floor_run(const std::string& floor, const std::string& input) {
-  MeteredRun run;
-  run.argv = {TQR7_BUILD_FOLDER "/bench/" + floor};
+  MeteredRun run = bench::floor_run(floor);
   run.input = input;
   run.streams = Streams::Pipes;
   run.keep_output = true;
@@ -49,16 +28,16 @@ MeteredRun floor_run(const std::string& floor, const std::string& input) {
 }
 
 MeteredRun filter_run(const std::string& input, const std::string& options) {
-  MeteredRun run = floor_run("widening/rastertoprinter", input);
-  run.argv.insert(run.argv.end(), {"7", "anna", "Beach", "1", options});
-  run.environment["PPD"] = TQR7_BUILD_FOLDER "/tqr7.ppd";
-  run.printer = true;
+  MeteredRun run = bench::filter_run(bench::Library::Widening, options);
+  run.input = input;
+  run.streams = Streams::Pipes;
+  run.keep_output = true;
   return run;
 }
 
 TEST(FloorCopy, WidensEachByteToFourteenBits) {
   const Picture page{2, 2, {{0, 1, 4}, {127, 128, 255}, {64, 3, 2}, {255, 255, 255}}};
-  const RasterFile raster(page, 1, RasterForm::Raw);
+  const RasterFile raster(page, 1, {});
   const unsigned char expected[] = {
       0x00, 0x00, 0x40, 0x00, 0x01, 0x01, 0xDF, 0x1F, 0x20, 0x20, 0xFF, 0x3F,
       0x10, 0x10, 0xC0, 0x00, 0x80, 0x00, 0xFF, 0x3F, 0xFF, 0x3F, 0xFF, 0x3F,
@@ -70,7 +49,7 @@ TEST(FloorCopy, WidensEachByteToFourteenBits) {
 TEST(FloorCopy, SendsThePixelsThatTheFilterSendsBesideTheWideningLibrary) {
   const Picture page = bench::page_picture(Content::Noise, 1852, 631, 5);
   for (const RasterForm form : {RasterForm::Raw, RasterForm::Compressed}) {
-    const RasterFile raster(page, 1, form);
+    const RasterFile raster(page, 1, {.form = form});
     const std::string image = measure(floor_run("floor-copy", raster.path())).output;
     const std::string stream = measure(filter_run(raster.path(), "PageSize=RQ_5x15")).output;
     EXPECT_EQ(image.size(), 1852U * 631U * 6U);
@@ -81,15 +60,15 @@ TEST(FloorCopy, SendsThePixelsThatTheFilterSendsBesideTheWideningLibrary) {
 
 TEST(FloorCopy, SendsEachPage) {
   const Picture page = bench::page_picture(Content::Noise, 30, 20, 5);
-  const RasterFile one(page, 1, RasterForm::Raw);
-  const RasterFile two(page, 2, RasterForm::Raw);
+  const RasterFile one(page, 1, {});
+  const RasterFile two(page, 2, {});
   const std::string image = measure(floor_run("floor-copy", one.path())).output;
   EXPECT_EQ(measure(floor_run("floor-copy", two.path())).output, image + image);
 }
 
 TEST(FloorDrop, ReadsTheWholeStreamAndWritesNothing) {
   const Picture page = bench::page_picture(Content::Noise, 1852, 100, 5);
-  const RasterFile raster(page, 2, RasterForm::Raw);
+  const RasterFile raster(page, 2, {});
   EXPECT_EQ(measure(floor_run("floor-drop", raster.path())).bytes, 0U);
 }
 
@@ -101,7 +80,7 @@ TEST(FloorWrite, WritesSoManyBytes) {
 
 TEST(WideningFilter, PrintsMatteAndJoinedSheets) {
   const Picture page = bench::page_picture(Content::Noise, 1852, 616, 5);
-  const RasterFile raster(page, 2, RasterForm::Raw);
+  const RasterFile raster(page, 2, {});
   MeteredRun run = filter_run(raster.path(), "PageSize=RQ_5x15x2_2 RQPrintFinish=Matte");
   run.bytes = 1852 * 1232 * 6 + 1852 * 1244;
   EXPECT_EQ(measure(run).pauses, 1U) << "behind its one sheet";

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// Prints what a page costs the filter, beside floors that move the same bytes: page_speed [--rounds
+// N].
+//
+// The first page of a job is the job of one page less the job of none: what it adds to the start.
+// Each further page is a tenth of what a job of eleven takes more than a job of one.
+#include <CLI/CLI.hpp>
+#include <array>
+#include <cstdio>
+#include <deque>
+#include <exception>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "bench/speed/contestants.h"
+#include "bench/speed/raster_file.h"
+#include "bench/spread.h"
+#include "bench/table_printer.h"
+
+namespace {
+
+using bench::Entrant;
+using bench::Library;
+using bench::MeteredRun;
+using bench::number;
+using bench::RasterForm;
+using bench::Streams;
+
+constexpr std::array<int, 3> kPages = {0, 1, 11};
+constexpr double kFurther = 10.0;
+constexpr double kMost = 1.10;     // of the floor
+constexpr double kStretch = 0.70;  // of the floor's first page
+
+/// One program on a job of no page, of one, and of eleven.
+struct Row {
+  std::string name;
+  std::array<Entrant, 3> jobs;
+
+  double first() const { return middle_of_difference(0, 1); }
+  double further() const { return middle_of_difference(1, 2) / kFurther; }
+
+ private:
+  double middle_of_difference(std::size_t less, std::size_t more) const {
+    std::vector<double> differences;
+    for (std::size_t round = 0; round < jobs[more].uses.size(); ++round) {
+      differences.push_back(jobs[more].uses[round].cpu() - jobs[less].uses[round].cpu());
+    }
+    return bench::median_of(std::move(differences));
+  }
+};
+
+/// The same page as streams of no page, one and eleven.
+struct RasterFiles {
+  RasterFiles(const bench::Picture& page, RasterForm form)
+      : files{bench::RasterFile(page, kPages[0], {.form = form}),
+              bench::RasterFile(page, kPages[1], {.form = form}),
+              bench::RasterFile(page, kPages[2], {.form = form})} {}
+  std::array<bench::RasterFile, 3> files;
+};
+
+Row row_of(const std::string& name, const MeteredRun& program, const RasterFiles& rasters,
+           Streams streams) {
+  Row row{name, {}};
+  for (std::size_t job = 0; job < kPages.size(); ++job) {
+    MeteredRun run = program;
+    run.streams = streams;
+    run.input = rasters.files[job].path();
+    const std::uint64_t bytes = bench::kImageBytes * static_cast<std::uint64_t>(kPages[job]);
+    if (name == "floor-write") {
+      run.input = "/dev/null";
+      run.argv.push_back(std::to_string(bytes));
+    }
+    run.bytes = name == "floor-drop" ? 0 : bytes;
+    run.status = run.printer && kPages[job] == 0 ? 1 : 0;  // the filter's word for an empty job
+    row.jobs[job] = {name, run};
+  }
+  return row;
+}
+
+const char* const kOff = "PageSize=RQ_10x15 RQColorConversion=Disabled RQSharpness_Common=None";
+const char* const kOn = "PageSize=RQ_10x15 RQColorConversion=Enabled RQSharpness_Common=Normal";
+
+std::deque<Row> rows_of(const RasterFiles& rasters, Streams streams) {
+  std::deque<Row> rows;
+  for (const char* floor : {"floor-write", "floor-drop", "floor-copy"}) {
+    rows.push_back(row_of(floor, bench::floor_run(floor), rasters, streams));
+  }
+  rows.push_back(row_of("filter, library that only widens",
+                        bench::filter_run(Library::Widening, kOff), rasters, streams));
+  rows.push_back(row_of("filter, our library, all off", bench::filter_run(Library::Ours, kOff),
+                        rasters, streams));
+  rows.push_back(row_of("filter, our library, colour and sharpening",
+                        bench::filter_run(Library::Ours, kOn), rasters, streams));
+  return rows;
+}
+
+void race(std::deque<Row>& rows, int rounds) {
+  std::vector<Entrant*> entrants;
+  for (Row& row : rows) {
+    for (Entrant& job : row.jobs) {
+      entrants.push_back(&job);
+    }
+  }
+  bench::run_in_turn(entrants, rounds);
+}
+
+void print(const std::deque<Row>& rows, const Row& floor) {
+  bench::Table table{
+      {"", "Empty job, ms", "First page, ms", "× floor-copy", "Each further page, ms",
+       "× floor-copy", "System, %", "Faults of one page", "Peak of one page, MB"},
+      {}};
+  for (const Row& row : rows) {
+    table.rows.push_back(
+        {row.name, number(bench::median_cpu(row.jobs[0]) * 1e3, 2), number(row.first() * 1e3, 2),
+         number(row.first() / floor.first(), 2), number(row.further() * 1e3, 2),
+         number(row.further() / floor.further(), 2),
+         number(bench::system_share(row.jobs[2]) * 100, 0),
+         number(bench::median_faults(row.jobs[1]) - bench::median_faults(row.jobs[0]), 0),
+         number(static_cast<double>(bench::largest_peak(row.jobs[1])) / 1024, 1)});
+  }
+  bench::print_table(table);
+}
+
+void tell_targets(const Row& floor, const Row& filter, const std::string& where) {
+  bench::tell_target("first page, " + where + ", against floor-copy", kMost,
+                     filter.first() / floor.first());
+  bench::tell_target("first page, " + where + ": stretch", kStretch,
+                     filter.first() / floor.first());
+  bench::tell_target("further page, " + where + ", against floor-copy", kMost,
+                     filter.further() / floor.further());
+}
+
+constexpr std::size_t kFloor = 2;   // floor-copy's row
+constexpr std::size_t kFilter = 3;  // the row of the filter with the library that only widens
+
+void measure_photo(RasterForm form, Streams streams, int rounds) {
+  const RasterFiles rasters(bench::page_picture(bench::Content::Photo, 1852, 1232, 1), form);
+  std::deque<Row> rows = rows_of(rasters, streams);
+  race(rows, rounds);
+  const std::string where = std::string(form == RasterForm::Raw ? "raw" : "compressed") +
+                            " raster, " + (streams == Streams::Files ? "/dev/null" : "pipes");
+  std::printf("**Photo, %s**, %d rounds:\n\n", where.c_str(), rounds);
+  print(rows, rows[kFloor]);
+  tell_targets(rows[kFloor], rows[kFilter], where);
+}
+
+struct Named {
+  const char* name;
+  bench::Content content;
+};
+
+/// White and noise beside the photo: what the content alone makes of the cost.
+void measure_contents(int rounds) {
+  bench::Table table{{"Further page", "floor-copy, ms", "filter, ms", "× floor-copy"}, {}};
+  for (const RasterForm form : {RasterForm::Raw, RasterForm::Compressed}) {
+    for (const Named& page :
+         {Named{"photo", bench::Content::Photo}, Named{"white", bench::Content::White},
+          Named{"noise", bench::Content::Noise}}) {
+      const RasterFiles rasters(bench::page_picture(page.content, 1852, 1232, 1), form);
+      std::deque<Row> rows;
+      rows.push_back(row_of("floor-copy", bench::floor_run("floor-copy"), rasters, Streams::Files));
+      rows.push_back(
+          row_of("filter", bench::filter_run(Library::Widening, kOff), rasters, Streams::Files));
+      race(rows, rounds);
+      table.rows.push_back(
+          {std::string(page.name) + (form == RasterForm::Raw ? ", raw" : ", compressed"),
+           number(rows[0].further() * 1e3, 2), number(rows[1].further() * 1e3, 2),
+           number(rows[1].further() / rows[0].further(), 2)});
+    }
+  }
+  std::printf("**By content**, /dev/null, library that only widens, %d rounds:\n\n", rounds);
+  bench::print_table(table);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  CLI::App app("Prints what a page costs the filter, beside floors that move the same bytes");
+  int rounds = 21;
+  app.add_option("--rounds", rounds, "how often each runs")->check(CLI::Range(1, 1000));
+  CLI11_PARSE(app, argc, argv);
+  try {
+    for (const Streams streams : {Streams::Files, Streams::Pipes}) {
+      for (const RasterForm form : {RasterForm::Raw, RasterForm::Compressed}) {
+        measure_photo(form, streams, rounds);
+      }
+    }
+    measure_contents((rounds + 1) / 2);
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "page_speed: %s\n", failure.what());
+    return 1;
+  }
+  return 0;
+}
