@@ -5,11 +5,14 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <cerrno>
 #include <cstdint>
-#include <cstdio>
+#include <cstring>
 #include <map>
+#include <stdexcept>
 #include <string>
 
+#include "bench/speed/command_line.h"
 #include "bench/speed/raster_pages.h"
 
 namespace {
@@ -54,31 +57,25 @@ void describe(CLI::App& app, Request& request) {
   app.add_flag("--compressed", request.compressed, "in libcups' run lengths");
 }
 
-bool write(const Request& request) {
+void write(const Request& request) {
   const int file = request.file == "-"
                        ? STDOUT_FILENO
                        : open(request.file.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
-  if (file < 0) {
-    return false;
-  }
   const bench::Picture page =
       bench::page_picture(request.content, request.width, request.height, request.seed);
   bench::RasterStyle style = request.style;
   style.form = request.compressed ? bench::RasterForm::Compressed : bench::RasterForm::Raw;
-  const bool written = bench::write_raster(file, page, request.pages, style);
-  return close(file) == 0 && written;
+  const bool written = file >= 0 && bench::write_raster(file, page, request.pages, style);
+  if (!written || close(file) != 0) {
+    throw std::runtime_error(request.file + ": " + std::strerror(errno));
+  }
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  CLI::App app("Writes a raster stream for measuring, by libcups' own writer");
   Request request;
-  describe(app, request);
-  CLI11_PARSE(app, argc, argv);
-  if (!write(request)) {
-    std::perror(("make-raster: " + request.file).c_str());
-    return 1;
-  }
-  return 0;
+  return bench::run_program(
+      "Writes a raster stream for measuring, by libcups' own writer", argc, argv,
+      [&](CLI::App& app) { describe(app, request); }, [&] { write(request); });
 }

@@ -5,15 +5,14 @@
 //
 // The first page of a job is the job of one page less the job of none: what it adds to the start.
 // Each further page is a tenth of what a job of eleven takes more than a job of one.
-#include <CLI/CLI.hpp>
 #include <array>
 #include <cstdio>
 #include <deque>
-#include <exception>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "bench/speed/command_line.h"
 #include "bench/speed/contestants.h"
 #include "bench/speed/raster_file.h"
 #include "bench/spread.h"
@@ -174,23 +173,23 @@ void measure_contents(int rounds) {
   bench::print_table(table);
 }
 
+void measure_all(int rounds) {
+  for (const Streams streams : {Streams::Files, Streams::Pipes}) {
+    for (const RasterForm form : {RasterForm::Raw, RasterForm::Compressed}) {
+      measure_photo(form, streams, rounds);
+    }
+  }
+  measure_contents((rounds + 1) / 2);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  CLI::App app("Prints what a page costs the filter, beside floors that move the same bytes");
   int rounds = 21;
-  app.add_option("--rounds", rounds, "how often each runs")->check(CLI::Range(1, 1000));
-  CLI11_PARSE(app, argc, argv);
-  try {
-    for (const Streams streams : {Streams::Files, Streams::Pipes}) {
-      for (const RasterForm form : {RasterForm::Raw, RasterForm::Compressed}) {
-        measure_photo(form, streams, rounds);
-      }
-    }
-    measure_contents((rounds + 1) / 2);
-  } catch (const std::exception& failure) {
-    std::fprintf(stderr, "page_speed: %s\n", failure.what());
-    return 1;
-  }
-  return 0;
+  return bench::run_program(
+      "Prints what a page costs the filter, beside floors that move the same bytes", argc, argv,
+      [&](CLI::App& app) {
+        app.add_option("--rounds", rounds, "how often each runs")->check(CLI::Range(1, 1000));
+      },
+      [&] { measure_all(rounds); });
 }

@@ -3,11 +3,10 @@
 // Prints the filter's peak memory beside that of the floor with the same buffers: peak_memory
 // [--pages N] for the length of the long job. Matte plane and sheet cache, which the floor has not,
 // are added to it where the job needs them.
-#include <CLI/CLI.hpp>
 #include <cstdio>
-#include <exception>
 #include <string>
 
+#include "bench/speed/command_line.h"
 #include "bench/speed/contestants.h"
 #include "bench/speed/raster_file.h"
 #include "bench/table_printer.h"
@@ -79,11 +78,12 @@ void measure_long_job(const Kind& kind, int pages, bench::Table* table) {
       bench::page_picture(bench::Content::White, 1852, static_cast<std::size_t>(kind.height), 1),
       1);
   const MeteredRun filter = bench::filter_run(Library::Widening, kind.options);
-  const auto tenth = static_cast<double>(use(filter, page, pages / 10).peak);
+  const int fewer = pages / 10;
+  const auto tenth = static_cast<double>(use(filter, page, fewer).peak);
   const auto whole = static_cast<double>(use(filter, page, pages).peak);
   table->rows.push_back({kind.name, megabytes(tenth), megabytes(whole), number(whole / tenth, 3)});
   bench::tell_target("peak memory, " + std::string(kind.name) + ", " + std::to_string(pages) +
-                         " pages against " + std::to_string(pages / 10),
+                         " pages against " + std::to_string(fewer),
                      kMostGrowth, whole / tenth);
 }
 
@@ -98,7 +98,8 @@ void print_tables(int pages) {
   }
   bench::print_table(sheets);
 
-  bench::Table growth{{"Finish", std::to_string(pages / 10) + " pages, MB",
+  const int fewer = pages / 10;
+  bench::Table growth{{"Finish", std::to_string(fewer) + " pages, MB",
                        std::to_string(pages) + " pages, MB", "Ratio"},
                       {}};
   measure_long_job(kKinds[0], pages, &growth);
@@ -109,15 +110,11 @@ void print_tables(int pages) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  CLI::App app("Prints the filter's peak memory beside that of a floor with the same buffers");
   int pages = 200;
-  app.add_option("--pages", pages, "of the long job")->check(CLI::Range(20, 100000));
-  CLI11_PARSE(app, argc, argv);
-  try {
-    print_tables(pages);
-  } catch (const std::exception& failure) {
-    std::fprintf(stderr, "peak_memory: %s\n", failure.what());
-    return 1;
-  }
-  return 0;
+  return bench::run_program(
+      "Prints the filter's peak memory beside that of a floor with the same buffers", argc, argv,
+      [&](CLI::App& app) {
+        app.add_option("--pages", pages, "of the long job")->check(CLI::Range(20, 100000));
+      },
+      [&] { print_tables(pages); });
 }

@@ -5,14 +5,13 @@
 // the raster that its PPD asks for, and writes all of it to /dev/null.
 #include <unistd.h>
 
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <deque>
-#include <exception>
 #include <map>
 #include <string>
 #include <vector>
 
+#include "bench/speed/command_line.h"
 #include "bench/speed/contestants.h"
 #include "bench/speed/raster_file.h"
 #include "bench/table_printer.h"
@@ -106,6 +105,7 @@ void measure_peers(const std::string& ppds, int rounds) {
   Rasters rasters;
   std::deque<Entrant> entrants = entrants_of(rasters, ppds);
   std::vector<Entrant*> in_turn;
+  in_turn.reserve(entrants.size());
   for (Entrant& entrant : entrants) {
     in_turn.push_back(&entrant);
   }
@@ -132,17 +132,13 @@ void measure_peers(const std::string& ppds, int rounds) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  CLI::App app("Prints what a job of one page costs the filter and other raster filters");
   int rounds = 11;
   std::string ppds;
-  app.add_option("ppds", ppds, "folder of the PPDs made of peers.drv")->required();
-  app.add_option("--rounds", rounds, "how often each runs")->check(CLI::Range(1, 1000));
-  CLI11_PARSE(app, argc, argv);
-  try {
-    measure_peers(ppds, rounds);
-  } catch (const std::exception& failure) {
-    std::fprintf(stderr, "peer_filters: %s\n", failure.what());
-    return 1;
-  }
-  return 0;
+  return bench::run_program(
+      "Prints what a job of one page costs the filter and other raster filters", argc, argv,
+      [&](CLI::App& app) {
+        app.add_option("ppds", ppds, "folder of the PPDs made of peers.drv")->required();
+        app.add_option("--rounds", rounds, "how often each runs")->check(CLI::Range(1, 1000));
+      },
+      [&] { measure_peers(ppds, rounds); });
 }
