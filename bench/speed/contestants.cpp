@@ -59,6 +59,14 @@ double median_cpu(const Entrant& entrant) {
   return median_over(entrant, [](const Usage& usage) { return usage.cpu(); });
 }
 
+double added_cpu(const Entrant& less, const Entrant& more) {
+  std::vector<double> added;
+  for (std::size_t round = 0; round < more.uses.size(); ++round) {
+    added.push_back(more.uses[round].cpu() - less.uses[round].cpu());
+  }
+  return median_of(std::move(added));
+}
+
 double median_faults(const Entrant& entrant) {
   return median_over(entrant, [](const Usage& usage) { return static_cast<double>(usage.faults); });
 }

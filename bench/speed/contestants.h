@@ -36,6 +36,8 @@ struct Entrant {
 void run_in_turn(const std::vector<Entrant*>& entrants, int rounds);
 
 double median_cpu(const Entrant& entrant);     ///< seconds, user and system
+/// The processor time that `more` takes beyond `less`, in seconds: the middle of the rounds.
+double added_cpu(const Entrant& less, const Entrant& more);
 double median_faults(const Entrant& entrant);  ///< minor page faults
 /// The share of the system in the processor time, over all rounds: in a single short run the kernel
 /// tells the two apart by a few ticks only.

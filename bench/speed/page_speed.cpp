@@ -15,7 +15,6 @@
 #include "bench/speed/command_line.h"
 #include "bench/speed/contestants.h"
 #include "bench/speed/raster_file.h"
-#include "bench/spread.h"
 #include "bench/table_printer.h"
 
 namespace {
@@ -37,17 +36,8 @@ struct Row {
   std::string name;
   std::array<Entrant, 3> jobs;
 
-  double first() const { return middle_of_difference(0, 1); }
-  double further() const { return middle_of_difference(1, 2) / kFurther; }
-
- private:
-  double middle_of_difference(std::size_t less, std::size_t more) const {
-    std::vector<double> differences;
-    for (std::size_t round = 0; round < jobs[more].uses.size(); ++round) {
-      differences.push_back(jobs[more].uses[round].cpu() - jobs[less].uses[round].cpu());
-    }
-    return bench::median_of(std::move(differences));
-  }
+  double first() const { return bench::added_cpu(jobs[0], jobs[1]); }
+  double further() const { return bench::added_cpu(jobs[1], jobs[2]) / kFurther; }
 };
 
 /// The same page as streams of no page, one and eleven.
