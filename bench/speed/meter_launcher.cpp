@@ -45,12 +45,13 @@ void stay_on(int processor) {
   static_cast<void>(sched_setaffinity(0, sizeof processors, &processors));
 }
 
-// Of a process that has ended and was not waited for. 0 where the kernel does not count.
+// Of a process that has ended and was not waited for. The most there is where the kernel does not
+// count: then nothing is known that would make the run void.
 std::uint64_t written_by(pid_t process) {
   char path[64];
   std::snprintf(path, sizeof path, "/proc/%d/io", static_cast<int>(process));
   std::FILE* file = std::fopen(path, "r");
-  unsigned long long bytes = 0;
+  std::uint64_t bytes = file == nullptr ? UINT64_MAX : 0;
   char line[128];
   while (file != nullptr && std::fgets(line, sizeof line, file) != nullptr) {
     if (std::strncmp(line, "wchar: ", 7) == 0) {
