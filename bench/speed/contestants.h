@@ -35,7 +35,7 @@ struct Entrant {
 /// slows all alike. Throws std::runtime_error where a run is void.
 void run_in_turn(const std::vector<Entrant*>& entrants, int rounds);
 
-double median_cpu(const Entrant& entrant);     ///< seconds, user and system
+double median_cpu(const Entrant& entrant);  ///< seconds, user and system
 /// The processor time that `more` takes beyond `less`, in seconds: the middle of the rounds.
 double added_cpu(const Entrant& less, const Entrant& more);
 double median_faults(const Entrant& entrant);  ///< minor page faults
