@@ -20,7 +20,6 @@
 #include "filter/page_loop.h"
 #include "filter/ppd_options.h"
 #include "image/band_image.h"
-#include "image/page_memory.h"
 #include "status/connection_check.h"
 #include "status/printer_check.h"
 
@@ -109,7 +108,6 @@ int run_job(const JobInput& input) {
 int main(int argc, char* argv[]) {
   reserve_scheduler_descriptors();
   hold_back_foreign_signals();
-  keep_memory_between_pages();
   std::fprintf(stderr, "DEBUG: ---------- TQR7Filter main() ---------- \n");
   gImageCount = 0;
   gImageCache = {};
