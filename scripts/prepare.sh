@@ -16,6 +16,10 @@ TQR7_PACKAGES=(
 # shellcheck disable=SC2034
 TQR7_FUZZ_PACKAGES=(clang libclang-rt-14-dev)
 
+# What bench/run needs besides.
+# shellcheck disable=SC2034
+TQR7_SPEED_PACKAGES=(libbenchmark-dev)
+
 # Prints those of the named packages that are not installed.
 missing_packages() {
   local package
