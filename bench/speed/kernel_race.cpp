@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
+#include <cstdint>
 #include <stdexcept>
 
 namespace bench {
@@ -15,24 +15,27 @@ namespace {
 /// Long enough for a thread's clock, whose steps are of some microseconds at most.
 constexpr double kLeastSeconds = 0.01;
 
-/// Keeps what each repetition took; says nothing.
+/// Keeps what each repetition of each kernel took; says nothing.
 class Notes : public benchmark::BenchmarkReporter {
  public:
+  explicit Notes(std::size_t kernels) : seconds_(kernels) {}
+
   bool ReportContext(const Context& /*context*/) override { return true; }
 
   void ReportRuns(const std::vector<Run>& runs) override {
     for (const Run& run : runs) {
       if (run.run_type == Run::RT_Iteration && !run.error_occurred && run.iterations > 0) {
-        seconds_[run.run_name.function_name].push_back(run.cpu_accumulated_time /
-                                                       static_cast<double>(run.iterations));
+        seconds_[static_cast<std::size_t>(run.per_family_instance_index)].push_back(
+            run.cpu_accumulated_time / static_cast<double>(run.iterations));
       }
     }
   }
 
-  double median_seconds(const std::string& name) {
-    std::vector<double>& all = seconds_[name];
+  /// Throws std::runtime_error when no time was taken.
+  double median_seconds(std::size_t kernel) {
+    std::vector<double>& all = seconds_[kernel];
     if (all.empty()) {
-      throw std::runtime_error("no time was taken of: " + name);
+      throw std::runtime_error("not every kernel could be timed");
     }
     const auto middle = all.begin() + static_cast<std::ptrdiff_t>(all.size() / 2);
     std::nth_element(all.begin(), middle, all.end());
@@ -40,8 +43,26 @@ class Notes : public benchmark::BenchmarkReporter {
   }
 
  private:
-  std::map<std::string, std::vector<double>> seconds_;
+  std::vector<std::vector<double>> seconds_;
 };
+
+/// Google Benchmark calls plain functions, with a number: the kernel's place here.
+std::vector<Kernel*>& field() {
+  static std::vector<Kernel*> kernels;
+  return kernels;
+}
+
+void run_kernel(benchmark::State& state) {
+  const Kernel& kernel = *field()[static_cast<std::size_t>(state.range(0))];
+  for (auto pass : state) {
+    static_cast<void>(pass);
+    kernel.work();
+    benchmark::ClobberMemory();
+  }
+}
+
+benchmark::internal::Benchmark* const kRunKernel =
+    benchmark::RegisterBenchmark("kernel", run_kernel);
 
 void mix_the_order() {
   std::array<char, 8> program{"kernels"};
@@ -53,25 +74,17 @@ void mix_the_order() {
 
 }  // namespace
 
-void race_kernels(std::vector<Kernel*>& kernels, int repetitions) {
+void race_kernels(const std::vector<Kernel*>& kernels, int repetitions) {
   mix_the_order();
-  for (Kernel* kernel : kernels) {
-    benchmark::RegisterBenchmark(kernel->name.c_str(),
-                                 [kernel](benchmark::State& state) {
-                                   for (auto pass : state) {
-                                     static_cast<void>(pass);
-                                     kernel->work();
-                                     benchmark::ClobberMemory();
-                                   }
-                                 })
-        ->Repetitions(repetitions)
-        ->MinTime(kLeastSeconds);
-  }
-  Notes notes;
+  field() = kernels;
+  kRunKernel->DenseRange(0, static_cast<std::int64_t>(kernels.size()) - 1)
+      ->Repetitions(repetitions)
+      ->MinTime(kLeastSeconds);
+  Notes notes(kernels.size());
   benchmark::RunSpecifiedBenchmarks(&notes);
-  for (Kernel* kernel : kernels) {
-    kernel->nanoseconds =
-        notes.median_seconds(kernel->name) * 1e9 / static_cast<double>(kernel->pixels);
+  for (std::size_t i = 0; i < kernels.size(); ++i) {
+    kernels[i]->nanoseconds =
+        notes.median_seconds(i) * 1e9 / static_cast<double>(kernels[i]->pixels);
   }
 }
 

@@ -21,16 +21,16 @@ struct Moved {
 
 /// A loop that is timed.
 struct Kernel {
-  std::string name;            ///< of its row, or of its group and row; no two may be alike
+  std::string name;            ///< as a table shows it
   std::size_t pixels;          ///< that one run goes over
   std::function<void()> work;  ///< one run
   double nanoseconds = 0;      ///< a pixel, once it has run: the median of the repetitions
 };
 
 /// Times all of them, so many repetitions each, in a mixed order so that a busy machine slows all
-/// alike. Processor time of this thread, user and system. Throws std::runtime_error when one of
-/// them could not be timed.
-void race_kernels(std::vector<Kernel*>& kernels, int repetitions);
+/// alike. Processor time of this thread, user and system. Once in a process. Throws
+/// std::runtime_error when one of them could not be timed.
+void race_kernels(const std::vector<Kernel*>& kernels, int repetitions);
 
 }  // namespace bench
 

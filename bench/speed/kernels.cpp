@@ -83,8 +83,8 @@ std::vector<Pair> add_filter(Field& field, bench::FilterLoops& loops) {
   std::vector<Pair> pairs;
   for (const bench::FilterLoop& loop : loops.all()) {
     pairs.push_back({loop.name, loop.floorName, loop.moved,
-                     field.add("filter: " + loop.name, loops.pixels(), loop.work),
-                     field.add("floor of the filter: " + loop.name, loops.pixels(), loop.floor)});
+                     field.add(loop.name, loops.pixels(), loop.work),
+                     field.add(loop.floorName, loops.pixels(), loop.floor)});
   }
   return pairs;
 }
@@ -93,9 +93,8 @@ std::vector<Pair> add_conversion(Field& field, bench::ConversionLoops& loops) {
   std::vector<Pair> pairs;
   for (const bench::ConversionLoop& loop : loops.all()) {
     pairs.push_back({loop.name, "the bytes moved", loop.moved,
-                     field.add("conversion: " + loop.name, loops.pixels(), loop.work),
-                     field.add("floor of the conversion: " + loop.name, loops.pixels(),
-                               loops.floor(loop.moved))});
+                     field.add(loop.name, loops.pixels(), loop.work),
+                     field.add("the bytes moved", loops.pixels(), loops.floor(loop.moved))});
   }
   return pairs;
 }
@@ -124,8 +123,7 @@ std::vector<Row> add_targets(Field& field, bench::ConversionLoops& loops) {
         work();
         use_target(best);
       };
-      row.onTargets.push_back(
-          field.add(loop.name + " on " + name_of(target), loops.pixels(), on_target));
+      row.onTargets.push_back(field.add(loop.name, loops.pixels(), on_target));
     }
     rows.push_back(row);
   }
