@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "conversion/colour_kernels.h"
 #include "conversion/engine_sample.h"
 #include "conversion/photo_kernels.h"
 #include "conversion/sample_kernels.h"
@@ -16,7 +17,9 @@ constexpr std::uint16_t kByteWhite = 255;
 bool PageConverter::prepare(const tagMVChangeParams& params, std::size_t width) {
   sharpen_ = (params.dwFlags & kChangeFlagSharpness) != 0;
   conversion_ = (params.dwFlags & kChangeFlagColorConversion) != 0;
-  neutralTone_ = conversion_ && tone_is_neutral(params);
+  const bool neutral = tone_is_neutral(params);
+  neutralTone_ = conversion_ && neutral;
+  onlyWiden_ = !conversion_ && !sharpen_ && neutral;
   strength_ = sharpening_strength(params.nSharpness);
   if (!planes_.reserve(line_.size(), width) || (sharpen_ && !sharpener_.reserve(width))) {
     return false;
@@ -27,8 +30,9 @@ bool PageConverter::prepare(const tagMVChangeParams& params, std::size_t width) 
   if (conversion_) {
     printer_.load(params.pszModulePath);
   }
-  return neutralTone_ || tones_.make(params, sharpen_ ? kFineWhite : kByteWhite,
-                                     conversion_ ? kPositionWhite : kEngineWhite);
+  return neutralTone_ || onlyWiden_ ||
+         tones_.make(params, sharpen_ ? kFineWhite : kByteWhite,
+                     conversion_ ? kPositionWhite : kEngineWhite);
 }
 
 void PageConverter::take_line(const BandRows& source, std::size_t y) {
@@ -49,14 +53,21 @@ void PageConverter::set_tones(std::size_t width) {
   }
 }
 
+std::uint64_t PageConverter::convert_line(const BandRows& source, std::size_t y,
+                                          unsigned char* samples) {
+  if (onlyWiden_) {
+    return samples_of_bytes(source.row(y), source.width, samples);
+  }
+  take_line(source, y);
+  set_tones(source.width);
+  return conversion_ ? interpolate_line(printer_.table(), line_, source.width, samples)
+                     : join_line(line_, source.width, samples);
+}
+
 RateSum PageConverter::convert(const BandRows& source, const BandRows& destination) {
   RateSum sum{0, 3 * std::uint64_t{source.width} * source.height};
   for (std::size_t y = 0; y < source.height; ++y) {
-    take_line(source, y);
-    set_tones(source.width);
-    sum.total += conversion_
-                     ? interpolate_line(printer_.table(), line_, source.width, destination.row(y))
-                     : join_line(line_, source.width, destination.row(y));
+    sum.total += convert_line(source, y, destination.row(y));
   }
   return sum;
 }

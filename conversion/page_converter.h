@@ -6,6 +6,7 @@
 #define TQR7_CONVERSION_PAGE_CONVERTER_H
 
 #include <cstddef>
+#include <cstdint>
 
 #include "conversion/band_rows.h"
 #include "conversion/line_planes.h"
@@ -27,10 +28,12 @@ class PageConverter {
  private:
   void take_line(const BandRows& source, std::size_t y);
   void set_tones(std::size_t width);
+  std::uint64_t convert_line(const BandRows& source, std::size_t y, unsigned char* samples);
 
   bool sharpen_ = false;
   bool conversion_ = false;   ///< colours go through the printer's table
   bool neutralTone_ = false;  ///< the sliders need no tables on the way to the printer's
+  bool onlyWiden_ = false;    ///< nothing is asked for: bytes only change their scale
   int strength_ = 0;
   LinePlanes line_{};
   LineMemory planes_;

@@ -9,6 +9,7 @@
 
 #include "conversion/builtin_table.h"
 #include "conversion/matte.h"
+#include "conversion/colour_kernels.h"
 #include "conversion/photo_kernels.h"
 #include "conversion/sample_kernels.h"
 

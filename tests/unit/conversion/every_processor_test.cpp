@@ -6,10 +6,12 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstring>
 #include <new>
 #include <random>
 
+#include "conversion/colour_kernels.h"
 #include "conversion/photo_kernels.h"
 #include "conversion/processor.h"
 #include "conversion/sample_kernels.h"
@@ -266,6 +268,53 @@ TEST_P(EveryProcessor, WritesNoByteBesideALinesSamples) {
       ASSERT_EQ(samples[i], 0xA5) << pixels << " pixels";
     }
   }
+}
+
+TEST_P(EveryProcessor, JoinsPlanesToPixelsAndAddsThemUp) {
+  for (const std::size_t pixels : lengths()) {
+    const plain::Planes planes{random_line(pixels, 65535, 5), random_line(pixels, 65535, 6),
+                               random_line(pixels, 65535, 7)};
+    Lines lines(3, pixels);
+    plain::Line expected(3 * pixels);
+    std::uint64_t expectedSum = 0;
+    for (std::size_t channel = 0; channel < 3; ++channel) {
+      // What lies behind a line's end must not be added.
+      std::fill_n(lines.line(channel) + pixels, kLineMargin, std::uint16_t{65535});
+      lines.put(channel, planes[channel]);
+      for (std::size_t x = 0; x < pixels; ++x) {
+        expected[3 * x + channel] = planes[channel][x];
+        expectedSum += planes[channel][x];
+      }
+    }
+    Walled row(6 * pixels);
+    ASSERT_EQ(join_line(lines.planes(0), pixels, row.first()), expectedSum) << pixels << " pixels";
+    ASSERT_EQ(std::memcmp(row.first(), expected.data(), 6 * pixels), 0) << pixels << " pixels";
+  }
+}
+
+TEST_P(EveryProcessor, WidensEveryByteToASampleAndAddsThemUp) {
+  for (const std::size_t pixels : lengths()) {
+    const plain::Bytes rgb = random_rgb(pixels);
+    Walled from(rgb.size());
+    std::memcpy(from.first(), rgb.data(), rgb.size());
+    Walled to(6 * pixels);
+    const std::uint64_t sum = samples_of_bytes(from.first(), pixels, to.first());
+    std::uint64_t expectedSum = 0;
+    for (std::size_t i = 0; i < rgb.size(); ++i) {
+      std::uint16_t sample = 0;
+      std::memcpy(&sample, to.first() + 2 * i, 2);
+      ASSERT_EQ(sample, (2 * rgb[i] * 16383 + 255) / 510) << pixels << " pixels, byte " << i;
+      expectedSum += sample;
+    }
+    ASSERT_EQ(sum, expectedSum) << pixels << " pixels";
+  }
+}
+
+TEST_P(EveryProcessor, AddsUpALineLongerThanASumIsKeptFor) {
+  constexpr std::size_t kPixels = 60000;
+  const plain::Bytes white(3 * kPixels, 255);
+  plain::Bytes samples(6 * kPixels);
+  EXPECT_EQ(samples_of_bytes(white.data(), kPixels, samples.data()), 180000U * 16383U);
 }
 
 std::string name_of(const testing::TestParamInfo<std::int64_t>& target) {

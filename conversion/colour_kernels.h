@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// The inner loop from places in the colour table to the engine's samples, a line at a time, in the
+// widest vectors that the processor has. Every processor gives the same numbers.
+#ifndef TQR7_CONVERSION_COLOUR_KERNELS_H
+#define TQR7_CONVERSION_COLOUR_KERNELS_H
+
+#include <cstddef>
+#include <cstdint>
+
+#include "conversion/colour_table.h"
+#include "conversion/line_planes.h"
+
+/// A place along one axis of the table: 512 steps from grid point to grid point, white 16384.
+inline constexpr unsigned kCellSteps = 512;
+inline constexpr std::uint16_t kPositionWhite = (kGridPoints - 1) * kCellSteps;
+
+/// The samples for `pixels` places in the table, R, G, B of 16 bits each in the machine's order,
+/// written to 6 bytes a pixel at `samples`, which may begin at any byte. Tetrahedral interpolation:
+/// the cell's cube is cut into six tetrahedra along its black-to-white diagonal, so that greys are
+/// mixed from greys alone. Rounded to the nearest sample, then kept within 0 … 0x3FFF. Returns the
+/// sum of all samples written.
+std::uint64_t interpolate_line(const ColourTable& table, const LinePlanes& positions,
+                               std::size_t pixels, unsigned char* samples);
+
+#endif  // TQR7_CONVERSION_COLOUR_KERNELS_H
