@@ -17,6 +17,8 @@ struct ChannelTone {
   int gamma;
   int contrast;
   int brightness;
+
+  bool operator==(const ChannelTone& other) const = default;
 };
 
 /// What the sliders put into the formulas, worked out once for all levels; 1 leaves them alone.

@@ -19,7 +19,9 @@ bool tone_is_neutral(const tagMVChangeParams& params);
 class ToneTables {
  public:
   /// Works the tables out: entry i is round(level × toneWhite), where level is the channel's curve
-  /// at i / lineWhite. False when there is no memory for them.
+  /// at i / lineWhite. The pages of a job have the same sliders, so the last page's tables are kept
+  /// in the process and copied where nothing has changed; any thread may call this. False when
+  /// there is no memory for them.
   bool make(const tagMVChangeParams& params, std::uint16_t lineWhite, std::uint16_t toneWhite);
 
   /// Turns the `pixels` numbers of each plane into what the tables say. Every number must be within
@@ -27,7 +29,8 @@ class ToneTables {
   void apply(const LinePlanes& line, std::size_t pixels) const;
 
  private:
-  std::array<std::unique_ptr<std::uint16_t[]>, 3> channels_;
+  std::size_t levels_ = 0;                     ///< of each channel
+  std::unique_ptr<std::uint16_t[]> channels_;  ///< R, G, B
 };
 
 #endif  // TQR7_CONVERSION_TONE_TABLES_H

@@ -38,8 +38,8 @@ void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
 
 namespace {
 
-/// The requests of a page: its planes, three for the sharpening, a table for each channel's tones.
-constexpr int kRequests = 7;
+/// The requests of a page: its planes, three for the sharpening, the tables of its tones.
+constexpr int kRequests = 5;
 
 class NoMemory : public testing::Test {
  protected:

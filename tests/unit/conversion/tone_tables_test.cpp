@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 namespace {
@@ -49,6 +50,56 @@ TEST(ToneTables, EachChannelHasItsOwnSliders) {
   EXPECT_EQ(tables[0][128], 8224);
   EXPECT_EQ(tables[1][128], 10063);
   EXPECT_EQ(tables[2][128], 8224);
+}
+
+TEST(ToneTables, EqualSlidersGiveEqualTablesBesideAnothersOwn) {
+  tagMVChangeParams params{};
+  params.nTone[0] = 5;  // gamma of red
+  params.nTone[2] = 5;  // and of blue
+  const auto tables = tabled(params, 255, 16383);
+  EXPECT_EQ(tables[0][128], 10063);
+  EXPECT_EQ(tables[1][128], 8224);
+  EXPECT_EQ(tables[2], tables[0]);
+}
+
+TEST(ToneTables, EachPageHasTheTablesOfItsOwnSlidersWhateverThePageBeforeHad) {
+  tagMVChangeParams none{};
+  for (std::size_t slider = 0; slider < 9; ++slider) {
+    tagMVChangeParams one{};
+    one.nTone[slider] = 5;
+    const auto before = tabled(one, 255, 16383);
+    EXPECT_EQ(tabled(none, 255, 16383)[slider % 3][128], 8224);
+    EXPECT_GT(before[slider % 3][140], tabled(none, 255, 16383)[slider % 3][140]);
+    EXPECT_EQ(tabled(one, 255, 16383), before);
+    EXPECT_EQ(tabled(one, 255, 16383), before);
+  }
+}
+
+TEST(ToneTables, EachPageHasTheTablesOfItsOwnScales) {
+  const tagMVChangeParams none{};
+  EXPECT_EQ(tabled(none, 255, 16383)[0][255], 16383);
+  EXPECT_EQ(tabled(none, 255, 16384)[0][255], 16384);
+  EXPECT_EQ(tabled(none, 4080, 16384)[0][255], 1024);
+  EXPECT_EQ(tabled(none, 4080, 16384)[2][4080], 16384);
+  EXPECT_EQ(tabled(none, 255, 16383)[2][255], 16383);
+}
+
+TEST(ToneTables, ALineOfAnyLengthIsTurnedToItsEndAndNoFurther) {
+  ToneTables tables;
+  ASSERT_TRUE(tables.make(tagMVChangeParams{}, 1, 1000));
+  for (std::size_t pixels = 1; pixels <= 20; ++pixels) {
+    LineMemory memory;
+    ASSERT_TRUE(memory.reserve(3, 24));
+    const LinePlanes line{memory.line(0), memory.line(1), memory.line(2)};
+    for (std::uint16_t* plane : line) {
+      std::fill_n(plane, 24, std::uint16_t{1});
+    }
+    tables.apply(line, pixels);
+    for (const std::uint16_t* plane : line) {
+      EXPECT_EQ(std::count(plane, plane + pixels, 1000), static_cast<std::ptrdiff_t>(pixels));
+      EXPECT_EQ(plane[pixels], 1) << pixels << " pixels";
+    }
+  }
 }
 
 TEST(ToneTables, TheSteepestSettingsKeepAllBytesApart) {
