@@ -25,6 +25,7 @@ constexpr float kMostBlack = 0.5F;
 constexpr std::size_t kChannels = 3;
 constexpr std::size_t kRowValues = kGridPoints * kChannels;
 using Row = std::array<float, kRowValues>;
+using Levels = std::array<float, kGridPoints>;
 
 const char* fault_of_header(cmsHPROFILE profile) {
   if (cmsGetColorSpace(profile) != cmsSigRgbData) {
@@ -62,17 +63,32 @@ const char* fault_of_tags(cmsHPROFILE profile) {
   return nullptr;
 }
 
-float level_of(std::size_t gridPoint) {
-  return static_cast<float>(gridPoint) / static_cast<float>(kGridPoints - 1);
+/// IEC 61966-2-1, as parameters of an ICC curve of type 4 (Y = (aX + b)^g from X = d on, cX
+/// before): g, a, b, c, d.
+constexpr cmsFloat64Number kScreenCurve[] = {2.4, 1.0 / 1.055, 0.055 / 1.055, 1.0 / 12.92, 0.04045};
+/// The same kind of curve that changes nothing: its straight piece goes on beyond the end.
+constexpr cmsFloat64Number kNoCurve[] = {1.0, 1.0, 0.0, 1.0, 2.0};
+constexpr cmsInt32Number kCurveType = 4;
+
+/// The light of the grid's levels on the screen. A transform from sRGB itself would work the
+/// screen's curve out three times for each of the 35,937 nodes, which took a sixth of all its time.
+Levels light_of_levels(cmsContext context) {
+  cmsToneCurve* curve = cmsBuildParametricToneCurve(context, kCurveType, kScreenCurve);
+  Levels light{};
+  for (std::size_t i = 0; i < kGridPoints; ++i) {
+    light[i] = cmsEvalToneCurveFloat(curve, static_cast<float>(i) / (kGridPoints - 1));
+  }
+  cmsFreeToneCurve(curve);
+  return light;
 }
 
 /// The device values of the nodes (r, g, 0 … 32), 1 = full scale.
-Row device_row(cmsHTRANSFORM transform, std::size_t r, std::size_t g) {
+Row device_row(cmsHTRANSFORM transform, const Levels& light, std::size_t r, std::size_t g) {
   Row colours{};
   for (std::size_t b = 0; b < kGridPoints; ++b) {
-    colours[b * kChannels] = level_of(r);
-    colours[b * kChannels + 1] = level_of(g);
-    colours[b * kChannels + 2] = level_of(b);
+    colours[b * kChannels] = light[r];
+    colours[b * kChannels + 1] = light[g];
+    colours[b * kChannels + 2] = light[b];
   }
   Row device{};
   cmsDoTransform(transform, colours.data(), device.data(), kGridPoints);
@@ -109,16 +125,17 @@ const char* fault_of_ends(const Row& first, const Row& last) {
   return nullptr;
 }
 
-const char* fill_table(cmsHTRANSFORM transform, ColourTable& table) {
-  const char* fault = fault_of_ends(device_row(transform, 0, 0),
-                                    device_row(transform, kGridPoints - 1, kGridPoints - 1));
+const char* fill_table(cmsHTRANSFORM transform, const Levels& light, ColourTable& table) {
+  constexpr std::size_t kLast = kGridPoints - 1;
+  const char* fault =
+      fault_of_ends(device_row(transform, light, 0, 0), device_row(transform, light, kLast, kLast));
   if (fault != nullptr) {
     return fault;
   }
   ColourNode* nodes = table.nodes.data();
   for (std::size_t r = 0; r < kGridPoints; ++r) {
     for (std::size_t g = 0; g < kGridPoints; ++g) {
-      if (!fill_row(device_row(transform, r, g), nodes)) {
+      if (!fill_row(device_row(transform, light, r, g), nodes)) {
         return "it gives values that are no numbers";
       }
       nodes += kGridPoints;
@@ -141,9 +158,21 @@ bool is_cut_short(std::span<const unsigned char> bytes) {
   return said > bytes.size();
 }
 
-/// From the screen's colours to the printer's device values.
+/// sRGB's primaries and white, but by the amount of light instead of its curve.
+cmsHPROFILE screen_by_light(cmsContext context) {
+  constexpr cmsCIExyY kWhite = {0.3127, 0.3290, 1.0};
+  constexpr cmsCIExyYTRIPLE kPrimaries = {
+      {0.6400, 0.3300, 1.0}, {0.3000, 0.6000, 1.0}, {0.1500, 0.0600, 1.0}};
+  cmsToneCurve* none = cmsBuildParametricToneCurve(context, kCurveType, kNoCurve);
+  cmsToneCurve* const curves[kChannels] = {none, none, none};
+  cmsHPROFILE screen = cmsCreateRGBProfileTHR(context, &kWhite, &kPrimaries, curves);
+  cmsFreeToneCurve(none);
+  return screen;
+}
+
+/// From the screen's light to the printer's device values.
 cmsHTRANSFORM make_transform(cmsContext context, cmsHPROFILE printer) {
-  cmsHPROFILE screen = cmsCreate_sRGBProfileTHR(context);
+  cmsHPROFILE screen = screen_by_light(context);
   // Relative colorimetric with black-point compensation: what the printer can show comes out as it
   // is, and the darkest tones are not lost in its black. Over the sRGB colours within a printer's
   // gamut, there and back, ΔE00 on average and at the 95th percentile: 0.13 and 0.45 through a
@@ -169,7 +198,7 @@ const char* fill_from_profile(cmsContext context, cmsHPROFILE printer, ColourTab
   if (transform == nullptr) {
     return "its tables or curves are damaged";
   }
-  fault = fill_table(transform, table);
+  fault = fill_table(transform, light_of_levels(context), table);
   cmsDeleteTransform(transform);
   return fault;
 }
