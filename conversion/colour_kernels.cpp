@@ -40,6 +40,25 @@ struct Block {
   alignas(64) std::uint16_t rest[2 * kBlock];    ///< of corners 2 and 3
 };
 
+/// From a scale on which white is 16320 to one on which it is 16384, rounded: for n within 0 …
+/// 16320 that is n + n / 255, and (n + 128 + (n + 128) / 256) / 256 is n / 255 to the nearest.
+HWY_INLINE Numbers Widen(Numbers number) {
+  const auto biased = hn::Add(number, hn::Set(Wide(), std::uint16_t{128}));
+  return hn::Add(number, hn::ShiftRight<8>(hn::Add(biased, hn::ShiftRight<8>(biased))));
+}
+
+template <LineScale kScale>
+HWY_INLINE Numbers PlacesAt(const std::uint16_t* numbers) {
+  const auto read = hn::LoadU(Wide(), numbers);
+  if constexpr (kScale == LineScale::kBytes) {
+    return Widen(hn::ShiftLeft<6>(read));
+  } else if constexpr (kScale == LineScale::kFine) {
+    return Widen(hn::ShiftLeft<2>(read));
+  } else {
+    return read;
+  }
+}
+
 /// The last grid point has no cell of its own: white is the far end of the last cell.
 HWY_INLINE Numbers CellOf(Numbers position) {
   return hn::Min(hn::ShiftRight<kCellShift>(position),
@@ -52,12 +71,12 @@ HWY_INLINE Numbers FractionOf(Numbers position, Numbers cell) {
 
 /// Of axes with equal fractions any may be taken for the largest or the smallest: the corner that
 /// this decides on gets no share.
-HWY_INLINE void LocateVector(const LinePlanes& positions, std::size_t x, Block& block,
-                             std::size_t i) {
+template <LineScale kScale>
+HWY_INLINE void LocateVector(const LinePlanes& line, std::size_t x, Block& block, std::size_t i) {
   const Wide d;
-  const auto red = hn::LoadU(d, positions[0] + x);
-  const auto green = hn::LoadU(d, positions[1] + x);
-  const auto blue = hn::LoadU(d, positions[2] + x);
+  const auto red = PlacesAt<kScale>(line[0] + x);
+  const auto green = PlacesAt<kScale>(line[1] + x);
+  const auto blue = PlacesAt<kScale>(line[2] + x);
   const auto redCell = CellOf(red);
   const auto greenCell = CellOf(green);
   const auto blueCell = CellOf(blue);
@@ -286,19 +305,32 @@ HWY_INLINE std::uint64_t MixBlock(const ColourTable& table, const Block& block, 
 
 #endif  // HWY_TARGET == HWY_SCALAR
 
-std::uint64_t InterpolateLine(const ColourTable& table, const LinePlanes& positions,
-                              std::size_t pixels, unsigned char* samples) {
+template <LineScale kScale>
+std::uint64_t Interpolate(const ColourTable& table, const LinePlanes& line, std::size_t pixels,
+                          unsigned char* samples) {
   const std::size_t lanes = hn::Lanes(Wide());
   Block block;
   std::uint64_t sum = 0;
   for (std::size_t x = 0; x < pixels; x += kBlock) {
     const std::size_t count = HWY_MIN(kBlock, pixels - x);
     for (std::size_t i = 0; i < count; i += lanes) {
-      LocateVector(positions, x + i, block, i);
+      LocateVector<kScale>(line, x + i, block, i);
     }
     sum += MixBlock(table, block, count, pixels - x, samples + kPixelBytes * x);
   }
   return sum;
+}
+
+std::uint64_t InterpolateLine(const ColourTable& table, const LinePlanes& line, LineScale scale,
+                              std::size_t pixels, unsigned char* samples) {
+  switch (scale) {
+    case LineScale::kBytes:
+      return Interpolate<LineScale::kBytes>(table, line, pixels, samples);
+    case LineScale::kFine:
+      return Interpolate<LineScale::kFine>(table, line, pixels, samples);
+    default:
+      return Interpolate<LineScale::kPlaces>(table, line, pixels, samples);
+  }
 }
 
 }  // namespace HWY_NAMESPACE
@@ -308,8 +340,8 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 #include "conversion/run_on_processor.h"
 
-std::uint64_t interpolate_line(const ColourTable& table, const LinePlanes& positions,
+std::uint64_t interpolate_line(const ColourTable& table, const LinePlanes& line, LineScale scale,
                                std::size_t pixels, unsigned char* samples) {
-  TQR7_RUN_ON_PROCESSOR(InterpolateLine(table, positions, pixels, samples));
+  TQR7_RUN_ON_PROCESSOR(InterpolateLine(table, line, scale, pixels, samples));
 }
 #endif  // HWY_ONCE

@@ -20,6 +20,9 @@ bool PageConverter::prepare(const tagMVChangeParams& params, std::size_t width) 
   const bool neutral = tone_is_neutral(params);
   neutralTone_ = conversion_ && neutral;
   onlyWiden_ = !conversion_ && !sharpen_ && neutral;
+  if (neutralTone_) {
+    scale_ = sharpen_ ? LineScale::kFine : LineScale::kBytes;
+  }
   strength_ = sharpening_strength(params.nSharpness);
   if (!planes_.reserve(line_.size(), width) || (sharpen_ && !sharpener_.reserve(width))) {
     return false;
@@ -43,24 +46,16 @@ void PageConverter::take_line(const BandRows& source, std::size_t y) {
   }
 }
 
-void PageConverter::set_tones(std::size_t width) {
-  if (!neutralTone_) {
-    tones_.apply(line_, width);
-  } else if (sharpen_) {
-    positions_of_fine(line_, width);
-  } else {
-    positions_of_bytes(line_, width);
-  }
-}
-
 std::uint64_t PageConverter::convert_line(const BandRows& source, std::size_t y,
                                           unsigned char* samples) {
   if (onlyWiden_) {
     return samples_of_bytes(source.row(y), source.width, samples);
   }
   take_line(source, y);
-  set_tones(source.width);
-  return conversion_ ? interpolate_line(printer_.table(), line_, source.width, samples)
+  if (!neutralTone_) {
+    tones_.apply(line_, source.width);
+  }
+  return conversion_ ? interpolate_line(printer_.table(), line_, scale_, source.width, samples)
                      : join_line(line_, source.width, samples);
 }
 

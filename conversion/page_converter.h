@@ -9,6 +9,7 @@
 #include <cstdint>
 
 #include "conversion/band_rows.h"
+#include "conversion/colour_kernels.h"
 #include "conversion/line_planes.h"
 #include "conversion/printer_table.h"
 #include "conversion/rates.h"
@@ -27,13 +28,13 @@ class PageConverter {
 
  private:
   void take_line(const BandRows& source, std::size_t y);
-  void set_tones(std::size_t width);
   std::uint64_t convert_line(const BandRows& source, std::size_t y, unsigned char* samples);
 
   bool sharpen_ = false;
   bool conversion_ = false;   ///< colours go through the printer's table
   bool neutralTone_ = false;  ///< the sliders need no tables on the way to the printer's
   bool onlyWiden_ = false;    ///< nothing is asked for: bytes only change their scale
+  LineScale scale_ = LineScale::kPlaces;
   int strength_ = 0;
   LinePlanes line_{};
   LineMemory planes_;

@@ -24,35 +24,6 @@ using Bytes = hn::Rebind<std::uint8_t, Wide>;
 constexpr std::size_t kPixelBytes = 3 * sizeof(EngineSample);
 constexpr std::size_t kBlock = 2 * kLineMargin;
 
-/// n / 255 to the nearest, for n within 0 … 16320.
-HWY_INLINE Numbers Over255(Numbers n) {
-  const auto biased = hn::Add(n, hn::Set(Wide(), std::uint16_t{128}));
-  return hn::ShiftRight<8>(hn::Add(biased, hn::ShiftRight<8>(biased)));
-}
-
-/// From a scale on which white is 16320 to one on which it is 16384, rounded.
-HWY_INLINE Numbers Widen(Numbers number) {
-  return hn::Add(number, Over255(number));
-}
-
-template <int kShift>
-HWY_INLINE void PositionsOf(const LinePlanes& line, std::size_t pixels) {
-  const Wide d;
-  for (std::uint16_t* plane : line) {
-    for (std::size_t x = 0; x < pixels; x += hn::Lanes(d)) {
-      hn::StoreU(Widen(hn::ShiftLeft<kShift>(hn::LoadU(d, plane + x))), d, plane + x);
-    }
-  }
-}
-
-void PositionsOfFine(const LinePlanes& line, std::size_t pixels) {
-  PositionsOf<2>(line, pixels);
-}
-
-void PositionsOfBytes(const LinePlanes& line, std::size_t pixels) {
-  PositionsOf<6>(line, pixels);
-}
-
 #if HWY_TARGET == HWY_SCALAR
 
 HWY_INLINE std::uint64_t Put(unsigned sample, unsigned char* samples, std::size_t place) {
@@ -125,6 +96,12 @@ std::uint64_t JoinLine(const LinePlanes& line, std::size_t pixels, unsigned char
   return sum;
 }
 
+/// n / 255 to the nearest, for n within 0 … 16320.
+HWY_INLINE Numbers Over255(Numbers n) {
+  const auto biased = hn::Add(n, hn::Set(Wide(), std::uint16_t{128}));
+  return hn::ShiftRight<8>(hn::Add(biased, hn::ShiftRight<8>(biased)));
+}
+
 /// round(n × 16383 / 255) is 64 n and 63 n / 255 to the nearest: 255 is odd, so that no quotient
 /// lies between two numbers.
 HWY_INLINE Numbers SamplesOf(Numbers bytes) {
@@ -171,14 +148,6 @@ HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
 #include "conversion/run_on_processor.h"
-
-void positions_of_fine(const LinePlanes& line, std::size_t pixels) {
-  TQR7_RUN_ON_PROCESSOR(PositionsOfFine(line, pixels));
-}
-
-void positions_of_bytes(const LinePlanes& line, std::size_t pixels) {
-  TQR7_RUN_ON_PROCESSOR(PositionsOfBytes(line, pixels));
-}
 
 std::uint64_t join_line(const LinePlanes& line, std::size_t pixels, unsigned char* samples) {
   TQR7_RUN_ON_PROCESSOR(JoinLine(line, pixels, samples));

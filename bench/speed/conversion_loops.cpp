@@ -8,8 +8,8 @@
 #include <numeric>
 
 #include "conversion/builtin_table.h"
-#include "conversion/matte.h"
 #include "conversion/colour_kernels.h"
+#include "conversion/matte.h"
 #include "conversion/photo_kernels.h"
 #include "conversion/sample_kernels.h"
 
@@ -19,7 +19,7 @@ namespace {
 
 /// One line in so many of the page: the whole picture's colours, in a sixteenth of its bytes.
 constexpr std::size_t kEveryLine = 16;
-constexpr std::size_t kPlanesOfLine = 11;
+constexpr std::size_t kPlanesOfLine = 8;
 constexpr std::size_t kMostBytesOfPixel = 12;
 constexpr int kStrength = 4;
 
@@ -53,9 +53,8 @@ ConversionLoops::ConversionLoops(const Picture& page)
     lines_[i] = {page.row(i * kEveryLine),
                  {plane(0), plane(1), plane(2)},
                  {plane(3), plane(4), plane(5)},
-                 {plane(6), plane(7), plane(8)},
-                 plane(9),
-                 plane(10),
+                 plane(6),
+                 plane(7),
                  &samples_[i * width * 6]};
     fill(lines_[i]);
   }
@@ -66,10 +65,6 @@ void ConversionLoops::fill(Line& line) {
   luma_line(line.rgb, width, line.luma);
   blur_along(line.luma, width, line.blurred);
   sharpen_line(line.rgb, line.blurred, width, kStrength, line.fine);
-  for (std::size_t channel = 0; channel < line.fine.size(); ++channel) {
-    std::copy_n(line.fine[channel], width, line.positions[channel]);
-  }
-  positions_of_fine(line.positions, width);
 }
 
 template <typename Work>
@@ -82,52 +77,47 @@ std::function<void()> ConversionLoops::on_each_line(Work work) {
 }
 
 std::vector<ConversionLoop> ConversionLoops::all() {
-  return {
-      {"bytes widened to samples, nothing else",
-       {3, 6},
-       false,
-       on_each_line([](const Line& l, std::size_t n) { widen_line(l.rgb, n, l.samples); })},
-      {"pixels taken apart", {3, 6}, true, on_each_line([](const Line& l, std::size_t n) {
-         split_line(l.rgb, n, l.any);
-       })},
-      {"luma", {3, 2}, true, on_each_line([](const Line& l, std::size_t n) {
-         luma_line(l.rgb, n, l.luma);
-       })},
-      {"blur along a line, once", {2, 2}, true, on_each_line([](const Line& l, std::size_t n) {
-         blur_along(l.luma, n, l.blurred);
-       })},
-      {"blur across five lines, once",
-       {10, 2},
-       true,
-       on_each_line([](const Line& l, std::size_t n) {
-         blur_across({l.luma, l.fine[0], l.fine[1], l.fine[2], l.luma}, n, l.blurred);
-       })},
-      {"sharpening", {5, 6}, true, on_each_line([](const Line& l, std::size_t n) {
-         sharpen_line(l.rgb, l.blurred, n, kStrength, l.any);
-       })},
-      {"tone tables", {6, 6}, false, on_each_line([this](const Line& l, std::size_t n) {
-         sameTone_.apply(l.fine, n);
-       })},
-      {"places in the colour table", {6, 6}, true, on_each_line([](const Line& l, std::size_t n) {
-         positions_of_fine(l.any, n);
-       })},
-      {"colours between the table's points",
-       {6, 6},
-       true,
-       on_each_line([this](const Line& l, std::size_t n) {
-         sink_ += interpolate_line(builtin_table(), l.positions, n, l.samples);
-       })},
-      {"samples joined to pixels, conversion off",
-       {6, 6},
-       false,
-       on_each_line([this](const Line& l, std::size_t n) {
-         sink_ += join_line(l.positions, n, l.samples);
-       })},
-      {"matte plane", {0, 1}, false, [this] {
-         for (std::size_t y = 0; y < lines_.size(); ++y) {
-           sink_ += lay_matte_row(y, lines_[y].samples, page_.width);
-         }
-       }}};
+  return {{"bytes widened to samples, nothing else",
+           {3, 6},
+           false,
+           on_each_line([](const Line& l, std::size_t n) { widen_line(l.rgb, n, l.samples); })},
+          {"pixels taken apart", {3, 6}, true, on_each_line([](const Line& l, std::size_t n) {
+             split_line(l.rgb, n, l.any);
+           })},
+          {"luma", {3, 2}, true, on_each_line([](const Line& l, std::size_t n) {
+             luma_line(l.rgb, n, l.luma);
+           })},
+          {"blur along a line, once", {2, 2}, true, on_each_line([](const Line& l, std::size_t n) {
+             blur_along(l.luma, n, l.blurred);
+           })},
+          {"blur across five lines, once",
+           {10, 2},
+           true,
+           on_each_line([](const Line& l, std::size_t n) {
+             blur_across({l.luma, l.fine[0], l.fine[1], l.fine[2], l.luma}, n, l.blurred);
+           })},
+          {"sharpening", {5, 6}, true, on_each_line([](const Line& l, std::size_t n) {
+             sharpen_line(l.rgb, l.blurred, n, kStrength, l.any);
+           })},
+          {"tone tables", {6, 6}, false, on_each_line([this](const Line& l, std::size_t n) {
+             sameTone_.apply(l.fine, n);
+           })},
+          {"colours by the printer's table",
+           {6, 6},
+           true,
+           on_each_line([this](const Line& l, std::size_t n) {
+             sink_ += interpolate_line(builtin_table(), l.fine, LineScale::kFine, n, l.samples);
+           })},
+          {"samples joined to pixels, conversion off",
+           {6, 6},
+           false,
+           on_each_line(
+               [this](const Line& l, std::size_t n) { sink_ += join_line(l.fine, n, l.samples); })},
+          {"matte plane", {0, 1}, false, [this] {
+             for (std::size_t y = 0; y < lines_.size(); ++y) {
+               sink_ += lay_matte_row(y, lines_[y].samples, page_.width);
+             }
+           }}};
 }
 
 std::function<void()> ConversionLoops::floor(const Moved& moved) {

@@ -42,9 +42,8 @@ class ConversionLoops {
  private:
   struct Line {
     const unsigned char* rgb;
-    LinePlanes fine;       ///< 0 … 4080
-    LinePlanes positions;  ///< 0 … 16384
-    LinePlanes any;        ///< whatever the last loop left there
+    LinePlanes fine;  ///< 0 … 4080
+    LinePlanes any;   ///< whatever the last loop left there
     std::uint16_t* luma;
     std::uint16_t* blurred;
     unsigned char* samples;

@@ -199,24 +199,54 @@ TEST_P(EveryProcessor, SharpensTheSameAtEveryStrength) {
   }
 }
 
-TEST_P(EveryProcessor, FindsThePlaceOfEveryByteAndEveryFineNumber) {
-  Lines bytes(3, 256);
-  Lines fine(3, 4081);
+/// A table whose samples are the places themselves, red's along red and so on, less the last step:
+/// white is one more than a sample can be.
+ColourTable make_table_of_places() {
+  ColourTable table{};
+  for (std::size_t node = 0; node < table.nodes.size(); ++node) {
+    table.nodes[node] = {static_cast<std::int16_t>(node / 1089 * 512),
+                         static_cast<std::int16_t>(node / 33 % 33 * 512),
+                         static_cast<std::int16_t>(node % 33 * 512), 0};
+  }
+  return table;
+}
+
+/// The places at which a line of grey numbers 0, 1, … is looked up.
+std::vector<std::array<std::uint16_t, 3>> places_of_greys(std::size_t numbers, LineScale scale) {
+  static const ColourTable table = make_table_of_places();
+  Lines lines(3, numbers);
   for (std::size_t plane = 0; plane < 3; ++plane) {
-    for (std::uint16_t i = 0; i <= 4080; ++i) {
-      fine.line(plane)[i] = i;
-      bytes.line(plane)[i % 256] = i % 256;
+    for (std::size_t i = 0; i < numbers; ++i) {
+      lines.line(plane)[i] = static_cast<std::uint16_t>(i);
     }
   }
-  positions_of_bytes(bytes.planes(0), 256);
-  positions_of_fine(fine.planes(0), 4081);
-  for (std::size_t plane = 0; plane < 3; ++plane) {
-    for (int i = 0; i < 256; ++i) {
-      ASSERT_EQ(bytes.line(plane)[i], (2 * i * 16384 + 255) / 510);
-    }
-    for (int i = 0; i <= 4080; ++i) {
-      ASSERT_EQ(fine.line(plane)[i], (2 * i * 16384 + 4080) / 8160);
-    }
+  std::vector<std::array<std::uint16_t, 3>> places(numbers);
+  interpolate_line(table, lines.planes(0), scale, numbers,
+                   reinterpret_cast<unsigned char*>(places.data()));
+  return places;
+}
+
+TEST_P(EveryProcessor, FindsThePlaceOfEveryByte) {
+  const auto places = places_of_greys(256, LineScale::kBytes);
+  for (int i = 0; i < 256; ++i) {
+    const auto expected = static_cast<std::uint16_t>(std::min((2 * i * 16384 + 255) / 510, 16383));
+    ASSERT_EQ(places[static_cast<std::size_t>(i)], (std::array{expected, expected, expected}));
+  }
+}
+
+TEST_P(EveryProcessor, FindsThePlaceOfEveryFineNumber) {
+  const auto places = places_of_greys(4081, LineScale::kFine);
+  for (int i = 0; i <= 4080; ++i) {
+    const auto expected =
+        static_cast<std::uint16_t>(std::min((2 * i * 16384 + 4080) / 8160, 16383));
+    ASSERT_EQ(places[static_cast<std::size_t>(i)], (std::array{expected, expected, expected}));
+  }
+}
+
+TEST_P(EveryProcessor, TakesPlacesAsTheyAre) {
+  const auto places = places_of_greys(16384, LineScale::kPlaces);
+  for (std::uint16_t i = 0; i < 16384; ++i) {
+    ASSERT_EQ(places[i], (std::array{i, i, i}));
   }
 }
 
@@ -230,8 +260,8 @@ TEST_P(EveryProcessor, MixesTheSameSamplesFromTheTableAndAddsThemUp) {
       lines.put(channel, places[channel]);
     }
     plain::Bytes samples(6 * pixels);
-    const std::uint64_t sum =
-        interpolate_line(random_table(), lines.planes(0), pixels, samples.data());
+    const std::uint64_t sum = interpolate_line(random_table(), lines.planes(0), LineScale::kPlaces,
+                                               pixels, samples.data());
     std::uint64_t expectedSum = 0;
     for (std::size_t x = 0; x < pixels; ++x) {
       std::array<std::uint16_t, 3> pixel{};
@@ -254,7 +284,8 @@ TEST_P(EveryProcessor, ReadsNoNodeBehindTheTable) {
     lines.put(plane, plain::Line(3, kPositionWhite));
   }
   std::array<std::uint16_t, 9> samples{};
-  interpolate_line(table, lines.planes(0), 3, reinterpret_cast<unsigned char*>(samples.data()));
+  interpolate_line(table, lines.planes(0), LineScale::kPlaces, 3,
+                   reinterpret_cast<unsigned char*>(samples.data()));
   EXPECT_EQ(samples, (std::array<std::uint16_t, 9>{1, 20, 300, 1, 20, 300, 1, 20, 300}));
 }
 
@@ -262,7 +293,8 @@ TEST_P(EveryProcessor, WritesNoByteBesideALinesSamples) {
   for (std::size_t pixels = 1; pixels <= 134; ++pixels) {
     Lines lines(3, pixels);
     plain::Bytes samples(6 * pixels + 32, 0xA5);
-    interpolate_line(random_table(), lines.planes(0), pixels, samples.data() + 1);
+    interpolate_line(random_table(), lines.planes(0), LineScale::kPlaces, pixels,
+                     samples.data() + 1);
     EXPECT_EQ(samples[0], 0xA5);
     for (std::size_t i = 1 + 6 * pixels; i < samples.size(); ++i) {
       ASSERT_EQ(samples[i], 0xA5) << pixels << " pixels";
