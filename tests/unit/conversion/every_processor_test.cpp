@@ -343,10 +343,10 @@ TEST_P(EveryProcessor, WidensEveryByteToASampleAndAddsThemUp) {
 }
 
 TEST_P(EveryProcessor, AddsUpALineLongerThanASumIsKeptFor) {
-  constexpr std::size_t kPixels = 60000;
+  constexpr std::size_t kPixels = 100000;
   const plain::Bytes white(3 * kPixels, 255);
   plain::Bytes samples(6 * kPixels);
-  EXPECT_EQ(samples_of_bytes(white.data(), kPixels, samples.data()), 180000U * 16383U);
+  EXPECT_EQ(samples_of_bytes(white.data(), kPixels, samples.data()), std::uint64_t{300000} * 16383);
 }
 
 std::string name_of(const testing::TestParamInfo<std::int64_t>& target) {
