@@ -46,6 +46,8 @@ void add_place_options(CLI::App& app, Options& options) {
       ->type_name("DIR");
   app.add_option("--record", options.record, "file to keep every byte that comes")
       ->type_name("FILE");
+  app.add_option("--timeline", options.timeline, "file to note when what came, to the microsecond")
+      ->type_name("FILE");
 }
 
 void add_view_options(CLI::App& app, Options& options) {

@@ -20,7 +20,8 @@ struct Options {
   std::string portFile;       ///< empty: none
   std::string output = ".";
   FaultSources faults;
-  std::string record;  ///< empty: no record
+  std::string record;    ///< empty: no record
+  std::string timeline;  ///< empty: none
   decoder::ProofChoice proof;
   bool marks = false;         ///< cut and border drawn into the sheets
   bool contactSheet = false;  ///< a page of all sheets

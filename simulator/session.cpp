@@ -20,7 +20,13 @@ Session::Session(std::uint64_t number, const Printer& printer, ClientConnection&
       client_(client),
       waiter_(waiter),
       log_(number, printer.tally, printer.contactSheet),
-      parser_(*this) {}
+      parser_(*this) {
+  NoteTime("opened");
+}
+
+void Session::NoteTime(const char* event) const {
+  printer_.timeline.Note(log_.Number(), parser_.Offset(), event);
+}
 
 // Nothing when the connection is to be dropped before any further byte.
 std::optional<Received> Session::ReceiveMore() {
@@ -44,9 +50,11 @@ bool Session::Run() {
         TakeBytes();
         break;
       case Received::EndOfStream:
+        NoteTime("end of stream");
         parser_.EndOfStream();
         return true;
       case Received::Broken:
+        NoteTime("broken");
         log_.Say("broken: " + client_.Error());
         parser_.EndOfStream();
         return true;
@@ -58,6 +66,7 @@ bool Session::Run() {
 }
 
 void Session::TakeBytes() {
+  printer_.timeline.Note(log_.Number(), parser_.Offset() + client_.Bytes().size(), "bytes");
   const std::string failure = printer_.recorder.Add(client_.Bytes());
   if (!failure.empty()) {
     log_.SayFailure("recording ends: " + failure);
@@ -67,6 +76,7 @@ void Session::TakeBytes() {
 
 // Cut by the simulator itself: that is no error of the stream.
 void Session::Cut(const std::string& how) {
+  NoteTime(how.c_str());
   const decoder::Command within = parser_.Within();
   log_.Say(how +
            (within == decoder::Command::None ? "" : std::string(" within ") + to_string(within)));
@@ -85,6 +95,10 @@ void Session::SayClosed() {
       log_.SayFailure("index.html: " + why);
     }
   }
+  NoteTime("closed");
+  if (const std::string why = printer_.timeline.Flush(); !why.empty()) {
+    log_.SayFailure("the timeline ends: " + why);
+  }
   log_.Say("closed, " + counted(parser_.Offset(), "byte") + ", " + counted(sheets_, "sheet") +
            ", " + counted(log_.Errors(), "error"));
 }
@@ -100,6 +114,7 @@ void Session::SendPieces(const AnswerPlan& plan, std::span<const std::uint8_t> a
       log_.Say("answers are lost from here on: " + client_.Error());
       return;
     }
+    NoteTime("answered");
     time = std::chrono::steady_clock::now() + kPieceDistance;
   }
 }
@@ -127,6 +142,7 @@ void Session::SayFields(decoder::Command command) const {
 }
 
 void Session::OnStatusRequest(std::uint64_t /*offset*/) {
+  NoteTime("status request");
   const AnswerPlan plan = printer_.faults.Answer(Question::Status, !permission_.FileBegins());
   permission_.StatusAnswered(plan);
   SendAnswer(plan, status_answer(plan.number));
@@ -136,6 +152,7 @@ void Session::OnStatusRequest(std::uint64_t /*offset*/) {
 }
 
 void Session::OnReadinessQuery(std::uint64_t offset, const decoder::JobHeader& header) {
+  NoteTime("readiness query");
   if (!permission_.QueryAllowed()) {
     OnError({offset, decoder::Command::ReadinessQuery, "answer to the status request",
              "a query after " + permission_.StatusSeen(), "a query after 0x0000"});
@@ -154,6 +171,7 @@ void Session::OnReadinessQuery(std::uint64_t offset, const decoder::JobHeader& h
 }
 
 void Session::OnJobHeader(std::uint64_t offset, const decoder::JobHeader& header) {
+  NoteTime("job header");
   if (!permission_.JobHeaderAllowed()) {
     OnError({offset, decoder::Command::JobHeader, "answer to the readiness query",
              "a job header after " + permission_.ReadinessSeen(), "a job header after 0x0000"});
@@ -164,6 +182,7 @@ void Session::OnJobHeader(std::uint64_t offset, const decoder::JobHeader& header
 }
 
 void Session::OnImageHeader(std::uint64_t /*offset*/, const decoder::ImageHeader& header) {
+  NoteTime("image header");
   log_.Say("image header, " + image_header_words(header));
   SayFields(decoder::Command::ImageHeader);
   imageFields_ = fields_;
@@ -194,6 +213,7 @@ void Session::OnMatteRow(std::uint32_t row, std::span<const std::uint8_t> bytes)
 }
 
 void Session::OnSheetEnd(const decoder::SheetEnd& end) {
+  NoteTime("sheet");
   permission_.SheetDone();
   if (end.badSamples > 1) {
     log_.Say(counted(end.badSamples, "sample") + " of the sheet above 0x3FFF");
@@ -251,6 +271,7 @@ void Session::OnSheetCut() {
 }
 
 void Session::OnPrintOut(std::uint64_t /*offset*/, std::uint8_t waitByte) {
+  NoteTime("print-out");
   permission_.PrintOutDone();
   log_.Say("print-out, wait byte " + std::to_string(waitByte));
   SayFields(decoder::Command::PrintOut);

@@ -23,6 +23,7 @@
 #include "simulator/sheet_progress.h"
 #include "simulator/stream_recorder.h"
 #include "simulator/tally.h"
+#include "simulator/timeline.h"
 #include "simulator/waiter.h"
 
 namespace simulator {
@@ -32,6 +33,7 @@ struct Printer {
   FaultSchedule& faults;
   SheetPrinter& sheets;
   StreamRecorder& recorder;
+  Timeline& timeline;
   Tally& tally;
   ContactSheet* contactSheet = nullptr;  ///< none: no such page is kept
   bool verbose = false;                  ///< every field is said
@@ -73,6 +75,7 @@ class Session : private decoder::CommandListener {
   void SendPieces(const AnswerPlan& plan, std::span<const std::uint8_t> answer);
   std::optional<Received> ReceiveMore();
   void TakeBytes();
+  void NoteTime(const char* event) const;
   void Drop();
   void SayFields(decoder::Command command) const;
   void SayPrinted(const SheetResult& result);

@@ -22,6 +22,7 @@
 #include "simulator/sheet_printer.h"
 #include "simulator/signals.h"
 #include "simulator/stream_recorder.h"
+#include "simulator/timeline.h"
 #include "simulator/waiter.h"
 #include "simulator/wording.h"
 
@@ -40,6 +41,11 @@ int cannot_start(const std::string& what, const std::string& why) {
 // Why the record cannot be begun; empty when all is well, or when none is asked for.
 std::string begin_record(const Options& options, StreamRecorder& recorder) {
   return options.record.empty() ? "" : recorder.Open(options.record);
+}
+
+// Why the timeline cannot be begun; empty when all is well, or when none is asked for.
+std::string begin_timeline(const Options& options, Timeline& timeline) {
+  return options.timeline.empty() ? "" : timeline.Open(options.timeline);
 }
 
 // Renamed when it is whole: a script that waits for the file never reads half a number. Without a
@@ -110,6 +116,10 @@ int run(const Options& options) {
   if (const std::string why = begin_record(options, recorder); !why.empty()) {
     return cannot_start(options.record, why);
   }
+  Timeline timeline;
+  if (const std::string why = begin_timeline(options, timeline); !why.empty()) {
+    return cannot_start(options.timeline, why);
+  }
   std::unique_ptr<decoder::SoftProof> proof;
   if (const std::string why = decoder::make_proof(options.proof, proof); !why.empty()) {
     return cannot_start(*options.proof.profile, why);
@@ -126,8 +136,8 @@ int run(const Options& options) {
   Tally tally;
   const Waiter waiter(*signals, faults, options.faults.script);
   return serve(options, server, waiter,
-               {faults, sheets, recorder, tally, options.contactSheet ? &contactSheet : nullptr,
-                options.verbose});
+               {faults, sheets, recorder, timeline, tally,
+                options.contactSheet ? &contactSheet : nullptr, options.verbose});
 }
 
 }  // namespace

@@ -74,6 +74,8 @@ INSTANTIATE_TEST_SUITE_P(
         WrongOptions{{"--port", "0", "--output", "/dev/null"}, "/dev/null: Not a directory"},
         WrongOptions{{"--port", "0", "--record", "/dev/null/stream"},
                      "/dev/null/stream: Not a directory"},
+        WrongOptions{{"--port", "0", "--timeline", "/dev/null/timeline"},
+                     "/dev/null/timeline: Not a directory"},
         WrongOptions{{"--port", "0", "--port-file", "/dev/null/port"},
                      "/dev/null/port: Not a directory"}));
 
