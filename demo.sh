@@ -134,7 +134,7 @@ stop_all() {
 # Shows the filter's progress until the job has ended, and sets $state to how it ended.
 follow_job() {
   local job=$1 shown='' line tries
-  for ((tries = 0; tries < 1800; ++tries)); do
+  for ((tries = 0; tries < 3600; ++tries)); do
     line=$(grep -ao 'Printing page [0-9]*, [0-9]*% complete' "$SCHEDULER_DIR/log/error_log" |
       tail -n 1)
     if [ "$line" != "$shown" ]; then
@@ -145,7 +145,7 @@ follow_job() {
     case $state in
       completed | canceled | aborted | stopped) return ;;
     esac
-    sleep 0.2
+    sleep 0.1
   done
   state='not at its end after six minutes'
 }

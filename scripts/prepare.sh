@@ -22,10 +22,12 @@ TQR7_SPEED_PACKAGES=(libbenchmark-dev)
 
 # Prints those of the named packages that are not installed.
 missing_packages() {
-  local package
+  local installed package
+  # One question for all of them: it takes as long as for one.
+  installed=" $(dpkg-query -W -f '${db:Status-Status}=${Package} ' "$@" 2>/dev/null)"
   for package in "$@"; do
-    case $(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) in
-      installed) ;;
+    case $installed in
+      *" installed=$package "*) ;;
       *) printf '%s\n' "$package" ;;
     esac
   done
@@ -52,11 +54,13 @@ install_packages() {
   "${install[@]}" >/dev/null 2>&1 || { "${as_root[@]}" apt-get update && "${install[@]}"; }
 }
 
-# Builds the preset named $1 in the source folder $2: all of it, or the targets named behind.
+# Builds the preset named $1 in the source folder $2: all of it, or the targets named behind. What is
+# configured looks by itself whether it must be again, but for the presets.
 build_preset() {
   local preset=$1 source=$2
   shift 2
-  (cd "$source" && cmake --preset "$preset" &&
+  (cd "$source" &&
+    { [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset"; } &&
     cmake --build --preset "$preset" --parallel ${1:+--target "$@"})
 }
 

@@ -90,15 +90,15 @@ scheduler_copy_programs() {
     "$build/tqr7.ppd" >"$SCHEDULER_DIR/tqr7.ppd"
 }
 
-# Until the scheduler answers; it takes about 0.2 seconds.
+# Until the scheduler answers; it takes about 0.1 seconds.
 scheduler_wait_until_ready() {
   local tries
-  for ((tries = 0; tries < 200; ++tries)); do
+  for ((tries = 0; tries < 1000; ++tries)); do
     if lpstat -r 2>/dev/null | grep -q 'is running'; then
       return 0
     fi
     kill -0 "$SCHEDULER_PID" 2>/dev/null || break
-    sleep 0.1
+    sleep 0.02
   done
   echo "The private scheduler did not start:" >&2
   tail -n 20 "$SCHEDULER_DIR/log/cupsd.out" "$SCHEDULER_DIR/log/error_log" >&2
@@ -143,9 +143,9 @@ scheduler_stop() {
   if [ -n "${SCHEDULER_PID:-}" ]; then
     kill "$SCHEDULER_PID" 2>/dev/null
     local tries
-    for ((tries = 0; tries < 100; ++tries)); do
+    for ((tries = 0; tries < 500; ++tries)); do
       kill -0 "$SCHEDULER_PID" 2>/dev/null || break
-      sleep 0.1
+      sleep 0.02
     done
     kill -KILL "$SCHEDULER_PID" 2>/dev/null
     wait "$SCHEDULER_PID" 2>/dev/null

@@ -16,12 +16,12 @@ printer_start() {
   "$build/tqr7-printer-sim" --port 0 --output "$dir" "$@" >"$dir/printer.log" 2>&1 &
   PRINTER_PID=$!
   PRINTER_PIDS+=("$PRINTER_PID")
-  for ((tries = 0; tries < 100; ++tries)); do
+  for ((tries = 0; tries < 250; ++tries)); do
     PRINTER_PORT=$(sed -n 's/^listening on 127\.0\.0\.1 port \([0-9]*\)$/\1/p' \
       "$dir/printer.log" 2>/dev/null)
     [ -z "$PRINTER_PORT" ] || return 0
     kill -0 "$PRINTER_PID" 2>/dev/null || break
-    sleep 0.05
+    sleep 0.02
   done
   echo "The simulated printer did not start:" >&2
   cat "$dir/printer.log" >&2
