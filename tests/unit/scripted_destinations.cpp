@@ -4,6 +4,7 @@
 #include <cups/cups.h>
 
 #include <array>
+#include <cstdlib>
 
 namespace {
 
@@ -48,7 +49,9 @@ const std::vector<std::string>& DestinationCalls() {
 }
 
 extern "C" int cupsGetDests(cups_dest_t** dests) {
-  calls.emplace_back("cupsGetDests");
+  const char* bus = std::getenv("DBUS_SYSTEM_BUS_ADDRESS");
+  calls.push_back(std::string("cupsGetDests") + (bus != nullptr ? " on the bus " : "") +
+                  (bus != nullptr ? bus : ""));
   *dests = destinations.data();
   return has_default ? 1 : 0;
 }

@@ -17,7 +17,8 @@ void SetDefaultReasons(const std::string& reasons);
 /// A default destination with an option of another name only.
 void SetDefaultWithoutReasons();
 
-/// The calls made, one line each.
+/// The calls made, one line each; that for the list with the system's bus, when the environment
+/// says where to find it.
 const std::vector<std::string>& DestinationCalls();
 
 #endif  // TQR7_TESTS_UNIT_SCRIPTED_DESTINATIONS_H

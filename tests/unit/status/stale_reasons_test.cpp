@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -126,4 +127,23 @@ TEST(StaleReasons, EachLineLeavesInOneWrite) {
   clean_printer_state();
   EXPECT_THAT(calls.Take(), ElementsAre("clean_printer_state() START\n", "STATE: -media-low\n",
                                         "STATE: -paused\n", "clean_printer_state() END\n"));
+}
+
+TEST(StaleReasons, UnderTheSchedulerNoPrintersAreLookedForOnTheNetwork) {
+  SetNoDefaultDestination();
+  setenv("FINAL_CONTENT_TYPE", "printer/photo", 1);
+  setenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/run/dbus/system_bus_socket", 1);
+  Cleaned();
+  EXPECT_THAT(DestinationCalls(), testing::Contains("cupsGetDests on the bus unix:path=/dev/null"));
+  unsetenv("FINAL_CONTENT_TYPE");
+  unsetenv("DBUS_SYSTEM_BUS_ADDRESS");
+}
+
+TEST(StaleReasons, OutsideTheSchedulerTheBusStaysAsItWas) {
+  SetNoDefaultDestination();
+  setenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/run/dbus/system_bus_socket", 1);
+  Cleaned();
+  EXPECT_THAT(DestinationCalls(),
+              testing::Contains("cupsGetDests on the bus unix:path=/run/dbus/system_bus_socket"));
+  unsetenv("DBUS_SYSTEM_BUS_ADDRESS");
 }
