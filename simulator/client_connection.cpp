@@ -110,6 +110,11 @@ Received ClientConnection::Receive(std::uint64_t most) {
   }
 }
 
+bool ClientConnection::BytesWait() const {
+  pollfd wait{socket_, POLLIN, 0};
+  return ::poll(&wait, 1, 0) > 0;
+}
+
 bool ClientConnection::WaitUntilWritable() {
   switch (waiter_.For(socket_, POLLOUT, Clock::now() + kSendTimeout)) {
     case Woken::Ready:

@@ -40,6 +40,9 @@ class ClientConnection {
   Received Receive(std::uint64_t most);
   std::span<const std::uint8_t> Bytes() const { return std::span(buffer_).first(received_); }
 
+  /// Whether Receive would find something at once.
+  bool BytesWait() const;
+
   /// Sends all of it, in one piece where the network allows. A client that takes nothing for ten
   /// seconds counts as gone. False on failure; Error says why.
   bool Send(std::span<const std::uint8_t> bytes);

@@ -35,6 +35,10 @@ std::optional<Received> Session::ReceiveMore() {
     return std::nullopt;
   }
   client_.ReadSlowly(printer_.faults.BytesPerSecond());
+  // The client comes first: a sheet is drawn while it has nothing to send, as in the pause behind
+  // the sheet.
+  while (!client_.BytesWait() && printer_.sheets.Draw()) {
+  }
   return client_.Receive(end - parser_.Offset());
 }
 

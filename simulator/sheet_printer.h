@@ -52,6 +52,10 @@ class SheetPrinter {
   void ImageRow(std::uint32_t row, std::span<const std::uint16_t> samples);
   void MatteRow(std::uint32_t row, std::span<const std::uint8_t> bytes);
 
+  /// Draws one of the rows that are in; false when there is none to draw. End and Cut draw what is
+  /// left: this is for whoever has time in between.
+  bool Draw() { return page_ != nullptr && page_->renderer.HandOnRow(); }
+
   /// The sheet is whole: it counts as printed when its PNG is in place. Only while Busy.
   SheetResult End();
 

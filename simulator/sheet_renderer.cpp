@@ -45,10 +45,11 @@ void SheetRenderer::ImageRow(std::uint32_t row, std::span<const std::uint16_t> s
   if (proof_ != nullptr) {
     proof_->ToScreen(samples, place);
   } else {
-    std::transform(samples.begin(), samples.end(), place.begin(), sample_to_byte);
+    std::transform(samples.begin(), samples.end(), place.begin(),
+                   [](std::uint16_t sample) { return sample_to_byte(sample); });
   }
   if (sheet_.image.matteHeight == 0) {
-    HandOnUpTo(sheetRow + 1);
+    rowsDone_ = sheetRow + 1;
   }
 }
 
@@ -60,17 +61,22 @@ void SheetRenderer::MatteRow(std::uint32_t row, std::span<const std::uint8_t> by
   for (std::size_t i = 0; i < dots.size(); ++i) {
     dots[i] = under_matte(dots[i], bytes[i / kChannels]);
   }
-  HandOnUpTo(std::size_t{row} + 1);
+  rowsDone_ = std::size_t{row} + 1;
 }
 
 void SheetRenderer::Finish() {
-  HandOnUpTo(sheet_.job.sheetHeight);
+  rowsDone_ = sheet_.job.sheetHeight;
+  while (HandOnRow()) {
+  }
 }
 
-void SheetRenderer::HandOnUpTo(std::size_t endRow) {
-  for (; rowsOut_ < endRow; ++rowsOut_) {
-    sink_(Row(rowsOut_));
+bool SheetRenderer::HandOnRow() {
+  if (rowsOut_ >= rowsDone_) {
+    return false;
   }
+  sink_(Row(rowsOut_));
+  ++rowsOut_;
+  return true;
 }
 
 }  // namespace simulator

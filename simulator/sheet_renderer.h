@@ -29,8 +29,8 @@ std::uint8_t sample_to_byte(std::uint16_t sample);
 /// The 8-bit value under a matte byte.
 std::uint8_t under_matte(std::uint8_t value, std::uint8_t matte);
 
-/// Draws one sheet, and hands each row on, from top to bottom, as soon as nothing can change it any
-/// more. Holds the sheet's pixels, and no more than that.
+/// Draws one sheet, and hands each row on, from top to bottom, when nothing can change it any more
+/// and it is asked to. Holds the sheet's pixels, and no more than that.
 class SheetRenderer {
  public:
   /// `sheet` must have passed the decoder's checks. `proof` must outlive the renderer; null shows
@@ -42,17 +42,20 @@ class SheetRenderer {
   /// Rows below the sheet's end, which a matte plane has, are not shown.
   void MatteRow(std::uint32_t row, std::span<const std::uint8_t> bytes);
 
+  /// Hands on the next row that nothing can change any more; false when there is none.
+  bool HandOnRow();
+
   /// Hands on all rows that are left as they stand: white where nothing came.
   void Finish();
 
  private:
   std::span<std::uint8_t> Row(std::size_t row);
-  void HandOnUpTo(std::size_t endRow);
 
   decoder::Sheet sheet_;
   const decoder::SoftProof* proof_;
   RowSink sink_;
   std::vector<std::uint8_t> pixels_;
+  std::size_t rowsDone_ = 0;  ///< from the top: nothing can change them
   std::size_t rowsOut_ = 0;
 };
 

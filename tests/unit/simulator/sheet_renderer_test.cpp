@@ -93,25 +93,42 @@ TEST(Sheet, HasTheMatteOverTheProof) {
   for (std::uint32_t row = 0; row < 3; ++row) {
     renderer.MatteRow(row, std::vector<std::uint8_t>{255, 0, 128, 0});
   }
+  renderer.Finish();
   ASSERT_EQ(rows.size(), 3U);
   // 119, 205 and 188 under 0: 104.1, 179.4 and 164.5; 255, 0 and 4 under 128: 239.1, 0 and 3.75.
   EXPECT_THAT(rows[1], ElementsAre(255, 255, 255, 104, 179, 165, 239, 0, 4, 223, 223, 223));
 }
 
-TEST(Sheet, OfGlossIsHandedOnRowByRow) {
+TEST(Sheet, IsHandedOnRowByRowWhenAsked) {
   Rows rows;
   SheetRenderer renderer(small_sheet(0), nullptr, into(rows));
-  EXPECT_EQ(rows.size(), 0U);
+  EXPECT_FALSE(renderer.HandOnRow());
   renderer.ImageRow(0, std::vector<std::uint16_t>(6, 0));
+  EXPECT_EQ(rows.size(), 0U);
+  EXPECT_TRUE(renderer.HandOnRow());
+  EXPECT_EQ(rows.size(), 1U);
+  EXPECT_TRUE(renderer.HandOnRow());
   EXPECT_EQ(rows.size(), 2U);
+  EXPECT_FALSE(renderer.HandOnRow());
+}
+
+TEST(Sheet, IsHandedOnOnceHoweverMuchOfItWasAskedFor) {
+  Rows rows;
+  SheetRenderer renderer(small_sheet(0), nullptr, into(rows));
+  renderer.ImageRow(0, std::vector<std::uint16_t>(6, 0));
+  EXPECT_TRUE(renderer.HandOnRow());
+  renderer.Finish();
+  EXPECT_EQ(rows.size(), 3U);
+  EXPECT_FALSE(renderer.HandOnRow());
 }
 
 TEST(Sheet, WaitsForTheMatteRows) {
   Rows rows;
   SheetRenderer renderer(small_sheet(3), nullptr, into(rows));
   renderer.ImageRow(0, std::vector<std::uint16_t>(6, 0));
-  EXPECT_EQ(rows.size(), 0U);
+  EXPECT_FALSE(renderer.HandOnRow());
   renderer.MatteRow(0, std::vector<std::uint8_t>{0, 128, 255, 255});
+  EXPECT_TRUE(renderer.HandOnRow());
   ASSERT_EQ(rows.size(), 1U);
   EXPECT_THAT(rows[0], ElementsAre(223, 223, 223, 239, 239, 239, 255, 255, 255, 255, 255, 255));
 }
