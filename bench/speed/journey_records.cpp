@@ -183,13 +183,15 @@ void check(const Journey& journey, int number) {
       throw std::runtime_error("job " + std::to_string(number) + ": " + what);
     }
   };
-  demand(journey.queued > 0.0 && journey.begun > 0.0, "the log does not have its beginning");
   demand(journey.completed > 0.0, "it was not completed");
-  demand(journey.programs.size() >= 3, "the log does not have its filters");
-  for (const Program& program : journey.programs) {
-    demand(program.exited > 0.0, program.name + " did not end well");
-  }
   demand(journey.marked == !journey.marks.empty(), "the marks are missing, or should not be there");
+  if (journey.marked) {
+    demand(journey.queued > 0.0 && journey.begun > 0.0, "the log does not have its beginning");
+    demand(journey.programs.size() >= 3, "the log does not have its filters");
+    for (const Program& program : journey.programs) {
+      demand(program.exited > 0.0, program.name + " did not end well");
+    }
+  }
   demand(!journey.arrivals.empty() && journey.arrivals.back().event == "closed",
          "it did not come to the printer");
 }
@@ -226,13 +228,14 @@ double last_byte(const Journey& journey) {
 
 std::vector<Journey> read_journeys(const std::string& folder) {
   const std::vector<Job> jobs = read_jobs(folder + "/jobs");
-  const auto log = read_log(folder + "/error_log");
+  std::map<std::string, std::map<int, std::vector<LoggedLine>>> logs;
   std::map<std::string, std::vector<std::vector<Arrival>>> timelines;
   std::map<std::string, std::size_t> printed;
   std::vector<Journey> journeys;
   for (const Job& job : jobs) {
     if (!timelines.contains(job.queue)) {
       std::vector<Time> begins = begins_of(jobs, job.queue);
+      logs[job.queue] = read_log(folder + "/" + job.queue + ".log");
       timelines[job.queue] = read_timeline(folder + "/" + job.queue + ".timeline", begins);
     }
     Journey journey;
@@ -240,7 +243,7 @@ std::vector<Journey> read_journeys(const std::string& folder) {
     journey.marked = job.queue == "marked";
     journey.lpEnded = static_cast<double>(job.end - job.begin) / kPerMillisecond;
     LogReader reader(journey, job.begin);
-    for (const LoggedLine& line : log.at(job.number)) {
+    for (const LoggedLine& line : logs[job.queue][job.number]) {
       reader.Take(line);
     }
     const std::size_t connection = printed[job.queue]++;

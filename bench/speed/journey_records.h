@@ -50,9 +50,11 @@ struct Journey {
 double first_byte(const Journey& journey);
 double last_byte(const Journey& journey);
 
-/// Reads a folder's "jobs" (a line each: number, kind, queue, and when lp began and ended),
-/// "error_log", and for each queue "QUEUE.timeline". A queue "marked" has the marks. Throws
-/// std::runtime_error for a job of which something is missing, as one that was not printed.
+/// Reads a folder's "jobs" (a line each: number, kind, queue, and when lp began and ended), and for
+/// each queue the lines of jobs of its scheduler's log, "QUEUE.log", and its printer's
+/// "QUEUE.timeline". The queue "marked" has the marks and a log that tells all; of the others only
+/// the times at the printer and the end of the job are known. Throws std::runtime_error for a job
+/// of which something is missing, as one that was not printed.
 std::vector<Journey> read_journeys(const std::string& folder);
 
 }  // namespace bench

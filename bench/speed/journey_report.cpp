@@ -65,7 +65,7 @@ std::vector<std::string> waiting_row(const std::vector<Journey>& journeys,
 }
 
 void print_waiting(const std::vector<Journey>& journeys) {
-  Table table{{"Job", "Calls noted", "Jobs", "lp returns, ms", "First byte, ms", "Last byte, s",
+  Table table{{"Job", "Noted", "Jobs", "lp returns, ms", "First byte, ms", "Last byte, s",
                "Job completed, s"},
               {}};
   for (const Kind& kind : kKinds) {
@@ -116,7 +116,7 @@ void print_steps(const std::vector<Journey>& journeys) {
 }
 
 void print_costs(const std::vector<Journey>& journeys) {
-  Table table{{"Cost of noting the calls, ms", "First byte", "Last byte"}, {}};
+  Table table{{"Cost of noting, ms", "First byte", "Last byte"}, {}};
   for (const Kind& kind : kKinds) {
     const std::vector<Journey> plain = chosen(journeys, kind.name, false);
     const std::vector<Journey> marked = chosen(journeys, kind.name, true);
