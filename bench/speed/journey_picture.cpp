@@ -34,7 +34,7 @@ constexpr const char* kPrinter = "#444444";
 
 // One for each kind of step.
 constexpr std::array<const char*, kStepKinds> kColours{
-    "#9aa5b1", "#9aa5b1", "#1f77b4", "#d9d9d9", "#6baed6", "#b39ddb", "#8e6bbd", "#c7c7c7",
+    "#9aa5b1", "#9aa5b1", "#1f77b4", "#d9d9d9", "#6baed6", "#b39ddb", "#8e6bbd", "#bcbd22",
     "#2ca02c", "#d62728", "#e377c2", "#ff7f0e", "#f3e3b3", "#17becf", "#9aa5b1"};
 
 struct Bar {
