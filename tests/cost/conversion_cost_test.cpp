@@ -18,10 +18,10 @@ struct Limits {
 };
 
 const std::map<std::string, Limits> kLimits = {
-    {"AVX2", {64, 73}},
-    {"SSE4", {69, 111}},
-    {"SSSE3", {69, 121}},
-    {"what every processor has", {81, 459}},
+    {"AVX2", {5.4, 57}},
+    {"SSE4", {12.4, 112}},
+    {"SSSE3", {13, 121}},
+    {"what every processor has", {27, 462}},
 };
 
 TEST(ConversionCost, OfAPixelWithAllSettingsOffHasNotDoubled) {
