@@ -184,12 +184,6 @@ void check_sending(Input& input) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerInitialize(int*, char***);
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
-  fuzz::drop_log();
-  return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   constexpr void (*kChecks[])(Input&) = {check_rectangles, check_making, check_copy, check_fill,
                                          check_sending};

@@ -85,12 +85,6 @@ void write_again(Bytes bytes) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerInitialize(int*, char***);
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
-  fuzz::drop_log();
-  return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const Bytes bytes(data, size);
   Record at_once;

@@ -156,12 +156,6 @@ extern "C" long MVChangeImage(const tagMVBandImageParams* source, const tagMVCha
   return 0;
 }
 
-extern "C" int LLVMFuzzerInitialize(int*, char***);
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
-  fuzz::drop_log();
-  return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   fuzz::Input input(data, size);
   unsigned char flags = 0;

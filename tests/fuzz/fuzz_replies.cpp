@@ -92,12 +92,6 @@ void ask_for_two_ways(std::span<const std::uint8_t> script) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerInitialize(int*, char***);
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
-  fuzz::drop_log();
-  return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   fuzz::Input input(data, size);
   const int question = input.Take<std::uint8_t>() % kQuestions;

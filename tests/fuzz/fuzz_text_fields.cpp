@@ -14,7 +14,6 @@
 #include "diag/image_files.h"
 #include "filter/module_path.h"
 #include "tests/fuzz/input.h"
-#include "tests/fuzz/streams.h"
 
 namespace {
 
@@ -67,12 +66,6 @@ void check_lists(std::string text, int count) {
 }
 
 }  // namespace
-
-extern "C" int LLVMFuzzerInitialize(int*, char***);
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
-  fuzz::drop_log();
-  return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   fuzz::Input input(data, size);

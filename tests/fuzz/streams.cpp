@@ -7,13 +7,6 @@
 
 namespace fuzz {
 
-void drop_log() {
-  cookie_io_functions_t drop{};
-  drop.write = [](void*, const char*, std::size_t size) { return static_cast<ssize_t>(size); };
-  static std::FILE* const nowhere = fopencookie(nullptr, "w", drop);
-  stderr = nowhere;
-}
-
 PrinterStream::PrinterStream(Sink sink, std::uint64_t limit)
     : sink_(std::move(sink)), left_(limit), stdout_before_(stdout), fp_out_before_(fpOut) {
   cookie_io_functions_t functions{};

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Where a target's code writes to: a log that nobody reads, and a printer's stream that hands each
-// byte to the target and may fail after a number of them.
+// Where a target's code writes to: a printer's stream that hands each byte to the target and may
+// fail after a number of them.
 #ifndef TQR7_TESTS_FUZZ_STREAMS_H
 #define TQR7_TESTS_FUZZ_STREAMS_H
 
@@ -12,10 +12,6 @@
 #include <span>
 
 namespace fuzz {
-
-/// From here on what goes to standard error is formatted and dropped. libFuzzer and the sanitizers
-/// keep their own way to the terminal.
-void drop_log();
 
 /// Takes the place of standard output and of fpOut for as long as it lives.
 class PrinterStream {
