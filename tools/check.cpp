@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // tqr7 check: how a photo will come out on a paper size, before paper is spent.
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <exception>
 #include <memory>
@@ -9,6 +8,7 @@
 #include <string>
 
 #include "simulator/wording.h"
+#include "tools/command_line.h"
 #include "tools/exit_status.h"
 #include "tools/json_output.h"
 #include "tools/photo_check.h"
@@ -135,7 +135,8 @@ std::string all_sizes() {
 int check(const Options& options) {
   const PrintSize* const size = find_print_size(options.size);
   if (size == nullptr) {
-    return cannot("\"" + plain_text(options.size) + "\" is no size; there are " + all_sizes());
+    return cannot(std::string("\"") + plain_text(options.size) + "\" is no size; there are " +
+                  all_sizes());
   }
   const PictureFile photo = read_picture_file(options.photo);
   const Placement placement = place_picture(static_cast<std::uint32_t>(photo.picture.width),
@@ -166,24 +167,20 @@ int check_or_say_why(const Options& options) {
 
 }  // namespace
 
-void add_check(CLI::App& program, int& status) {
-  CLI::App* const sub = program.add_subcommand(
-      "check", "say how a photo will come out on a paper size, before paper is spent");
+void add_check(CommandLine& program) {
+  Subcommand sub =
+      program.Add("check", "say how a photo will come out on a paper size, before paper is spent");
   const auto options = std::make_shared<Options>();
-  sub->add_option("PHOTO", options->photo, "a JPEG or PNG file")->required();
-  sub->add_option("--size", options->size, "paper size, with or without RQ_")
-      ->type_name("SIZE")
-      ->required();
-  sub->add_option("--scaling", options->scaling,
-                  "print-scaling of the job: fit, the system's own choice for photos, or fill")
-      ->type_name("fit|fill")
-      ->check(CLI::IsMember({"fit", "fill"}));
-  sub->add_option("--picture", options->picture,
-                  "PNG file to draw the sheet with the photo on it to")
-      ->type_name("FILE");
-  sub->add_flag("--json", options->json, "write one JSON document");
-  sub->get_option("--help")->description("say this and end");
-  sub->callback([options, &status] { status = check_or_say_why(*options); });
+  sub.Text("PHOTO", options->photo, "a JPEG or PNG file").Required();
+  sub.Text("--size", options->size, "paper size, with or without RQ_").Called("SIZE").Required();
+  sub.Text("--scaling", options->scaling,
+           "print-scaling of the job: fit, the system's own choice for photos, or fill")
+      .Called("fit|fill")
+      .OneOf({"fit", "fill"});
+  sub.Text("--picture", options->picture, "PNG file to draw the sheet with the photo on it to")
+      .Called("FILE");
+  sub.Flag("--json", options->json, "write one JSON document");
+  sub.Runs([options] { return check_or_say_why(*options); });
 }
 
 }  // namespace tools

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // tqr7 explain: what an error number or a queue's reason means, and what to do.
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <string>
 
 #include "status/reason_table.h"
+#include "tools/command_line.h"
 #include "tools/error_text.h"
 #include "tools/exit_status.h"
 #include "tools/explanation.h"
@@ -88,21 +88,20 @@ int explain_all(const Options& options) {
 
 }  // namespace
 
-void add_explain(CLI::App& program, int& status) {
-  CLI::App* const sub = program.add_subcommand(
-      "explain", "say what an error number or a queue's reason means and what to do");
+void add_explain(CommandLine& program) {
+  Subcommand sub =
+      program.Add("explain", "say what an error number or a queue's reason means and what to do");
   const auto options = std::make_shared<Options>();
-  CLI::Option* const text =
-      sub->add_option("NUMBER|KEYWORD", options->text,
-                      "error number in hexadecimal digits, or a reason that the queue shows");
-  sub->add_flag("--all", options->all, "list the table of the printer's errors")->excludes(text);
-  sub->add_flag("--json", options->json, "write one JSON document");
-  sub->get_option("--help")->description("say this and end");
-  sub->callback([options, text, &status] {
-    if (!options->all && text->count() == 0) {
-      throw CLI::RequiredError("NUMBER|KEYWORD or --all");
+  const Argument text =
+      sub.Text("NUMBER|KEYWORD", options->text,
+               "error number in hexadecimal digits, or a reason that the queue shows");
+  sub.Flag("--all", options->all, "list the table of the printer's errors").NotWith(text);
+  sub.Flag("--json", options->json, "write one JSON document");
+  sub.Runs([options, text] {
+    if (!options->all && !text.Given()) {
+      Subcommand::IsMissing("NUMBER|KEYWORD or --all");
     }
-    status = options->all ? explain_all(*options) : explain_one(*options);
+    return options->all ? explain_all(*options) : explain_one(*options);
   });
 }
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // tqr7 inspect: a captured command stream listed and held against the protocol.
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
 #include <string>
 
 #include "tools/byte_source.h"
+#include "tools/command_line.h"
 #include "tools/exit_status.h"
 #include "tools/stream_inspector.h"
 #include "tools/subcommands.h"
@@ -36,15 +36,14 @@ int inspect(const Options& options) {
 
 }  // namespace
 
-void add_inspect(CLI::App& program, int& status) {
-  CLI::App* const sub = program.add_subcommand(
-      "inspect", "list a captured command stream and hold it against the protocol");
+void add_inspect(CommandLine& program) {
+  Subcommand sub =
+      program.Add("inspect", "list a captured command stream and hold it against the protocol");
   const auto options = std::make_shared<Options>();
-  sub->add_option("FILE", options->file, "the stream; - is the standard input")->required();
-  sub->add_flag("--brief", options->brief, "leave the fields of the commands out");
-  sub->add_flag("--json", options->json, "write one JSON document");
-  sub->get_option("--help")->description("say this and end");
-  sub->callback([options, &status] { status = inspect(*options); });
+  sub.Text("FILE", options->file, "the stream; - is the standard input").Required();
+  sub.Flag("--brief", options->brief, "leave the fields of the commands out");
+  sub.Flag("--json", options->json, "write one JSON document");
+  sub.Runs([options] { return inspect(*options); });
 }
 
 }  // namespace tools

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // tqr7 proof: the sheets of a captured command stream as PNG files.
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
 #include <string>
@@ -12,6 +11,7 @@
 #include "simulator/sheet_printer.h"
 #include "simulator/wording.h"
 #include "tools/byte_source.h"
+#include "tools/command_line.h"
 #include "tools/exit_status.h"
 #include "tools/stream_proofer.h"
 #include "tools/subcommands.h"
@@ -69,25 +69,23 @@ int proof(const Options& options) {
 
 }  // namespace
 
-void add_proof(CLI::App& program, int& status) {
-  CLI::App* const sub =
-      program.add_subcommand("proof", "show the sheets of a captured command stream as PNG files");
+void add_proof(CommandLine& program) {
+  Subcommand sub =
+      program.Add("proof", "show the sheets of a captured command stream as PNG files");
   const auto options = std::make_shared<Options>();
-  sub->add_option("FILE", options->file, "the stream; - is the standard input")->required();
-  sub->add_option("-o,--output", options->folder, "folder for the sheets, made where it is missing")
-      ->type_name("DIR")
-      ->required();
-  CLI::Option* const profile =
-      sub->add_option("--profile", options->proof.profile,
-                      "ICC profile to show the colours of the print through (the model built in)")
-          ->type_name("FILE");
-  sub->add_flag("--device-values", options->proof.deviceValues,
-                "show the printer's own values and not the colours of the print")
-      ->excludes(profile);
-  sub->add_flag("--marks", options->marks,
-                "draw the cut and the white border's edge into the sheets");
-  sub->get_option("--help")->description("say this and end");
-  sub->callback([options, &status] { status = proof(*options); });
+  sub.Text("FILE", options->file, "the stream; - is the standard input").Required();
+  sub.Text("-o,--output", options->folder, "folder for the sheets, made where it is missing")
+      .Called("DIR")
+      .Required();
+  const Argument profile =
+      sub.Text("--profile", options->proof.profile,
+               "ICC profile to show the colours of the print through (the model built in)")
+          .Called("FILE");
+  sub.Flag("--device-values", options->proof.deviceValues,
+           "show the printer's own values and not the colours of the print")
+      .NotWith(profile);
+  sub.Flag("--marks", options->marks, "draw the cut and the white border's edge into the sheets");
+  sub.Runs([options] { return proof(*options); });
 }
 
 }  // namespace tools

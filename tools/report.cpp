@@ -2,7 +2,6 @@
 //
 // tqr7 report: a bundle for a bug report, with all that is needed to find a fault and without what
 // is personal: no picture, no titles, no names.
-#include <CLI/CLI.hpp>
 #include <charconv>
 #include <cstdio>
 #include <memory>
@@ -13,6 +12,7 @@
 
 #include "tools/bundle.h"
 #include "tools/byte_source.h"
+#include "tools/command_line.h"
 #include "tools/condition.h"
 #include "tools/exit_status.h"
 #include "tools/header_blocks.h"
@@ -195,7 +195,7 @@ int report(const ReportOptions& options) {
   }
   const int number = options.job.empty() ? 0 : job_number(options.job);
   if (number == 0 && !options.job.empty()) {
-    complain("\"" + plain_text(options.job) + "\" is not the number of a job");
+    complain(std::string("\"") + plain_text(options.job) + "\" is not the number of a job");
     return kExitCannotTell;
   }
   const Subject subject = find_subject(choose_queues(*room, {}).queues, number);
@@ -209,18 +209,17 @@ int report(const ReportOptions& options) {
 
 }  // namespace
 
-void add_report(CLI::App& program, int& status) {
+void add_report(CommandLine& program) {
   const auto options = std::make_shared<ReportOptions>();
-  CLI::App* const command = program.add_subcommand(
+  Subcommand command = program.Add(
       "report", "gather what a bug report needs, without the picture and without names");
-  command->get_option("--help")->description("say this and end");
-  command->add_option("JOB", options->job, "the job, such as 12 or photo-12; without: the last");
-  command->add_option("-o,--output", options->output, "the file that is written, a .tar.gz");
-  command->add_option("--log", options->log,
-                      "the scheduler's error log, where it does not hand it out itself");
-  command->add_option("--stream", options->stream,
-                      "a captured command stream, of which the headers are taken");
-  command->callback([options, &status] { status = report(*options); });
+  command.Text("JOB", options->job, "the job, such as 12 or photo-12; without: the last");
+  command.Text("-o,--output", options->output, "the file that is written, a .tar.gz");
+  command.Text("--log", options->log,
+               "the scheduler's error log, where it does not hand it out itself");
+  command.Text("--stream", options->stream,
+               "a captured command stream, of which the headers are taken");
+  command.Runs([options] { return report(*options); });
 }
 
 }  // namespace tools

@@ -2,12 +2,12 @@
 //
 // tqr7 resume: starts again what the printer brought to a standstill, and nothing that a person
 // stopped.
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "tools/command_line.h"
 #include "tools/exit_status.h"
 #include "tools/interruption.h"
 #include "tools/queue_choice.h"
@@ -69,20 +69,16 @@ int keep_running(const ResumeOptions& options) {
 
 }  // namespace
 
-void add_resume(CLI::App& program, int& status) {
+void add_resume(CommandLine& program) {
   const auto options = std::make_shared<ResumeOptions>();
-  CLI::App* const command = program.add_subcommand(
+  Subcommand command = program.Add(
       "resume", "start again what the printer stopped, and nothing that a person stopped");
-  command->get_option("--help")->description("say this and end");
-  command->add_option("QUEUE", options->queues, "only these queues and classes");
-  command->add_flag("--watch", options->watch,
-                    "go on: start it whenever the printer is good again, until interrupted");
-  command->add_option("--interval", options->interval, "seconds between two looks of --watch")
-      ->check(CLI::Range(0.1, 86400.0))
-      ->capture_default_str();
-  command->callback([options, &status] {
-    status = options->watch ? keep_running(*options) : resume_now(*options);
-  });
+  command.Texts("QUEUE", options->queues, "only these queues and classes");
+  command.Flag("--watch", options->watch,
+               "go on: start it whenever the printer is good again, until interrupted");
+  command.Seconds("--interval", options->interval, "seconds between two looks of --watch");
+  command.Runs(
+      [options] { return options->watch ? keep_running(*options) : resume_now(*options); });
 }
 
 }  // namespace tools

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // tqr7 status: what stands with each queue, in words with a remedy.
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "tools/command_line.h"
 #include "tools/condition.h"
 #include "tools/exit_status.h"
 #include "tools/interruption.h"
@@ -115,20 +115,17 @@ int show_status(const StatusOptions& options) {
 
 }  // namespace
 
-void add_status(CLI::App& program, int& status) {
+void add_status(CommandLine& program) {
   const auto options = std::make_shared<StatusOptions>();
-  CLI::App* const command =
-      program.add_subcommand("status", "say what stands with each queue, and what to do about it");
-  command->get_option("--help")->description("say this and end");
-  command->add_option("QUEUE", options->queues, "only these queues and classes");
-  command->add_flag("--watch", options->watch,
-                    "say it again whenever something changes, until interrupted");
-  command->add_option("--interval", options->interval, "seconds between two looks of --watch")
-      ->check(CLI::Range(0.1, 86400.0))
-      ->capture_default_str();
-  command->add_flag("--json", options->json, "for programs; with --watch a line each time");
-  command->add_flag("--ask", options->ask, "have each printer asked for its state first");
-  command->callback([options, &status] { status = show_status(*options); });
+  Subcommand command =
+      program.Add("status", "say what stands with each queue, and what to do about it");
+  command.Texts("QUEUE", options->queues, "only these queues and classes");
+  command.Flag("--watch", options->watch,
+               "say it again whenever something changes, until interrupted");
+  command.Seconds("--interval", options->interval, "seconds between two looks of --watch");
+  command.Flag("--json", options->json, "for programs; with --watch a line each time");
+  command.Flag("--ask", options->ask, "have each printer asked for its state first");
+  command.Runs([options] { return show_status(*options); });
 }
 
 }  // namespace tools

@@ -4,15 +4,12 @@
 #ifndef TQR7_TOOLS_SUBCOMMANDS_H
 #define TQR7_TOOLS_SUBCOMMANDS_H
 
-namespace CLI {
-class App;
-}
-
 namespace tools {
 
-/// Adds a subcommand to the program. When the person asks for it, it runs as the command line is
-/// parsed and leaves its exit status in `status`; both must live until then.
-using AddSubcommand = void(CLI::App& program, int& status);
+class CommandLine;
+
+/// Adds a subcommand to the program's command line, with what it takes and what it does.
+using AddSubcommand = void(CommandLine& program);
 
 AddSubcommand add_inspect;
 AddSubcommand add_proof;
