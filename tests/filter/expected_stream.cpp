@@ -82,13 +82,13 @@ std::string ImageHeader(const Settings& settings, int second) {
 }
 
 std::string ImageData(const Pixels& page) {
-  std::string data;
-  data.reserve(page.rgb.size() * 2);
+  std::string data(page.rgb.size() * 2, '\0');
+  char* place = data.data();
   unsigned channel = 0;
   for (const char byte : page.rgb) {
     const unsigned sample = static_cast<unsigned char>(byte) * 64U + channel;
-    data += static_cast<char>(sample % 256);
-    data += static_cast<char>(sample / 256);
+    *place++ = static_cast<char>(sample % 256);
+    *place++ = static_cast<char>(sample / 256);
     channel = channel == 2 ? 0 : channel + 1;
   }
   return data;
@@ -103,10 +103,13 @@ std::string BlankData(int width, int height) {
 }
 
 std::string MatteData(const Paper& paper, int call) {
-  std::string data;
+  std::string data(
+      static_cast<std::size_t>(paper.matte_width) * static_cast<std::size_t>(paper.matte_height),
+      '\0');
+  char* place = data.data();
   for (int y = 0; y < paper.matte_height; ++y) {
     for (int x = 0; x < paper.matte_width; ++x) {
-      data += static_cast<char>(5 * x + 3 * y + 16 * call);
+      *place++ = static_cast<char>(5 * x + 3 * y + 16 * call);
     }
   }
   return data;

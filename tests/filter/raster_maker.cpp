@@ -31,13 +31,13 @@ void WriteLines(cups_raster_t* raster, const RasterPage& page) {
 }  // namespace
 
 Pixels Pixels::Pattern(int width, int height, int number) {
-  Pixels page{width, height, {}};
-  page.rgb.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 3);
+  Pixels page = White(width, height);
+  char* place = page.rgb.data();
   for (int y = 0; y < height; ++y) {
     for (int x = 0; x < width; ++x) {
-      page.rgb += static_cast<char>(x + 3 * y + 50 * number);
-      page.rgb += static_cast<char>(7 * x - y + 90 * number);
-      page.rgb += static_cast<char>(x / 8 + 11 * y + 20 * number);
+      *place++ = static_cast<char>(x + 3 * y + 50 * number);
+      *place++ = static_cast<char>(7 * x - y + 90 * number);
+      *place++ = static_cast<char>(x / 8 + 11 * y + 20 * number);
     }
   }
   return page;
