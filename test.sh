@@ -14,7 +14,9 @@ run_tests() {
   shift
   install_packages "${TQR7_PACKAGES[@]}"
   build_preset "$preset" "$here"
-  ctest --test-dir "$here/build/$preset" -j 2 --output-on-failure --no-tests=error "$@"
+  # The tests that wait for a printer or a scheduler leave room for others.
+  ctest --test-dir "$here/build/$preset" -j $(($(nproc) + 2)) --output-on-failure \
+    --no-tests=error "$@"
 }
 
 run_fuzz_targets() {
