@@ -2,7 +2,6 @@
 #include "bench/svg_chart.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <fstream>
 #include <stdexcept>
@@ -20,6 +19,7 @@ constexpr double kTop = 34.0;
 constexpr double kRight = 14.0;
 constexpr double kLegendTop = 62.0;  // beneath the plot: tick numbers and the axis's name
 constexpr double kLegendLine = 17.0;
+constexpr double kBarEnd = 3.0;  // half the stroke across an error bar's end
 constexpr double kPanel = kLeft + kPlot + kRight;
 
 constexpr const char* kInk = "#222222";
@@ -46,44 +46,23 @@ std::string escaped(const std::string& text) {
   return result;
 }
 
-std::vector<double> ticks_of(const Axis& axis) {
-  const auto steps = static_cast<int>(std::floor((axis.high - axis.low) / axis.step + 1e-3));
-  std::vector<double> ticks;
-  for (int i = 0; i <= steps; ++i) {
-    ticks.push_back(axis.low + i * axis.step);
-  }
-  return ticks;
-}
-
-/// As few decimals as the axis's step needs.
-std::string tick_text(double value, double step) {
-  int decimals = 0;
-  while (decimals < 4 && std::abs(step * std::pow(10.0, decimals) -
-                                  std::round(step * std::pow(10.0, decimals))) > 1e-9) {
-    ++decimals;
-  }
-  const std::string text = number(std::abs(value), decimals);
-  return value < -step / 2.0 ? "−" + text : text;
-}
-
-/// One chart's part of the drawing; everything is placed from its left edge on.
+/// One chart's part of the drawing; everything is placed from its left and upper edge on.
 class Panel {
  public:
-  Panel(const Chart& chart, double left, std::size_t index)
-      : chart_(chart), left_(left + kLeft), clip_("plot" + std::to_string(index)) {}
+  Panel(const Chart& chart, double left, double top, std::size_t index)
+      : chart_(chart),
+        left_(left + kLeft),
+        top_(top + kTop),
+        clip_("plot" + std::to_string(index)) {}
 
   std::string drawn() const {
     return grid() + curves() + legend() +
-           text(left_ + kPlot / 2.0, kTop - 12.0, "middle", chart_.title, " font-weight=\"bold\"");
+           text(left_ + kPlot / 2.0, top_ - 12.0, "middle", chart_.title, " font-weight=\"bold\"");
   }
 
  private:
-  double x_of(double x) const {
-    return left_ + (x - chart_.across.low) / (chart_.across.high - chart_.across.low) * kPlot;
-  }
-  double y_of(double y) const {
-    return kTop + (chart_.up.high - y) / (chart_.up.high - chart_.up.low) * kPlot;
-  }
+  double x_of(double x) const { return left_ + place_on(chart_.across, x) * kPlot; }
+  double y_of(double y) const { return top_ + (1.0 - place_on(chart_.up, y)) * kPlot; }
 
   static std::string text(double x, double y, const char* anchor, const std::string& words,
                           const std::string& more = "") {
@@ -98,20 +77,25 @@ class Panel {
            (dashed ? " stroke-dasharray=\"5 3\"" : "") + "/>\n";
   }
 
+  static std::string dot(double x, double y, const std::string& fill) {
+    return "<circle" + attribute("cx", x) + attribute("cy", y) + " r=\"2.4\" fill=\"" + fill +
+           "\"/>\n";
+  }
+
   std::string grid() const {
     std::string svg;
     const Axis& across = chart_.across;
     for (const double x : ticks_of(across)) {
-      svg += line(x_of(x), kTop, x_of(x), kTop + kPlot, kGrid);
-      svg += text(x_of(x), kTop + kPlot + 16.0, "middle", tick_text(x, across.step));
+      svg += line(x_of(x), top_, x_of(x), top_ + kPlot, kGrid);
+      svg += text(x_of(x), top_ + kPlot + 16.0, "middle", tick_text(across, x));
     }
     const Axis& up = chart_.up;
     for (const double y : ticks_of(up)) {
       svg += line(left_, y_of(y), left_ + kPlot, y_of(y), kGrid);
-      svg += text(left_ - 6.0, y_of(y) + 4.0, "end", tick_text(y, up.step));
+      svg += text(left_ - 6.0, y_of(y) + 4.0, "end", tick_text(up, y));
     }
-    svg += text(left_ + kPlot / 2.0, kTop + kPlot + 36.0, "middle", across.label);
-    const double middle = kTop + kPlot / 2.0;
+    svg += text(left_ + kPlot / 2.0, top_ + kPlot + 36.0, "middle", across.label);
+    const double middle = top_ + kPlot / 2.0;
     const double side = left_ - kLeft + 14.0;
     svg += text(side, middle, "middle", up.label,
                 " transform=\"rotate(-90 " + number(side, 1) + " " + number(middle, 1) + ")\"");
@@ -120,7 +104,7 @@ class Panel {
 
   std::string curves() const {
     std::string svg = "<clipPath id=\"" + clip_ + "\"><rect" + attribute("x", left_) +
-                      attribute("y", kTop) + attribute("width", kPlot) +
+                      attribute("y", top_) + attribute("width", kPlot) +
                       attribute("height", kPlot) + "/></clipPath>\n<g clip-path=\"url(#" + clip_ +
                       ")\" fill=\"none\" stroke-width=\"1.6\" stroke-linejoin=\"round\">\n";
     for (const Curve& curve : chart_.curves) {
@@ -130,26 +114,49 @@ class Panel {
   }
 
   std::string drawn_curve(const Curve& curve) const {
-    std::string svg = "<polyline stroke=\"" + curve.colour + "\"" +
-                      (curve.dashed ? " stroke-dasharray=\"5 3\"" : "") + " points=\"";
-    std::string dots;
-    for (const Point& point : curve.points) {
-      svg += number(x_of(point.x), 1) + "," + number(y_of(point.y), 1) + " ";
-      if (curve.dotted) {
-        dots += "<circle" + attribute("cx", x_of(point.x)) + attribute("cy", y_of(point.y)) +
-                " r=\"2.4\" fill=\"" + curve.colour + "\"/>\n";
+    std::string svg;
+    if (curve.joined) {
+      svg += "<polyline stroke=\"" + curve.colour + "\"" +
+             (curve.dashed ? " stroke-dasharray=\"5 3\"" : "") + " points=\"";
+      for (const Point& point : curve.points) {
+        svg += number(x_of(point.x), 1) + "," + number(y_of(point.y), 1) + " ";
+      }
+      svg += "\"/>\n";
+    }
+    return svg + dots(curve) + bars(curve);
+  }
+
+  std::string dots(const Curve& curve) const {
+    std::string svg;
+    if (curve.dotted || !curve.joined) {
+      for (const Point& point : curve.points) {
+        svg += dot(x_of(point.x), y_of(point.y), curve.colour);
       }
     }
-    return svg + "\"/>\n" + dots;
+    return svg;
+  }
+
+  std::string bars(const Curve& curve) const {
+    std::string svg;
+    for (const ErrorBar& bar : curve.bars) {
+      const double x = x_of(bar.x);
+      svg += line(x, y_of(bar.low), x, y_of(bar.high), curve.colour);
+      for (const double end : {y_of(bar.low), y_of(bar.high)}) {
+        svg += line(x - kBarEnd, end, x + kBarEnd, end, curve.colour);
+      }
+    }
+    return svg;
   }
 
   std::string legend() const {
     std::string svg = "<g stroke-width=\"1.6\">\n";
     std::string names;
-    double y = kTop + kPlot + kLegendTop;
+    double y = top_ + kPlot + kLegendTop;
     for (const Curve& curve : chart_.curves) {
       if (!curve.name.empty()) {
-        svg += line(left_, y - 4.0, left_ + 26.0, y - 4.0, curve.colour, curve.dashed);
+        svg += curve.joined
+                   ? line(left_, y - 4.0, left_ + 26.0, y - 4.0, curve.colour, curve.dashed)
+                   : dot(left_ + 13.0, y - 4.0, curve.colour);
         names += text(left_ + 34.0, y, "start", curve.name);
         y += kLegendLine;
       }
@@ -158,7 +165,8 @@ class Panel {
   }
 
   const Chart& chart_;
-  double left_;
+  double left_;  // of the plot itself
+  double top_;
   std::string clip_;
 };
 
@@ -174,10 +182,13 @@ std::size_t longest_legend(const std::vector<Chart>& charts) {
 
 }  // namespace
 
-void write_charts(const std::string& path, const std::vector<Chart>& charts) {
-  const double width = kPanel * static_cast<double>(charts.size());
-  const double height =
+void write_charts(const std::string& path, const std::vector<Chart>& charts, std::size_t perRow) {
+  const std::size_t columns = perRow == 0 ? charts.size() : std::min(perRow, charts.size());
+  const std::size_t rows = columns == 0 ? 0 : (charts.size() + columns - 1) / columns;
+  const double rowHeight =
       kTop + kPlot + kLegendTop + kLegendLine * static_cast<double>(longest_legend(charts));
+  const double width = kPanel * static_cast<double>(columns);
+  const double height = rowHeight * static_cast<double>(rows);
   std::ofstream file(path, std::ios::binary);
   file << "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 " << number(width, 0) << " "
        << number(height, 0) << "\" width=\"" << number(width, 0) << "\" height=\""
@@ -185,7 +196,11 @@ void write_charts(const std::string& path, const std::vector<Chart>& charts) {
        << "\">\n<!-- SPDX-License-Identifier: Apache-2.0 -->\n"
        << "<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n";
   for (std::size_t i = 0; i < charts.size(); ++i) {
-    file << Panel(charts[i], kPanel * static_cast<double>(i), i).drawn();
+    const std::size_t row = i / columns;
+    const std::size_t column = i % columns;
+    file << Panel(charts[i], kPanel * static_cast<double>(column),
+                  rowHeight * static_cast<double>(row), i)
+                .drawn();
   }
   file << "</svg>\n";
   file.close();

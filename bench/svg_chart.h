@@ -4,14 +4,24 @@
 #ifndef TQR7_BENCH_SVG_CHART_H
 #define TQR7_BENCH_SVG_CHART_H
 
+#include <cstddef>
 #include <string>
 #include <vector>
+
+#include "bench/svg_axis.h"
 
 namespace bench {
 
 struct Point {
   double x;
   double y;
+};
+
+/// An error bar: from the lowest to the highest value that was measured at a place.
+struct ErrorBar {
+  double x;
+  double low;
+  double high;
 };
 
 /// Points joined by straight lines; clipped to the chart.
@@ -21,14 +31,8 @@ struct Curve {
   std::vector<Point> points;
   bool dashed = false;
   bool dotted = false;  ///< a dot on each point as well
-};
-
-/// One axis: what it shows, its ends, and the step of its grid lines.
-struct Axis {
-  std::string label;
-  double low;
-  double high;
-  double step;
+  bool joined = true;   ///< false: the dots only, without lines
+  std::vector<ErrorBar> bars = {};
 };
 
 struct Chart {
@@ -38,9 +42,10 @@ struct Chart {
   std::vector<Curve> curves;
 };
 
-/// The charts side by side, their legends beneath them. Throws std::runtime_error when the file
-/// cannot be written.
-void write_charts(const std::string& path, const std::vector<Chart>& charts);
+/// The charts side by side, their legends beneath them; `perRow` of them a row, 0 for all in one.
+/// Throws std::runtime_error when the file cannot be written.
+void write_charts(const std::string& path, const std::vector<Chart>& charts,
+                  std::size_t perRow = 0);
 
 }  // namespace bench
 
