@@ -57,6 +57,13 @@ TEST(SvgChart, PlacesPointsUpALogarithmicAxisAsWell) {
               HasSubstr("points=\"62.0,324.0 207.0,227.3 352.0,34.0 \""));
 }
 
+TEST(SvgChart, PlacesPointsOfALogarithmicAxisThatDoesNotBeginAtOne) {
+  const Axis wide = {"ms", 0.1, 10, 10, Scale::Logarithmic};
+  const Curve curve{"", "red", {{0, 0.1}, {5, 1}, {10, 10}}};
+  EXPECT_THAT(Drawn({{"", kMilliseconds, wide, {curve}}}),
+              HasSubstr("points=\"62.0,324.0 207.0,179.0 352.0,34.0 \""));
+}
+
 TEST(SvgChart, LeavesWhatALogarithmicAxisCannotShowOutsideThePlot) {
   const Curve curve{"", "red", {{0, 5}, {-3, 5}, {10, 5}}};
   EXPECT_THAT(Drawn({{"", kPages, kMilliseconds, {curve}}}),
