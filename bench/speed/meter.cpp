@@ -293,7 +293,7 @@ double seconds_of(const timeval& time) {
 /// Plays all that is around the program until it has ended.
 MeterReport run_beside(const MeteredRun& run, const MappedFile& input, Ends* ends, Usage* usage) {
   const auto [measured, others] = two_processors();
-  const pid_t launcher = start(run, measured, *ends);
+  const pid_t launcher = start(run, run.pinned ? measured : kAnyProcessor, *ends);
   ends->close_program();
   std::vector<std::thread> threads;
   if (run.streams == Streams::Pipes) {
@@ -338,6 +338,7 @@ Usage measure(const MeteredRun& run) {
   usage.system = seconds_of(report.usage.ru_stime);
   usage.wall = report.wall;
   usage.faults = report.usage.ru_minflt;
+  usage.displaced = report.usage.ru_nivcsw;
   usage.peak = report.usage.ru_maxrss;
   usage.pauses = pauses.pauses().count;
   usage.paused_seconds = pauses.pauses().seconds;

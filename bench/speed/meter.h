@@ -27,6 +27,7 @@ struct MeteredRun {
   /// only.
   int input_times = 1;
   Streams streams = Streams::Files;
+  bool pinned = true;    ///< to one processor; otherwise wherever the system puts it
   bool printer = false;  ///< descriptors 3 and 4 lead to a printer that is good and ready
   int status = 0;        ///< the exit status that the run must have
   /// Bytes that standard output must have at least: all bytes but messages. With pipes these are
@@ -42,6 +43,7 @@ struct Usage {
   double wall = 0.0;        ///< seconds
   long faults = 0;          ///< minor page faults
   long peak = 0;            ///< kB of resident memory at most
+  long displaced = 0;       ///< times that another process took its processor
   std::uint64_t bytes = 0;  ///< on standard output, with pipes
   std::uint64_t pauses = 0;
   std::uint64_t paused_seconds = 0;
@@ -50,8 +52,8 @@ struct Usage {
   double cpu() const { return user + system; }
 };
 
-/// Runs it on one processor, and what feeds and reads it on another one where there is one.
-/// Throws std::runtime_error for a run that is void: another status, or too few bytes.
+/// Runs it, on one processor as a rule, and what feeds and reads it on another one where there is
+/// one. Throws std::runtime_error for a run that is void: another status, or too few bytes.
 Usage measure(const MeteredRun& run);
 
 }  // namespace bench

@@ -39,6 +39,9 @@ double now() {
 }
 
 void stay_on(int processor) {
+  if (processor == bench::kAnyProcessor) {
+    return;
+  }
   cpu_set_t processors;
   CPU_ZERO(&processors);
   CPU_SET(static_cast<unsigned>(processor), &processors);

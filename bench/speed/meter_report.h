@@ -24,6 +24,7 @@ struct MeterReport {
   std::uint64_t written;  ///< bytes that it has written to all its descriptors
 };
 
+inline constexpr int kAnyProcessor = -1;     ///< instead of the number of one
 inline constexpr int kReportDescriptor = 5;  ///< the launcher writes its report there
 inline constexpr int kPausesDescriptor = 6;  ///< what is measured finds its Pauses there
 

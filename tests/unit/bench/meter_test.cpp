@@ -2,6 +2,7 @@
 #include "bench/speed/meter.h"
 
 #include <gtest/gtest.h>
+#include <sched.h>
 
 #include <cstdlib>
 #include <stdexcept>
@@ -58,6 +59,25 @@ TEST(Meter, CountsPausesInPlaceOfMakingThem) {
   EXPECT_EQ(usage.pauses, 2U);
   EXPECT_EQ(usage.paused_seconds, 7U);
   EXPECT_LT(usage.wall, 7.0);
+}
+
+TEST(Meter, KeepsTheProgramOnOneProcessor) {
+  MeteredRun run;
+  run.argv = {"nproc"};
+  run.streams = Streams::Pipes;
+  run.keep_output = true;
+  EXPECT_EQ(measure(run).output, "1\n");
+}
+
+TEST(Meter, GivesTheProgramAllProcessorsWhenAsked) {
+  MeteredRun run;
+  run.argv = {"nproc"};
+  run.pinned = false;
+  run.streams = Streams::Pipes;
+  run.keep_output = true;
+  cpu_set_t all;
+  ASSERT_EQ(sched_getaffinity(0, sizeof all, &all), 0);
+  EXPECT_EQ(measure(run).output, std::to_string(CPU_COUNT(&all)) + "\n");
 }
 
 TEST(Meter, CountsTheBytesOfThePipe) {
