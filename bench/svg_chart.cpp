@@ -103,27 +103,35 @@ class Panel {
   }
 
   std::string curves() const {
-    std::string svg = "<clipPath id=\"" + clip_ + "\"><rect" + attribute("x", left_) +
-                      attribute("y", top_) + attribute("width", kPlot) +
-                      attribute("height", kPlot) + "/></clipPath>\n<g clip-path=\"url(#" + clip_ +
-                      ")\" fill=\"none\" stroke-width=\"1.6\" stroke-linejoin=\"round\">\n";
+    std::string lines;
+    std::string marks;
     for (const Curve& curve : chart_.curves) {
-      svg += drawn_curve(curve);
+      lines += polyline(curve);
+      marks += dots(curve) + bars(curve);
     }
-    return svg + "</g>\n";
+    // A dot on the edge shows whole.
+    return clipped(clip_, 0.0, lines) + (marks.empty() ? "" : clipped(clip_ + "m", kBarEnd, marks));
   }
 
-  std::string drawn_curve(const Curve& curve) const {
-    std::string svg;
-    if (curve.joined) {
-      svg += "<polyline stroke=\"" + curve.colour + "\"" +
-             (curve.dashed ? " stroke-dasharray=\"5 3\"" : "") + " points=\"";
-      for (const Point& point : curve.points) {
-        svg += number(x_of(point.x), 1) + "," + number(y_of(point.y), 1) + " ";
-      }
-      svg += "\"/>\n";
+  /// What is drawn within the plot and so far around it.
+  std::string clipped(const std::string& name, double around, const std::string& drawing) const {
+    return "<clipPath id=\"" + name + "\"><rect" + attribute("x", left_ - around) +
+           attribute("y", top_ - around) + attribute("width", kPlot + 2.0 * around) +
+           attribute("height", kPlot + 2.0 * around) + "/></clipPath>\n<g clip-path=\"url(#" +
+           name + ")\" fill=\"none\" stroke-width=\"1.6\" stroke-linejoin=\"round\">\n" + drawing +
+           "</g>\n";
+  }
+
+  std::string polyline(const Curve& curve) const {
+    if (!curve.joined) {
+      return "";
     }
-    return svg + dots(curve) + bars(curve);
+    std::string svg = "<polyline stroke=\"" + curve.colour + "\"" +
+                      (curve.dashed ? " stroke-dasharray=\"5 3\"" : "") + " points=\"";
+    for (const Point& point : curve.points) {
+      svg += number(x_of(point.x), 1) + "," + number(y_of(point.y), 1) + " ";
+    }
+    return svg + "\"/>\n";
   }
 
   std::string dots(const Curve& curve) const {

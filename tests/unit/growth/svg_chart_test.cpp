@@ -97,6 +97,19 @@ TEST(SvgChart, DrawsAnErrorBarFromItsLowToItsHighValue) {
   EXPECT_THAT(svg, HasSubstr("<line x1=\"155.7\" y1=\"106.5\" x2=\"161.7\" y2=\"106.5\""));
 }
 
+TEST(SvgChart, ClipsLinesAtThePlotAndMarksBesideItsEdge) {
+  const Curve curve{"", "red", {{1, 5}, {10, 20}}, false, true};
+  const std::string svg = Drawn({{"", kPages, kMilliseconds, {curve}}});
+  EXPECT_THAT(svg, HasSubstr("<clipPath id=\"plot0\"><rect x=\"62.0\" y=\"34.0\" "
+                             "width=\"290.0\" height=\"290.0\"/></clipPath>\n"
+                             "<g clip-path=\"url(#plot0)\" fill=\"none\" stroke-width=\"1.6\" "
+                             "stroke-linejoin=\"round\">\n<polyline"));
+  EXPECT_THAT(svg, HasSubstr("<clipPath id=\"plot0m\"><rect x=\"59.0\" y=\"31.0\" "
+                             "width=\"296.0\" height=\"296.0\"/></clipPath>\n"
+                             "<g clip-path=\"url(#plot0m)\" fill=\"none\" stroke-width=\"1.6\" "
+                             "stroke-linejoin=\"round\">\n<circle"));
+}
+
 TEST(SvgChart, DrawsACurveThatIsNotJoinedAsDotsOnly) {
   Curve curve{"measured", "red", {{10, 5}, {100, 5}}};
   curve.joined = false;
