@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <unistd.h>
+
 #include <cstdint>
+#include <cstdio>
 #include <string>
 
 #include "bench/speed/growth_figures.h"
@@ -90,6 +93,21 @@ void print_size_lines(const std::vector<SizePoint>& sizes) {
                           number(worst * 100.0, 1) + " %", verdict(worst <= kStraight)});
   }
   print_table(table);
+}
+
+void print_caches() {
+  constexpr double kBuffersAPixel = 3 + 6;  // the page, and the converted band
+  const double smallest = kBuffersAPixel * papers().front().image_megapixels();
+  const double largest = kBuffersAPixel * papers().back().image_megapixels();
+  const auto second = static_cast<double>(sysconf(_SC_LEVEL2_CACHE_SIZE));
+  const auto third = static_cast<double>(sysconf(_SC_LEVEL3_CACHE_SIZE));
+  std::printf(
+      R"(A page's buffers take %.0f MB on the smallest paper and %.0f MB on the largest. The caches of this machine
+hold %.1f MB (second level) and %.0f MB (third level): a bend is to be expected only where one of them lies
+between.
+
+)",
+      smallest, largest, second / kMegabyte, third / kMegabyte);
 }
 
 void print_finishes(const std::vector<SizePoint>& sizes) {

@@ -23,6 +23,9 @@ void print_first_pages(const std::vector<LengthPoint>& lengths, double microseco
 /// The lines through the papers in gloss whose sheet is one page.
 void print_size_lines(const std::vector<SizePoint>& sizes);
 
+/// The buffers of the smallest and the largest page beside the processor's caches.
+void print_caches();
+
 /// These papers, one a row.
 void print_sizes(const std::vector<SizePoint>& sizes);
 
