@@ -73,7 +73,8 @@ figures. Queues that share a processor print fewer pages a second each, and CPU 
   std::puts(
       R"(Where CPU a page grows all the same, this tells why. Arithmetic grows if processors are threads of one
 core; copies within 1 MB grow if processors share a second-level cache, or lose it at each change of
-processes; copies among 20 MB, which are a page's buffers, grow if there is a limit beyond.
+processes; copies among 20 MB, which are a page's buffers, grow if there is a limit beyond; fresh memory and the
+reading of the file grow if processes wait for each other in the kernel.
 )");
   bench::print_probe(growth.queues);
 }

@@ -53,13 +53,16 @@ void print_queues(const std::vector<QueuesPoint>& queues) {
 
 void print_probe(const std::vector<QueuesPoint>& queues) {
   Table table{{"The same work in so many processes at once, CPU of each against one alone",
-               "arithmetic in registers", "copies within 1 MB", "copies among 20 MB"},
+               "arithmetic in registers", "copies within 1 MB", "copies among 20 MB",
+               "fresh memory", "reading the jobs' file"},
               {}};
   for (const QueuesPoint& point : queues) {
     table.rows.push_back({std::to_string(point.queues),
                           times(probe_ratio(point, queues.front(), &ProbeTimes::registers)),
                           times(probe_ratio(point, queues.front(), &ProbeTimes::cache)),
-                          times(probe_ratio(point, queues.front(), &ProbeTimes::memory))});
+                          times(probe_ratio(point, queues.front(), &ProbeTimes::memory)),
+                          times(probe_ratio(point, queues.front(), &ProbeTimes::fresh)),
+                          times(probe_ratio(point, queues.front(), &ProbeTimes::file))});
   }
   print_table(table);
 }

@@ -88,7 +88,8 @@ std::vector<QueuesPoint> measure_queues(RasterFolder& rasters, int rounds) {
         run.pinned = false;
         point.of[i].push_back(measure_together(run, point.queues));
       }
-      point.probe.push_back(probe_machine(point.queues));
+      point.probe.push_back(probe_machine(
+          point.queues, rasters.stream_of(usual_paper(), kPagesOfAQueue, Show::Photo)));
     }
   }
   return points;
