@@ -23,20 +23,21 @@ constexpr int kUsualRounds = 7;
 void tell_pages(const bench::Growth& growth, double microsecondsAFault) {
   std::puts(R"(### Pages of a job
 
-White pages in libcups' run lengths, from a file to `/dev/null`. A job costs something once, and the same
-for each page; the lines go through the jobs of 2 pages and more.
+White pages in libcups' run lengths, from a file to `/dev/null`. A job costs
+something once, and the same for each page; the lines go through the jobs of 2 pages
+and more.
 )");
   bench::print_lines(growth.lengths);
   std::puts(
-      R"(Where the job of one page lies off that line, its fresh memory shows as page faults. A fault that brings
-a huge page costs more than one of 4 kB, whose price is in the last column, measured on 20 MB without any
-filter.
+      R"(Where the job of one page lies off that line, its fresh memory shows as page faults.
+A fault that brings a huge page costs more than one of 4 kB, whose price is in the
+last column, measured on 20 MB without any filter.
 )");
   bench::print_first_pages(growth.lengths, microsecondsAFault);
   bench::print_lengths(growth.lengths);
   std::puts(
-      R"(Photos, uncompressed, through pipes, as in a chain. What a page costs more here is the kernel's part in
-20 MB of pipe; the floor pays it, too.
+      R"(Photos, uncompressed, through pipes, as in a chain. What a page costs more here is
+the kernel's part in 20 MB of pipe; the floor pays it, too.
 )");
   bench::print_lengths(growth.chains);
 }
@@ -44,19 +45,19 @@ filter.
 void tell_sizes(const bench::Growth& growth) {
   std::puts(R"(### Sizes
 
-Photos, uncompressed, from a file to `/dev/null`; a further page is a tenth of what a job of 12 sheets
-takes more than one of 2.
+Photos, uncompressed, from a file to `/dev/null`; a further page is a tenth of what
+a job of 12 sheets takes more than one of 2.
 )");
   bench::print_size_lines(growth.sizes);
   bench::print_caches();
   std::puts(
-      R"(Papers whose sheet is one page, in gloss. 51 page faults more or less are one piece of 2 MB in ten pages
-that is a huge page or is not, by where the addresses fall.
+      R"(Papers whose sheet is one page, in gloss. 51 page faults more or less are one piece
+of 2 MB in ten pages that is a huge page or is not, by where the addresses fall.
 )");
   bench::print_sizes(growth.sizes);
   std::puts(
-      R"(A matte plane, and two pages joined to a sheet, beside the gloss sheet of one page: the bytes that the
-filter's buffers take in, and what they cost.
+      R"(A matte plane, and two pages joined to a sheet, beside the gloss sheet of one page:
+the bytes that the filter's buffers take in, and what they cost.
 )");
   bench::print_finishes(growth.sizes);
 }
@@ -64,17 +65,19 @@ filter's buffers take in, and what they cost.
 void tell_queues(const bench::Growth& growth) {
   std::printf(R"(### Queues at once
 
-Jobs of %d photos at the same time, from a file to `/dev/null`, on %ld processors; their starts are in all
-figures. Queues that share a processor print fewer pages a second each, and CPU a page is not to grow.
+Jobs of %d photos at the same time, from a file to `/dev/null`, on %ld processors;
+their starts are in all figures. Queues that share a processor print fewer pages a
+second each, and CPU a page is not to grow.
 
 )",
               bench::kPagesOfAQueue, sysconf(_SC_NPROCESSORS_ONLN));
   bench::print_queues(growth.queues);
   std::puts(
-      R"(Where CPU a page grows all the same, this tells why. Arithmetic grows if processors are threads of one
-core; copies within 1 MB grow if processors share a second-level cache, or lose it at each change of
-processes; copies among 20 MB, which are a page's buffers, grow if there is a limit beyond; fresh memory and the
-reading of the file grow if processes wait for each other in the kernel.
+      R"(Where CPU a page grows all the same, this tells why. Arithmetic grows if processors
+are threads of one core; copies within 1 MB grow if processors share a second-level
+cache, or lose it at each change of processes; copies among 20 MB, which are a
+page's buffers, grow if there is a limit beyond; fresh memory and the reading of the
+file grow if processes wait for each other in the kernel.
 )");
   bench::print_probe(growth.queues);
 }

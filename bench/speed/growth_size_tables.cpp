@@ -102,9 +102,9 @@ void print_caches() {
   const auto second = static_cast<double>(sysconf(_SC_LEVEL2_CACHE_SIZE));
   const auto third = static_cast<double>(sysconf(_SC_LEVEL3_CACHE_SIZE));
   std::printf(
-      R"(A page's buffers take %.0f MB on the smallest paper and %.0f MB on the largest. The caches of this machine
-hold %.1f MB (second level) and %.0f MB (third level): a bend is to be expected only where one of them lies
-between.
+      R"(A page's buffers take %.0f MB on the smallest paper and %.0f MB on the largest. The
+caches of this machine hold %.1f MB (second level) and %.0f MB (third level): a bend
+is to be expected only where one of them lies between.
 
 )",
       smallest, largest, second / kMegabyte, third / kMegabyte);
