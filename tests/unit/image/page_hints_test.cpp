@@ -6,12 +6,14 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <vector>
 
 #include "filter/filter_hooks.h"
 #include "filter/job_state.h"
 #include "filter/paper_table.h"
 #include "image/band_image.h"
+#include "image/page_memory.h"
 
 namespace {
 
@@ -67,6 +69,24 @@ TEST(PageHints, AreGivenForThePageBuffer) {
   EXPECT_TRUE(told(MADV_HUGEPAGE, Planes[1], std::size_t{1852} * 1232 * 3));
   EXPECT_TRUE(told(MADV_POPULATE_WRITE, Planes[1], std::size_t{1852} * 1232 * 3));
   EndPage(nullptr, nullptr, nullptr);
+}
+
+TEST(PageHints, AreNotGivenAgainForMemoryThatWasWritten) {
+  std::vector<unsigned char> written(std::size_t{3} << 20U, 0xA5);
+  hints().clear();
+  expect_writes(written.data(), written.size());
+  EXPECT_TRUE(hints().empty());
+}
+
+TEST(PageHints, AreGivenWhereOnlyTheBeginningWasWritten) {
+  constexpr std::size_t kSize = std::size_t{8} << 20U;
+  void* fresh = mmap(nullptr, kSize, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+  ASSERT_NE(fresh, MAP_FAILED);
+  std::memset(fresh, 0xFF, kSize / 2 + 4096);
+  hints().clear();
+  expect_writes(fresh, kSize);
+  EXPECT_FALSE(hints().empty());
+  munmap(fresh, kSize);
 }
 
 TEST(PageHints, AreNotWorthASmallBand) {
