@@ -46,3 +46,11 @@ TEST(FillBandImage, OfABandThatEndsAboveItsStartWritesNothing) {
   EXPECT_TRUE(CImageUtility::FillBandImage(&band, 24, pixel.data()));
   EXPECT_EQ(Bytes(bits.data(), 6), "......");
 }
+
+TEST(FillBandImage, OfLinesTooShortForAPixelWritesNothing) {
+  std::array<unsigned char, 6> bits = {'.', '.', '.', '.', '.', '.'};
+  std::array<unsigned char, 3> pixel = {'r', 'g', 'b'};
+  tagMVBandImageParams band = {bits.data(), -2, {0, 0, 1, 3}};
+  EXPECT_TRUE(CImageUtility::FillBandImage(&band, 24, pixel.data()));
+  EXPECT_EQ(Bytes(bits.data(), 6), "......");
+}
