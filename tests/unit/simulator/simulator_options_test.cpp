@@ -160,7 +160,7 @@ TEST(Options, EndAfterTheConnectionsAskedFor) {
 
 TEST(Options, NumberNothingBehindANumberThatIsTooHigh) {
   const TemporaryFolder folder;
-  std::ofstream(folder.Path() / "sheet-1000000000.png");
+  std::ofstream(folder.Path() / "sheet-1000000000.png") << "an earlier print";
   PrinterProcess printer({"--output", folder.Path().string()});
   ASSERT_TRUE(print(printer.Port(), stream::small_job()));
   EXPECT_EQ(printer.Stop(), 0);
