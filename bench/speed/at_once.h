@@ -15,6 +15,7 @@
 #include <exception>
 #include <functional>
 #include <stdexcept>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -65,7 +66,8 @@ void run_child(const Pipe& go, const Pipe& results, const std::function<Record()
 /// Has `count` processes do the same work at once; returns their records and sets the seconds from
 /// the common start to the last one's end. Processes, not threads: each may start programs.
 template <typename Record>
-std::vector<Record> at_once(int count, const std::function<Record()>& work, double* seconds) {
+requires std::is_trivially_copyable_v<Record> std::vector<Record> at_once(
+    int count, const std::function<Record()>& work, double* seconds) {
   Pipe go;
   Pipe results;
   std::vector<pid_t> children;

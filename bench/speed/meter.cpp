@@ -291,7 +291,8 @@ double seconds_of(const timeval& time) {
 }
 
 /// Plays all that is around the program until it has ended.
-MeterReport run_beside(const MeteredRun& run, const MappedFile& input, Ends* ends, Usage* usage) {
+MeterReport run_beside(const MeteredRun& run, const MappedFile& input, Ends* ends,
+                       std::uint64_t* bytes, std::string* output) {
   const auto [measured, others] = two_processors();
   const pid_t launcher = start(run, run.pinned ? measured : kAnyProcessor, *ends);
   ends->close_program();
@@ -299,9 +300,7 @@ MeterReport run_beside(const MeteredRun& run, const MappedFile& input, Ends* end
   if (run.streams == Streams::Pipes) {
     const int into = std::exchange(ends->input, -1);
     threads.push_back(thread_on(others, [&, into] { feed(into, input.bytes(), run.input_times); }));
-    threads.push_back(thread_on(others, [&] {
-      usage->bytes = drain(ends->output, run.keep_output ? &usage->output : nullptr);
-    }));
+    threads.push_back(thread_on(others, [&] { *bytes = drain(ends->output, output); }));
     threads.push_back(thread_on(others, [&] { drain(ends->messages, nullptr); }));
   }
   if (run.printer) {
@@ -322,7 +321,7 @@ MeterReport run_beside(const MeteredRun& run, const MappedFile& input, Ends* end
 
 }  // namespace
 
-Usage measure(const MeteredRun& run) {
+Usage measure(const MeteredRun& run, std::string* output) {
   const MappedFile input(run.streams == Streams::Pipes ? run.input : "/dev/null");
   const SharedPauses pauses;
   Ends ends;
@@ -332,7 +331,7 @@ Usage measure(const MeteredRun& run) {
   ends.program[kPausesDescriptor] = MoveHigh(dup(pauses.descriptor()));
 
   Usage usage;
-  const MeterReport report = run_beside(run, input, &ends, &usage);
+  const MeterReport report = run_beside(run, input, &ends, &usage.bytes, output);
   judge(run, report, usage);
   usage.user = seconds_of(report.usage.ru_utime);
   usage.system = seconds_of(report.usage.ru_stime);

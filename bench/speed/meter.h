@@ -33,10 +33,9 @@ struct MeteredRun {
   /// Bytes that standard output must have at least: all bytes but messages. With pipes these are
   /// counted, otherwise the kernel's count of all that was written is held against them.
   std::uint64_t bytes = 0;
-  bool keep_output = false;  ///< pipes only
 };
 
-/// What one run used.
+/// What one run used. Goes between processes as it lies in memory.
 struct Usage {
   double user = 0.0;        ///< seconds
   double system = 0.0;      ///< seconds
@@ -47,14 +46,14 @@ struct Usage {
   std::uint64_t bytes = 0;  ///< on standard output, with pipes
   std::uint64_t pauses = 0;
   std::uint64_t paused_seconds = 0;
-  std::string output = {};  ///< when it was to be kept
 
   double cpu() const { return user + system; }
 };
 
 /// Runs it, on one processor as a rule, and what feeds and reads it on another one where there is
 /// one. Throws std::runtime_error for a run that is void: another status, or too few bytes.
-Usage measure(const MeteredRun& run);
+/// `output`, where there is one and the streams are pipes, gets what the program writes.
+Usage measure(const MeteredRun& run, std::string* output = nullptr);
 
 }  // namespace bench
 

@@ -8,6 +8,7 @@
 
 #include "bench/speed/contestants.h"
 #include "bench/speed/raster_file.h"
+#include "tests/unit/bench/output_of.h"
 
 namespace {
 
@@ -23,7 +24,6 @@ MeteredRun floor_run(const std::string& floor, const std::string& input) {
   MeteredRun run = bench::floor_run(floor);
   run.input = input;
   run.streams = Streams::Pipes;
-  run.keep_output = true;
   return run;
 }
 
@@ -31,7 +31,6 @@ MeteredRun filter_run(const std::string& input, const std::string& options) {
   MeteredRun run = bench::filter_run(bench::Library::Widening, options);
   run.input = input;
   run.streams = Streams::Pipes;
-  run.keep_output = true;
   return run;
 }
 
@@ -42,7 +41,7 @@ TEST(FloorCopy, WidensEachByteToFourteenBits) {
       0x00, 0x00, 0x40, 0x00, 0x01, 0x01, 0xDF, 0x1F, 0x20, 0x20, 0xFF, 0x3F,
       0x10, 0x10, 0xC0, 0x00, 0x80, 0x00, 0xFF, 0x3F, 0xFF, 0x3F, 0xFF, 0x3F,
   };
-  EXPECT_EQ(measure(floor_run("floor-copy", raster.path())).output,
+  EXPECT_EQ(output_of(floor_run("floor-copy", raster.path())),
             std::string(reinterpret_cast<const char*>(expected), sizeof expected));
 }
 
@@ -50,8 +49,8 @@ TEST(FloorCopy, SendsThePixelsThatTheFilterSendsBesideTheWideningLibrary) {
   const Picture page = bench::page_picture(Content::Noise, 1852, 631, 5);
   for (const RasterForm form : {RasterForm::Raw, RasterForm::Compressed}) {
     const RasterFile raster(page, 1, {.form = form});
-    const std::string image = measure(floor_run("floor-copy", raster.path())).output;
-    const std::string stream = measure(filter_run(raster.path(), "PageSize=RQ_5x15")).output;
+    const std::string image = output_of(floor_run("floor-copy", raster.path()));
+    const std::string stream = output_of(filter_run(raster.path(), "PageSize=RQ_5x15"));
     EXPECT_EQ(image.size(), 1852U * 631U * 6U);
     EXPECT_NE(stream.find(image), std::string::npos);
     EXPECT_LT(stream.size(), image.size() + 4096) << "headers and questions are all there is more";
@@ -62,8 +61,8 @@ TEST(FloorCopy, SendsEachPage) {
   const Picture page = bench::page_picture(Content::Noise, 30, 20, 5);
   const RasterFile one(page, 1, {});
   const RasterFile two(page, 2, {});
-  const std::string image = measure(floor_run("floor-copy", one.path())).output;
-  EXPECT_EQ(measure(floor_run("floor-copy", two.path())).output, image + image);
+  const std::string image = output_of(floor_run("floor-copy", one.path()));
+  EXPECT_EQ(output_of(floor_run("floor-copy", two.path())), image + image);
 }
 
 TEST(FloorDrop, ReadsTheWholeStreamAndWritesNothing) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "bench/speed/meter.h"
+#include "tests/unit/bench/output_of.h"
 
 #include <gtest/gtest.h>
 #include <sched.h>
@@ -22,7 +23,6 @@ MeteredRun known_use(const std::string& megabytes, const std::string& millisecon
   MeteredRun run;
   run.argv = {TQR7_KNOWN_USE, megabytes, milliseconds};
   run.streams = Streams::Pipes;
-  run.keep_output = true;
   return run;
 }
 
@@ -47,8 +47,9 @@ TEST(Meter, CountsAFaultForEachPageThatTheProgramTouches) {
 }
 
 TEST(Meter, TellsTheProcessorTimeThatTheProgramHasByItsOwnClock) {
-  const Usage usage = measure(known_use("0", "60"));
-  const double by_its_own = std::atof(usage.output.c_str());
+  std::string output;
+  const Usage usage = measure(known_use("0", "60"), &output);
+  const double by_its_own = std::atof(output.c_str());
   EXPECT_GE(by_its_own, 0.060);
   EXPECT_GE(usage.cpu(), by_its_own - 0.001);  // the clocks round
   EXPECT_LT(usage.cpu(), 1.5 * by_its_own);    // its end is not in its own
@@ -65,8 +66,7 @@ TEST(Meter, KeepsTheProgramOnOneProcessor) {
   MeteredRun run;
   run.argv = {"nproc"};
   run.streams = Streams::Pipes;
-  run.keep_output = true;
-  EXPECT_EQ(measure(run).output, "1\n");
+  EXPECT_EQ(output_of(run), "1\n");
 }
 
 TEST(Meter, GivesTheProgramAllProcessorsWhenAsked) {
@@ -74,20 +74,19 @@ TEST(Meter, GivesTheProgramAllProcessorsWhenAsked) {
   run.argv = {"nproc"};
   run.pinned = false;
   run.streams = Streams::Pipes;
-  run.keep_output = true;
   cpu_set_t all;
   ASSERT_EQ(sched_getaffinity(0, sizeof all, &all), 0);
-  EXPECT_EQ(measure(run).output, std::to_string(CPU_COUNT(&all)) + "\n");
+  EXPECT_EQ(output_of(run), std::to_string(CPU_COUNT(&all)) + "\n");
 }
 
 TEST(Meter, CountsTheBytesOfThePipe) {
   MeteredRun run;
   run.argv = {"/bin/echo", "twelve", "bytes"};
   run.streams = Streams::Pipes;
-  run.keep_output = true;
-  const Usage usage = measure(run);
+  std::string output;
+  const Usage usage = measure(run, &output);
   EXPECT_EQ(usage.bytes, 13U);
-  EXPECT_EQ(usage.output, "twelve bytes\n");
+  EXPECT_EQ(output, "twelve bytes\n");
 }
 
 TEST(Meter, FeedsWhatStandsBehindTheMarkOfAStreamAsOftenAsAsked) {
@@ -100,8 +99,7 @@ TEST(Meter, FeedsWhatStandsBehindTheMarkOfAStreamAsOftenAsAsked) {
   run.input = path;
   run.input_times = 3;
   run.streams = Streams::Pipes;
-  run.keep_output = true;
-  EXPECT_EQ(measure(run).output, "RaS3page,page,page,");
+  EXPECT_EQ(output_of(run), "RaS3page,page,page,");
   unlink(path);
 }
 
