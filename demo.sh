@@ -121,8 +121,8 @@ add_scaling() {
 }
 
 build() {
-  build_quietly "$here" demo-build.log rastertoprinter commandtoprinter tqr7.icc \
-    tqr7-printer-sim tqr7.ppd sample-photo job-state compare-prints || exit 1
+  build_quietly "$here" demo-build.log tqr7_module tqr7-printer-sim tqr7.ppd sample-photo \
+    job-state compare-prints || exit 1
 }
 
 stop_all() {

@@ -74,8 +74,7 @@ CONF
 scheduler_copy_programs() {
   local build=$1 filter="$SCHEDULER_DIR/filter"
   cp "$(PATH=$PATH:/usr/sbin command -v cupsd)" "$SCHEDULER_DIR/cupsd"
-  cp "$build/rastertoprinter" "$build/commandtoprinter" "$build"/libTQR7mervale.so.1 \
-    "$build/tqr7.icc" "$filter/"
+  xargs -a "$build/module-files" -I '{}' cp "$build/{}" "$filter/" || return 1
   if [ -n "${SCHEDULER_FILTER_PRELOAD:-}" ]; then
     cp "$SCHEDULER_FILTER_PRELOAD" "$filter/preload.so"
     local name

@@ -1,0 +1,88 @@
+# SPDX-License-Identifier: Apache-2.0
+#
+# What is installed, and where. Components: driver (what a queue needs) and tools (the operator's tool
+# and the simulated printer).
+#
+#   cmake --preset release -DCMAKE_INSTALL_PREFIX=/usr
+#   cmake --build --preset release
+#   cmake --install build/release [--component driver]
+#
+# The prefix is settled when the tree is configured, because the PPD names the filter by its whole
+# path. DESTDIR, as a package's build uses it, moves everything and changes no name.
+include(GNUInstallDirs)
+
+# The module directory: all of it in this list. The filter finds the rest beside itself.
+set(TQR7_MODULE_PROGRAMS rastertoprinter commandtoprinter)  # targets
+set(TQR7_MODULE_LIBRARIES TQR7mervale)                      # targets
+set(TQR7_MODULE_FILES tqr7.icc)                             # targets and files at the build's top
+
+if(APPLE)
+  set(module_dir /Library/Printers/CORVANTIEL/filter)
+else()
+  set(module_dir "${CMAKE_INSTALL_PREFIX}/lib/cups/filter/tqr7")
+endif()
+set(TQR7_FILTER_DIR "" CACHE PATH
+    "Absolute folder of filter, library and profile, as the PPD names it; empty: ${module_dir}")
+# Build trees from before there was an install had the build folder here.
+if(TQR7_FILTER_DIR STREQUAL "" OR TQR7_FILTER_DIR STREQUAL CMAKE_BINARY_DIR)
+  set(TQR7_FILTER_DIR "${module_dir}")
+endif()
+if(NOT IS_ABSOLUTE "${TQR7_FILTER_DIR}")
+  message(FATAL_ERROR "TQR7_FILTER_DIR must be an absolute folder: ${TQR7_FILTER_DIR}")
+endif()
+# The scheduler's list of drivers is made of what lies in its own share/cups/drv.
+set(TQR7_DRV_DIR "${CMAKE_INSTALL_DATADIR}/cups/drv" CACHE PATH "Folder of the PPD's source, tqr7.drv")
+
+# A scheduler starts no filter from a folder that others than root can write to.
+set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+
+install(CODE "
+  if(NOT CMAKE_INSTALL_PREFIX STREQUAL \"${CMAKE_INSTALL_PREFIX}\")
+    message(FATAL_ERROR \"The PPD names ${TQR7_FILTER_DIR}: for another prefix configure again, \"
+                        \"with -DCMAKE_INSTALL_PREFIX=\${CMAKE_INSTALL_PREFIX}\")
+  endif()" ALL_COMPONENTS)
+
+# Called once every target is there.
+function(tqr7_install)
+  set(programs ${TQR7_MODULE_PROGRAMS} ${TQR7_MODULE_LIBRARIES})
+  install(TARGETS ${programs}
+    RUNTIME DESTINATION "${TQR7_FILTER_DIR}" COMPONENT driver
+    LIBRARY DESTINATION "${TQR7_FILTER_DIR}" COMPONENT driver NAMELINK_SKIP)
+  list(TRANSFORM TQR7_MODULE_FILES PREPEND "${CMAKE_BINARY_DIR}/" OUTPUT_VARIABLE files)
+  install(FILES ${files} DESTINATION "${TQR7_FILTER_DIR}" COMPONENT driver)
+
+  # For who makes a module directory of his own, as the tests' schedulers do: build them, and copy
+  # the files that module-files lists.
+  add_custom_target(tqr7_module DEPENDS ${programs} ${TQR7_MODULE_FILES})
+  set(names ${TQR7_MODULE_FILES})
+  foreach(target ${TQR7_MODULE_PROGRAMS})
+    list(APPEND names "$<TARGET_FILE_NAME:${target}>")
+  endforeach()
+  foreach(target ${TQR7_MODULE_LIBRARIES})
+    list(APPEND names "$<TARGET_SONAME_FILE_NAME:${target}>")
+  endforeach()
+  file(GENERATE OUTPUT "${CMAKE_BINARY_DIR}/module-files" CONTENT "$<JOIN:${names},\n>\n")
+
+  # The source of the PPD with the folder written in: the scheduler compiles it by itself.
+  if(NOT TARGET tqr7.drv)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ppd/tqr7.drv)
+    file(READ ppd/tqr7.drv source)
+    string(REPLACE "$FILTERDIR" "${TQR7_FILTER_DIR}" source "${source}")
+    file(GENERATE OUTPUT "${CMAKE_BINARY_DIR}/tqr7.drv" CONTENT "${source}")
+  endif()
+  install(FILES "${CMAKE_BINARY_DIR}/tqr7.drv" DESTINATION "${TQR7_DRV_DIR}" COMPONENT driver)
+  install(FILES docs/rastertoprinter.8 docs/commandtoprinter.8
+    DESTINATION "${CMAKE_INSTALL_MANDIR}/man8" COMPONENT driver)
+
+  install(TARGETS tqr7 tqr7-printer-sim
+    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tools)
+  install(FILES docs/tqr7.1 docs/tqr7-printer-sim.1
+    DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tools)
+  install(FILES tools/completion/tqr7
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" COMPONENT tools)
+
+  install(FILES README.md CHANGELOG.md LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT driver)
+  install(DIRECTORY docs DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT driver
+    PATTERN "*.[18]" EXCLUDE)
+endfunction()
