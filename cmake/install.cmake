@@ -82,7 +82,12 @@ function(tqr7_install)
   install(FILES tools/completion/tqr7
     DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" COMPONENT tools)
 
+  install(FILES packaging/metainfo/com.corvantiel.tqr7.metainfo.xml
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo" COMPONENT driver)
+  # The documents, with the files that docs/security.md names.
   install(FILES README.md CHANGELOG.md LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT driver)
   install(DIRECTORY docs DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT driver
     PATTERN "*.[18]" EXCLUDE)
+  install(DIRECTORY packaging/apparmor packaging/systemd
+    DESTINATION "${CMAKE_INSTALL_DOCDIR}/packaging" COMPONENT driver)
 endfunction()
