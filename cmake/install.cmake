@@ -32,6 +32,8 @@ if(NOT IS_ABSOLUTE "${TQR7_FILTER_DIR}")
 endif()
 # The scheduler's list of drivers is made of what lies in its own share/cups/drv.
 set(TQR7_DRV_DIR "${CMAKE_INSTALL_DATADIR}/cups/drv" CACHE PATH "Folder of the PPD's source, tqr7.drv")
+set(TQR7_DATA_DIR "${CMAKE_INSTALL_FULL_DATADIR}/tqr7" CACHE PATH
+    "Absolute folder of what the PPD's source reads, its catalogues")
 
 # A scheduler starts no filter from a folder that others than root can write to.
 set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
@@ -64,14 +66,9 @@ function(tqr7_install)
   endforeach()
   file(GENERATE OUTPUT "${CMAKE_BINARY_DIR}/module-files" CONTENT "$<JOIN:${names},\n>\n")
 
-  # The source of the PPD with the folder written in: the scheduler compiles it by itself.
-  if(NOT TARGET tqr7.drv)
-    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ppd/tqr7.drv)
-    file(READ ppd/tqr7.drv source)
-    string(REPLACE "$FILTERDIR" "${TQR7_FILTER_DIR}" source "${source}")
-    file(GENERATE OUTPUT "${CMAKE_BINARY_DIR}/tqr7.drv" CONTENT "${source}")
-  endif()
   install(FILES "${CMAKE_BINARY_DIR}/tqr7.drv" DESTINATION "${TQR7_DRV_DIR}" COMPONENT driver)
+  list(TRANSFORM TQR7_LANGUAGES REPLACE "(.+)" "${CMAKE_BINARY_DIR}/po/\\1.po" OUTPUT_VARIABLE catalogues)
+  install(FILES ${catalogues} DESTINATION "${TQR7_DATA_DIR}/po" COMPONENT driver)
   install(FILES docs/rastertoprinter.8 docs/commandtoprinter.8
     DESTINATION "${CMAKE_INSTALL_MANDIR}/man8" COMPONENT driver)
 
