@@ -34,6 +34,8 @@ endif()
 set(TQR7_DRV_DIR "${CMAKE_INSTALL_DATADIR}/cups/drv" CACHE PATH "Folder of the PPD's source, tqr7.drv")
 set(TQR7_DATA_DIR "${CMAKE_INSTALL_FULL_DATADIR}/tqr7" CACHE PATH
     "Absolute folder of what the PPD's source reads, its catalogues")
+set(TQR7_LOCALE_DIR "${CMAKE_INSTALL_FULL_LOCALEDIR}" CACHE PATH
+    "Absolute folder of the programs' catalogues, where there is none beside the programs")
 
 # A scheduler starts no filter from a folder that others than root can write to.
 set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS

@@ -5,11 +5,15 @@
 #include <array>
 #include <optional>
 
+#include "language/messages.h"
 #include "simulator/printer_answers.h"
 #include "simulator/rule_words.h"
 
 namespace simulator {
 namespace {
+
+using language::_;
+using language::filled;
 
 constexpr std::uint64_t kCountMost = 1'000'000'000;
 constexpr std::uint64_t kNumberMost = 0xFFFF;
@@ -24,8 +28,14 @@ constexpr std::array<std::string_view, 8> kFaultWords{"status", "enable", "busy"
 std::string fault_alternatives() {
   std::string text;
   for (const std::string_view word : kFaultWords) {
-    text += word == kFaultWords.front() ? "" : (word == kFaultWords.back() ? " or " : ", ");
-    text += '"' + std::string(word) + '"';
+    const std::string quoted = '"' + std::string(word) + '"';
+    if (word == kFaultWords.front()) {
+      text = quoted;
+    } else if (word == kFaultWords.back()) {
+      text = filled(_("%1$s or %2$s"), text.c_str(), quoted.c_str());
+    } else {
+      text = filled(_("%1$s, %2$s"), text.c_str(), quoted.c_str());
+    }
   }
   return text;
 }
@@ -108,7 +118,9 @@ bool take_answer_fault(RuleWords& words, Question question, Fault& fault) {
   fault.question = Question::Status;
   fault.kind = question == Question::Status ? Fault::Kind::Status : Fault::Kind::Enable;
   const std::optional<std::uint64_t> number =
-      words.Number(0, kNumberMost, ", \"late\", \"pieces\", \"short\", \"stray\" or \"silent\"");
+      words.Number(0, kNumberMost,
+                   _("a number from %1$s to %2$s, \"late\", \"pieces\", \"short\", \"stray\" or "
+                     "\"silent\""));
   fault.number = static_cast<std::uint16_t>(number.value_or(0));
   return number.has_value();
 }
@@ -164,7 +176,7 @@ bool take_moment(RuleWords& words, Moment& moment) {
   } else {
     const auto* const end = kFaultWords.end();
     return std::find(kFaultWords.begin(), end, words.Next()) != end ||
-           words.Fail("\"job\", \"sheet\", " + fault_alternatives());
+           words.Fail(filled(_("%1$s, %2$s"), "\"job\", \"sheet\"", fault_alternatives().c_str()));
   }
   return take_count(words, 1, kCountMost, moment.number) && words.Require(":");
 }
@@ -188,20 +200,21 @@ bool take_extent(RuleWords& words, const Fault& fault, Extent& extent) {
     extent.kind = Extent::Kind::Times;
     return take_count(words, 1, kCountMost, extent.times) && words.Require("times");
   }
-  return words.Fail(mayCount ? "\"for\", a number of times, \"once\" or the end of the rule"
-                             : "\"for\" or the end of the rule");
+  return words.Fail(mayCount ? _("\"for\", a number of times, \"once\" or the end of the rule")
+                             : _("\"for\" or the end of the rule"));
 }
 
 bool take_rule(RuleWords& words, FaultRule& rule) {
   return take_moment(words, rule.moment) && take_fault(words, rule.fault) &&
          take_extent(words, rule.fault, rule.extent) &&
-         (words.AtEnd() || words.Fail("the end of the rule"));
+         (words.AtEnd() || words.Fail(_("the end of the rule")));
 }
 
 }  // namespace
 
 std::string to_string(const ScriptError& error) {
-  return "came " + error.came + ", expected " + error.expected;
+  // TRANSLATORS: what came in a rule, and what should have.
+  return filled(_("came %1$s, expected %2$s"), error.came.c_str(), error.expected.c_str());
 }
 
 Script read_rule(std::string_view text, std::size_t line) {

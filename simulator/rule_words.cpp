@@ -7,8 +7,13 @@
 #include <cstdio>
 #include <system_error>
 
+#include "language/messages.h"
+
 namespace simulator {
 namespace {
+
+using language::_;
+using language::filled;
 
 constexpr std::string_view kBlanks = " \t\r\v\f";
 constexpr std::size_t kShownMost = 40;
@@ -98,10 +103,11 @@ bool RuleWords::Require(std::string_view word) {
 }
 
 std::optional<std::uint64_t> RuleWords::Number(std::uint64_t low, std::uint64_t high,
-                                               const std::string& unless) {
+                                               const char* expected) {
   const std::optional<std::uint64_t> number = read_number(Next());
   if (!number || *number < low || *number > high) {
-    Fail("a number from " + std::to_string(low) + " to " + std::to_string(high) + unless);
+    Fail(filled(expected != nullptr ? expected : _("a number from %1$s to %2$s"),
+                std::to_string(low).c_str(), std::to_string(high).c_str()));
     return std::nullopt;
   }
   ++taken_;
@@ -111,7 +117,7 @@ std::optional<std::uint64_t> RuleWords::Number(std::uint64_t low, std::uint64_t 
 std::optional<std::chrono::milliseconds> RuleWords::Time() {
   const std::optional<std::uint64_t> time = read_milliseconds(Next());
   if (!time || *time == 0 || *time > kSecondsMost * kMilliseconds) {
-    Fail("a number of seconds from 0.001 to 86400 and then \"s\"");
+    Fail(_("a number of seconds from 0.001 to 86400 and then \"s\""));
     return std::nullopt;
   }
   ++taken_;
@@ -127,7 +133,7 @@ std::optional<std::uint8_t> RuleWords::Byte() {
   const char* const end = word.data() + word.size();
   const auto [stop, error] = std::from_chars(word.data(), end, value, 16);
   if (word.size() != kByteDigits || error != std::errc{} || stop != end) {
-    Fail("a byte as two hexadecimal digits");
+    Fail(_("a byte as two hexadecimal digits"));
     return std::nullopt;
   }
   ++taken_;
@@ -137,7 +143,7 @@ std::optional<std::uint8_t> RuleWords::Byte() {
 bool RuleWords::Fail(const std::string& expected) {
   if (expected_.empty()) {
     errorColumn_ = AtEnd() ? endColumn_ : words_[taken_].column;
-    came_ = AtEnd() ? "the end of the rule" : quoted(Next());
+    came_ = AtEnd() ? _("the end of the rule") : quoted(Next());
     expected_ = expected;
   }
   return false;

@@ -30,10 +30,10 @@ class RuleWords {
   /// As Take; a different word is an error.
   bool Require(std::string_view word);
 
-  /// Takes a number, decimal or hexadecimal behind 0x; anything else is an error. `unless` names
-  /// what else could have stood there, as in `, "late" or "silent"`.
+  /// Takes a number, decimal or hexadecimal behind 0x; anything else is an error. `expected`
+  /// is its message where more than a number may stand there, with %1$s and %2$s for the bounds.
   std::optional<std::uint64_t> Number(std::uint64_t low, std::uint64_t high,
-                                      const std::string& unless = {});
+                                      const char* expected = nullptr);
 
   /// Takes a time, "2.5 s", of one millisecond to a day.
   std::optional<std::chrono::milliseconds> Time();

@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <memory>
 
+#include "language/messages.h"
+
 namespace tools {
 namespace {
 
@@ -41,7 +43,7 @@ bool add_files(archive* writer, const std::string& folder, const std::vector<Bun
 
 std::string words_of(archive* writer) {
   const char* const words = archive_error_string(writer);
-  return words != nullptr ? words : "it cannot be written";
+  return words != nullptr ? words : language::_("it cannot be written");
 }
 
 // Half a bundle is of no use. What is no file, such as a device, is not ours to remove.

@@ -6,8 +6,10 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <string>
+#include <string_view>
 
-#include "simulator/wording.h"
+#include "language/display_width.h"
+#include "language/messages.h"
 #include "tools/command_line.h"
 #include "tools/exit_status.h"
 #include "tools/json_output.h"
@@ -19,7 +21,12 @@
 namespace tools {
 namespace {
 
-using simulator::counted;
+using language::_;
+using language::_n;
+using language::decimal;
+using language::filled;
+using language::N_;
+
 using Json = nlohmann::ordered_json;
 
 struct Options {
@@ -39,45 +46,95 @@ int cannot(const std::string& why) {
   return kExitCannotTell;
 }
 
+// TRANSLATORS: "Photo:" to "Good:" stand below each other, each with a value behind it.
+constexpr const char* kPhoto = N_("Photo:");
+constexpr const char* kPaper = N_("Paper:");
+constexpr const char* kImageArea = N_("Image area:");
+constexpr const char* kScaling = N_("Scaling:");
+constexpr const char* kResolution = N_("Resolution:");
+constexpr const char* kCutOff = N_("Cut off:");
+constexpr const char* kLeftWhite = N_("Left white:");
+constexpr const char* kNote = N_("Note:");
+constexpr const char* kNotGood = N_("Not good:");
+constexpr const char* kGood = N_("Good:");
+
+void print_line(const char* label, const std::string& value) {
+  const language::Labels labels{_(kPhoto),      _(kPaper),  _(kImageArea), _(kScaling),
+                                _(kResolution), _(kCutOff), _(kLeftWhite), _(kNote),
+                                _(kNotGood),    _(kGood)};
+  std::printf("%s%s\n", labels(_(label)).c_str(), value.c_str());
+}
+
 void print_paper(const PrintSize& size) {
   const tagPAPERINFO& paper = *size.paper;
-  std::printf("Paper:      %s, %d x %d dots, %.1f x %.1f mm\n", size.name,
-              static_cast<int>(paper.nPaperWidth), static_cast<int>(paper.nPaperHeight),
-              millimetres(static_cast<double>(paper.nPaperWidth)),
-              millimetres(static_cast<double>(paper.nPaperHeight)));
+  print_line(kPaper,
+             filled(_("%1$s, %2$d x %3$d dots, %4$s x %5$s mm"), size.name,
+                    static_cast<int>(paper.nPaperWidth), static_cast<int>(paper.nPaperHeight),
+                    decimal(millimetres(static_cast<double>(paper.nPaperWidth)), 1).c_str(),
+                    decimal(millimetres(static_cast<double>(paper.nPaperHeight)), 1).c_str()));
   if (paper.nImageWidth != paper.nPaperWidth || paper.nImageHeight != paper.nPaperHeight) {
-    std::printf("Image area: %d x %d dots, %s\n", static_cast<int>(paper.nImageWidth),
-                static_cast<int>(paper.nImageHeight),
-                size.HalfSheet() ? "one of two prints on the sheet" : "inside a white border");
+    const char* const form = size.HalfSheet()
+                                 ? _("%1$d x %2$d dots, one of two prints on the sheet")
+                                 : _("%1$d x %2$d dots, inside a white border");
+    print_line(kImageArea, filled(form, static_cast<int>(paper.nImageWidth),
+                                  static_cast<int>(paper.nImageHeight)));
+  }
+}
+
+// "left of the photo"
+const char* side_of_photo(std::string_view side) {
+  if (side == "left") {
+    return _("left of the photo");
+  }
+  if (side == "right") {
+    return _("right of the photo");
+  }
+  return side == "top" ? _("top of the photo") : _("bottom of the photo");
+}
+
+void print_losses(const PhotoCheck& check) {
+  constexpr double kPercent = 100.0;
+  for (const Cut& cut : check.cuts) {
+    const std::string pixels =
+        filled(_n("%zu pixel", "%zu pixels", cut.pixels), std::size_t{cut.pixels});
+    // TRANSLATORS: as in "left of the photo, 12 pixels, 3.1 % (4.0 mm of paper)".
+    print_line(kCutOff, filled(_("%1$s, %2$s, %3$s %% (%4$s mm of paper)"), side_of_photo(cut.side),
+                               pixels.c_str(), decimal(kPercent * cut.share, 1).c_str(),
+                               decimal(millimetres(cut.dots), 1).c_str()));
+  }
+  for (const White& white : check.whites) {
+    const std::string dots = filled(_n("%zu dot", "%zu dots", white.dots), std::size_t{white.dots});
+    const char* const side = std::string_view(white.side) == "right"
+                                 ? _("right of the image area")
+                                 : _("bottom of the image area");
+    // TRANSLATORS: as in "right of the image area, 12 dots, 3.1 % (4.0 mm)".
+    print_line(kLeftWhite, filled(_("%1$s, %2$s, %3$s %% (%4$s mm)"), side, dots.c_str(),
+                                  decimal(kPercent * white.share, 1).c_str(),
+                                  decimal(millimetres(white.dots), 1).c_str()));
   }
 }
 
 void print_text(const Options& options, const PictureFile& photo, const PrintSize& size,
                 const PhotoCheck& check) {
-  std::printf("Photo:      %zu x %zu pixels\n", photo.picture.width, photo.picture.height);
+  print_line(kPhoto, filled(_("%1$zu x %2$zu pixels"), photo.picture.width, photo.picture.height));
   print_paper(size);
-  std::printf("Scaling:    %s, to %u x %u dots from the image area's top left corner\n",
-              options.scaling.c_str(), check.placement.width, check.placement.height);
-  std::printf("Resolution: %.0f dpi, %s (sharp from %.0f on, soft from %.0f, coarse below)\n",
-              check.dotsPerInch, to_string(check.sharpness), kSharpFrom, kSoftFrom);
-  constexpr double kPercent = 100.0;
-  for (const Cut& cut : check.cuts) {
-    std::printf("Cut off:    %s of the photo, %s, %.1f %% (%.1f mm of paper)\n", cut.side,
-                counted(cut.pixels, "pixel").c_str(), kPercent * cut.share, millimetres(cut.dots));
-  }
-  for (const White& white : check.whites) {
-    std::printf("Left white: %s of the image area, %s, %.1f %% (%.1f mm)\n", white.side,
-                counted(white.dots, "dot").c_str(), kPercent * white.share,
-                millimetres(white.dots));
-  }
+  // TRANSLATORS: %1$s is fit or fill, as the option has it.
+  print_line(kScaling,
+             filled(_("%1$s, to %2$u x %3$u dots from the image area's top left corner"),
+                    options.scaling.c_str(), check.placement.width, check.placement.height));
+  // TRANSLATORS: %2$s is sharp, soft or coarse.
+  print_line(kResolution,
+             filled(_("%1$.0f dpi, %2$s (sharp from %3$.0f on, soft from %4$.0f, coarse below)"),
+                    check.dotsPerInch, _(to_string(check.sharpness)), kSharpFrom, kSoftFrom));
+  print_losses(check);
   for (const std::string& note : check.notes) {
-    std::printf("Note:       %s\n", note.c_str());
+    print_line(kNote, note);
   }
   for (const std::string& rule : check.rulesBroken) {
-    std::printf("Not good:   %s\n", rule.c_str());
+    print_line(kNotGood, rule);
   }
   if (check.rulesBroken.empty()) {
-    std::printf("Good:       nothing is lost, and nothing is coarse\n");
+    print_line(kGood, _("nothing is lost, and nothing is coarse"));
   }
 }
 
@@ -135,17 +192,20 @@ std::string all_sizes() {
 int check(const Options& options) {
   const PrintSize* const size = find_print_size(options.size);
   if (size == nullptr) {
-    return cannot(std::string("\"") + plain_text(options.size) + "\" is no size; there are " +
-                  all_sizes());
+    return cannot(filled(_("\"%s\" is no size; there are %s"), plain_text(options.size).c_str(),
+                         all_sizes().c_str()));
   }
   const PictureFile photo = read_picture_file(options.photo);
   const Placement placement = place_picture(static_cast<std::uint32_t>(photo.picture.width),
                                             static_cast<std::uint32_t>(photo.picture.height), *size,
                                             options.Scaling(), photo.density.Aspect());
   if (placement.Empty()) {
-    return cannot(options.photo + ": so narrow a picture that nothing of it is printed");
+    return cannot(options.photo + ": " + _("so narrow a picture that nothing of it is printed"));
   }
-  const PhotoCheck result = check_photo(photo, *size, options.Scaling(), placement);
+  const PhotoCheck result = [&] {
+    const language::English for_programs(options.json);
+    return check_photo(photo, *size, options.Scaling(), placement);
+  }();
   if (!options.picture.empty()) {
     write_picture(options.picture, draw_preview(photo.picture, *size, placement));
   }
@@ -168,18 +228,18 @@ int check_or_say_why(const Options& options) {
 }  // namespace
 
 void add_check(CommandLine& program) {
-  Subcommand sub =
-      program.Add("check", "say how a photo will come out on a paper size, before paper is spent");
+  Subcommand sub = program.Add(
+      "check", _("say how a photo will come out on a paper size, before paper is spent"));
   const auto options = std::make_shared<Options>();
-  sub.Text("PHOTO", options->photo, "a JPEG or PNG file").Required();
-  sub.Text("--size", options->size, "paper size, with or without RQ_").Called("SIZE").Required();
+  sub.Text("PHOTO", options->photo, _("a JPEG or PNG file")).Required();
+  sub.Text("--size", options->size, _("paper size, with or without RQ_")).Called("SIZE").Required();
   sub.Text("--scaling", options->scaling,
-           "print-scaling of the job: fit, the system's own choice for photos, or fill")
+           _("print-scaling of the job: fit, the system's own choice for photos, or fill"))
       .Called("fit|fill")
       .OneOf({"fit", "fill"});
-  sub.Text("--picture", options->picture, "PNG file to draw the sheet with the photo on it to")
+  sub.Text("--picture", options->picture, _("PNG file to draw the sheet with the photo on it to"))
       .Called("FILE");
-  sub.Flag("--json", options->json, "write one JSON document");
+  sub.Flag("--json", options->json, _("write one JSON document"));
   sub.Runs([options] { return check_or_say_why(*options); });
 }
 

@@ -5,9 +5,13 @@
 #include <cstdio>
 #include <utility>
 
+#include "language/command_line_words.h"
+#include "language/messages.h"
 #include "tools/exit_status.h"
 
 namespace tools {
+
+using language::_;
 
 Argument& Argument::Called(const std::string& word) {
   option_->type_name(word);
@@ -69,8 +73,9 @@ void Subcommand::IsMissing(const std::string& what) {
 CommandLine::CommandLine(const std::string& name, const std::string& version,
                          const std::string& help)
     : app_(std::make_unique<CLI::App>(help, name)), status_(kExitGood) {
-  app_->set_version_flag("--version", name + " " + version, "say the version and end");
-  app_->get_option("--help")->description("say this and end");
+  language::translate_help(*app_);
+  app_->set_version_flag("--version", name + " " + version, _("say the version and end"));
+  app_->get_option("--help")->description(_("say this and end"));
   app_->require_subcommand(1);
 }
 
@@ -78,7 +83,8 @@ CommandLine::~CommandLine() = default;
 
 Subcommand CommandLine::Add(const std::string& name, const std::string& help) {
   CLI::App* const app = app_->add_subcommand(name, help);
-  app->get_option("--help")->description("say this and end");
+  app->group(language::subcommands_heading());
+  app->get_option("--help")->description(_("say this and end"));
   return {app, &status_};
 }
 
@@ -89,7 +95,8 @@ int CommandLine::Run(int argc, char** argv) {
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
       return app_->exit(error);  // help or version
     }
-    std::fprintf(stderr, "%s: %s (see --help)\n", app_->get_name().c_str(), error.what());
+    const std::string what = language::translate_complaint(error.what());
+    std::fprintf(stderr, _("%s: %s (see --help)\n"), app_->get_name().c_str(), what.c_str());
     return kExitCannotTell;
   }
   return status_;

@@ -4,10 +4,14 @@
 #include <algorithm>
 #include <string_view>
 
+#include "language/messages.h"
 #include "tools/plain_text.h"
 
 namespace tools {
 namespace {
+
+using language::_;
+using language::filled;
 
 std::vector<int> numbers_of(const Queue& queue, JobState state) {
   std::vector<int> numbers;
@@ -80,29 +84,35 @@ Explanation explain_standstill(const Condition& condition) {
       break;
     case Standstill::Refused:
       if (condition.cause.word.empty()) {
-        explanation.meaning = "The driver stopped the queue at job " +
-                              std::to_string(condition.cause.job) +
-                              ": the printer refused a sheet. The scheduler's log has the word.";
-        explanation.remedy = "See to the printer, then `tqr7 resume " + condition.queue + "`.";
+        explanation.meaning =
+            filled(_("The driver stopped the queue at job %d: the printer refused "
+                     "a sheet. The scheduler's log has the word."),
+                   condition.cause.job);
+        explanation.remedy =
+            filled(_("See to the printer, then `tqr7 resume %s`."), condition.queue.c_str());
         break;
       }
       explanation = explain_keyword(condition.cause.word);
       explanation.remedy = advice_for(condition.queue, explanation.remedy);
-      explanation.meaning = "The driver stopped the queue at job " +
-                            std::to_string(condition.cause.job) + ": " + condition.cause.word +
-                            ". " + explanation.meaning;
+      // TRANSLATORS: %2$s is a keyword; %3$s is a sentence of its own.
+      explanation.meaning =
+          filled(_("The driver stopped the queue at job %1$d: %2$s. %3$s"), condition.cause.job,
+                 condition.cause.word.c_str(), explanation.meaning.c_str());
       break;
     case Standstill::Policy:
-      explanation.meaning = "The queue's error policy, stop-printer, stopped it at job " +
-                            std::to_string(condition.cause.job) +
-                            ", because the printer could not be reached.";
-      explanation.remedy = "Switch the printer on and check its connection. Then `tqr7 resume " +
-                           condition.queue + "`.";
+      explanation.meaning =
+          filled(_("The queue's error policy, stop-printer, stopped it at job %d, "
+                   "because the printer could not be reached."),
+                 condition.cause.job);
+      explanation.remedy =
+          filled(_("Switch the printer on and check its connection. Then `tqr7 resume %s`."),
+                 condition.queue.c_str());
       break;
     case Standstill::ByPerson:
-      explanation.meaning = "A person stopped the queue, or a program that is not this driver.";
-      explanation.remedy = "`cupsenable " + condition.queue +
-                           "` when it is to print again; `tqr7 resume` leaves it alone.";
+      explanation.meaning = _("A person stopped the queue, or a program that is not this driver.");
+      explanation.remedy =
+          filled(_("`cupsenable %s` when it is to print again; `tqr7 resume` leaves it alone."),
+                 condition.queue.c_str());
       break;
   }
   return explanation;

@@ -3,10 +3,15 @@
 // A queue's condition in words for people.
 #include <string>
 
+#include "language/messages.h"
 #include "tools/condition.h"
 
 namespace tools {
 namespace {
+
+using language::_;
+using language::_n;
+using language::filled;
 
 std::string list(const std::vector<int>& numbers) {
   constexpr std::size_t kListedMost = 10;
@@ -18,28 +23,30 @@ std::string list(const std::vector<int>& numbers) {
   return numbers.size() > kListedMost ? text + ", …" : text;
 }
 
-// "1 job" or "3 jobs", then the verb that goes with it.
-std::string jobs(const std::vector<int>& numbers, const char* one, const char* several) {
-  const bool single = numbers.size() == 1;
-  return std::to_string(numbers.size()) + (single ? " job " : " jobs ") + (single ? one : several) +
-         " (" + list(numbers) + ")";
-}
-
 std::string first_line(const Condition& condition) {
-  std::string line = condition.queue + ": " + (condition.IsGood() ? "good" : "not good") + ", " +
-                     to_string(condition.state);
-  line += condition.accepting ? ", accepts jobs" : ", does not accept jobs";
+  // TRANSLATORS: of a queue, as in "photo: good, idle, accepts jobs".
+  const char* const good = condition.IsGood() ? _("good") : _("not good");
+  const char* const accepting = condition.accepting ? _("accepts jobs") : _("does not accept jobs");
+  std::string line =
+      condition.queue + ": " + good + ", " + _(to_string(condition.state)) + ", " + accepting;
   if (condition.isClass) {
-    line += ", class of";
+    std::string members;
     for (const std::string& member : condition.members) {
-      line += " " + member;
+      members += (members.empty() ? "" : " ") + member;
     }
+    // TRANSLATORS: a class is several queues behind one name; %s are the names of the queues.
+    line += ", " + filled(_("class of %s"), members.c_str());
   }
   return line + "\n";
 }
 
 std::string two_lines(const std::string& meaning, const std::string& remedy) {
-  return "    " + meaning + "\n    To do: " + remedy + "\n";
+  return "    " + meaning + "\n    " + filled(_("To do: %s"), remedy.c_str()) + "\n";
+}
+
+// One line on some jobs.
+std::string line_on_jobs(const char* form, const std::vector<int>& jobs) {
+  return "  " + filled(form, jobs.size(), list(jobs).c_str()) + "\n";
 }
 
 std::string reason_lines(const Condition& condition) {
@@ -48,10 +55,11 @@ std::string reason_lines(const Condition& condition) {
     // Who stopped the queue says more than the word does.
     const bool standstill = reason.keyword == "paused" && condition.cause.kind != Standstill::None;
     const Explanation explanation = standstill ? explain_standstill(condition) : reason.explanation;
-    text += "  reason " + reason.keyword + "\n";
+    text += "  " + filled(_("reason %s"), reason.keyword.c_str()) + "\n";
     text += two_lines(explanation.meaning, explanation.remedy);
     if (standstill && condition.cause.kind == Standstill::ByPerson && !condition.message.empty()) {
-      text += "    Said with it: " + condition.message + "\n";
+      // TRANSLATORS: what the person who stopped the queue has said with it.
+      text += "    " + filled(_("Said with it: %s"), condition.message.c_str()) + "\n";
     }
   }
   return text;
@@ -60,21 +68,32 @@ std::string reason_lines(const Condition& condition) {
 std::string job_lines(const Condition& condition) {
   std::string text;
   if (!condition.printing.empty()) {
-    text += "  " + jobs(condition.printing, "prints", "print") + "\n";
+    text += line_on_jobs(
+        _n("%1$zu job prints (%2$s)", "%1$zu jobs print (%2$s)", condition.printing.size()),
+        condition.printing);
   }
   if (!condition.stopped.empty()) {
-    text += "  " + jobs(condition.stopped, "stands stopped", "stand stopped") + "\n";
-    text += two_lines("The driver gave up, and the scheduler does not begin again by itself.",
-                      (condition.cause.kind == Standstill::ByPerson
-                           ? "When the queue is started again: `tqr7 resume "
-                           : "See to the printer, then `tqr7 resume ") +
-                          condition.queue + "`; or give a job up with `cancel NUMBER`.");
+    text += line_on_jobs(_n("%1$zu job stands stopped (%2$s)", "%1$zu jobs stand stopped (%2$s)",
+                            condition.stopped.size()),
+                         condition.stopped);
+    const char* const remedy =
+        condition.cause.kind == Standstill::ByPerson
+            ? _("When the queue is started again: `tqr7 resume %s`; or give a job up with `cancel "
+                "NUMBER`.")
+            : _("See to the printer, then `tqr7 resume %s`; or give a job up with `cancel "
+                "NUMBER`.");
+    text += two_lines(_("The driver gave up, and the scheduler does not begin again by itself."),
+                      filled(remedy, condition.queue.c_str()));
   }
   if (!condition.waiting.empty()) {
-    text += "  " + jobs(condition.waiting, "waits", "wait") + "\n";
+    text += line_on_jobs(
+        _n("%1$zu job waits (%2$s)", "%1$zu jobs wait (%2$s)", condition.waiting.size()),
+        condition.waiting);
   }
   if (!condition.held.empty()) {
-    text += "  " + jobs(condition.held, "is held by a person", "are held by a person") + "\n";
+    text += line_on_jobs(_n("%1$zu job is held by a person (%2$s)",
+                            "%1$zu jobs are held by a person (%2$s)", condition.held.size()),
+                         condition.held);
   }
   return text;
 }
@@ -83,16 +102,16 @@ std::string connection_lines(const Condition& condition) {
   if (condition.isClass) {
     return {};
   }
+  // TRANSLATORS: yes, no or "cannot be told".
   std::string text =
-      "  bidirectional connection: " + std::string(to_string(condition.bidirectional)) +
+      "  " + filled(_("bidirectional connection: %s"), _(to_string(condition.bidirectional))) +
       (condition.backend.empty() ? "" : " (" + condition.backend + ")") + "\n";
   if (condition.bidirectional == Bidirectional::No) {
     text += two_lines(
-        "The driver asks the printer before each sheet, and without answers it does "
-        "not print.",
-        "Connect the printer by USB, or by its network port with a socket:// "
-        "address: `lpadmin -p " +
-            condition.queue + " -v socket://ADDRESS`.");
+        _("The driver asks the printer before each sheet, and without answers it does not print."),
+        filled(_("Connect the printer by USB, or by its network port with a socket:// address: "
+                 "`lpadmin -p %s -v socket://ADDRESS`."),
+               condition.queue.c_str()));
   }
   return text;
 }
@@ -102,8 +121,9 @@ std::string connection_lines(const Condition& condition) {
 std::string in_words(const Condition& condition) {
   std::string text = first_line(condition) + reason_lines(condition);
   if (!condition.accepting) {
-    text += two_lines("Jobs that are sent to the queue are turned away.",
-                      "`cupsaccept " + condition.queue + "` when it is to take jobs again.");
+    text += two_lines(
+        _("Jobs that are sent to the queue are turned away."),
+        filled(_("`cupsaccept %s` when it is to take jobs again."), condition.queue.c_str()));
   }
   return text + job_lines(condition) + connection_lines(condition);
 }

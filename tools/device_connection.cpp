@@ -5,7 +5,11 @@
 #include <array>
 #include <cctype>
 
+#include "language/messages.h"
+
 namespace tools {
+
+using language::N_;
 namespace {
 
 std::string scheme_of(std::string_view uri) {
@@ -52,13 +56,13 @@ Bidirectional bidirectional(std::string_view deviceUri) {
 const char* to_string(Bidirectional answer) {
   switch (answer) {
     case Bidirectional::Yes:
-      return "yes";
+      return N_("yes");
     case Bidirectional::No:
-      return "no";
+      return N_("no");
     case Bidirectional::CannotTell:
       break;
   }
-  return "cannot be told";
+  return N_("cannot be told");
 }
 
 std::string without_private_parts(std::string_view deviceUri) {

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <optional>
 
+#include "language/messages.h"
+
 namespace tools {
 namespace {
 
@@ -100,22 +102,24 @@ PixelDensity exif_density(Bytes bytes) {
   return {whole_part(*tiff, kTagAcross), whole_part(*tiff, kTagDown)};
 }
 
+// TRANSLATORS: each stands in the sentence that says what the photo must be to be seen upright.
 const char* exif_orientation_words(int orientation) {
+  using language::N_;
   switch (orientation) {
     case 2:
-      return "mirrored left to right";
+      return N_("mirrored left to right");
     case 3:
-      return "turned by 180 degrees";
+      return N_("turned by 180 degrees");
     case 4:
-      return "mirrored top to bottom";
+      return N_("mirrored top to bottom");
     case 5:
-      return "turned by 90 degrees clockwise and mirrored left to right";
+      return N_("turned by 90 degrees clockwise and mirrored left to right");
     case 6:
-      return "turned by 90 degrees clockwise";
+      return N_("turned by 90 degrees clockwise");
     case 7:
-      return "turned by 90 degrees counter-clockwise and mirrored left to right";
+      return N_("turned by 90 degrees counter-clockwise and mirrored left to right");
     case 8:
-      return "turned by 90 degrees counter-clockwise";
+      return N_("turned by 90 degrees counter-clockwise");
     default:
       return "";
   }

@@ -6,6 +6,8 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
+#include "language/display_width.h"
+#include "language/messages.h"
 #include "status/reason_table.h"
 #include "tools/command_line.h"
 #include "tools/error_text.h"
@@ -17,6 +19,9 @@
 
 namespace tools {
 namespace {
+
+using language::_;
+using language::filled;
 
 using Json = nlohmann::ordered_json;
 
@@ -36,22 +41,38 @@ Json json_of(const Explanation& told) {
 }
 
 void print(const Explanation& told) {
+  // TRANSLATORS: "Number:" to "To do:" stand below each other, each with a value behind it.
+  const char* const number = _("Number:");
+  const char* const error_class = _("Class:");
+  const char* const keyword = _("Keyword:");
+  const char* const meaning = _("Meaning:");
+  const char* const remedy = _("To do:");
+  const language::Labels labels{number, error_class, keyword, meaning, remedy};
+  const auto line = [&labels](const char* label, const std::string& value) {
+    std::printf("%s%s\n", labels(label).c_str(), value.c_str());
+  };
   if (told.number) {
-    std::printf("Number:  %s\n", four_digits(*told.number).c_str());
+    line(number, four_digits(*told.number));
   }
   if (!told.errorClass.empty()) {
-    std::printf("Class:   %s\n", told.errorClass.c_str());
+    line(error_class, told.errorClass);
   }
   if (!told.keyword.empty()) {
-    std::printf("Keyword: %s\n", told.keyword.c_str());
+    line(keyword, told.keyword);
   } else if (told.inTable) {
-    std::printf("Keyword: none is raised\n");
+    // TRANSLATORS: no keyword is raised.
+    line(keyword, _("none is raised"));
   }
-  std::printf("Meaning: %s\nTo do:   %s\n", told.meaning.c_str(), told.remedy.c_str());
+  line(meaning, told.meaning);
+  line(remedy, told.remedy);
 }
 
 int explain_one(const Options& options) {
-  Explanation told = explain_text(options.text);
+  Explanation told;
+  {
+    const language::English for_programs(options.json);
+    told = explain_text(options.text);
+  }
   told.keyword = plain_text(told.keyword);
   if (options.json) {
     print_json(stdout, json_of(told));
@@ -59,14 +80,16 @@ int explain_one(const Options& options) {
     print(told);
   }
   if (!told.inTable) {
-    std::fprintf(stderr, "tqr7 explain: \"%s\" is not in the table of the printer's errors\n",
-                 plain_text(options.text).c_str());
+    const std::string why = filled(_("\"%s\" is not in the table of the printer's errors"),
+                                   plain_text(options.text).c_str());
+    std::fprintf(stderr, "tqr7 explain: %s\n", why.c_str());
   }
   return told.inTable ? kExitGood : kExitNotGood;
 }
 
 int explain_all(const Options& options) {
   constexpr std::uint16_t kGroup = 256;
+  const language::English for_programs(options.json);
   Json rows = Json::array();
   for (const PrinterStateReason& row : PRINTER_STATE_REASONS) {
     const Explanation told = explain_number(
@@ -74,10 +97,10 @@ int explain_all(const Options& options) {
     if (options.json) {
       rows.push_back(json_of(told));
     } else if (told.keyword.empty()) {
-      std::printf("%s  good, raises nothing\n", four_digits(*told.number).c_str());
+      std::printf("%s  %s\n", four_digits(*told.number).c_str(), _("good, raises nothing"));
     } else {
-      std::printf("%s  class %s  %s\n", four_digits(*told.number).c_str(), told.errorClass.c_str(),
-                  told.keyword.c_str());
+      std::printf("%s  %s  %s\n", four_digits(*told.number).c_str(),
+                  filled(_("class %s"), told.errorClass.c_str()).c_str(), told.keyword.c_str());
     }
   }
   if (options.json) {
@@ -89,17 +112,17 @@ int explain_all(const Options& options) {
 }  // namespace
 
 void add_explain(CommandLine& program) {
-  Subcommand sub =
-      program.Add("explain", "say what an error number or a queue's reason means and what to do");
+  Subcommand sub = program.Add(
+      "explain", _("say what an error number or a queue's reason means and what to do"));
   const auto options = std::make_shared<Options>();
   const Argument text =
       sub.Text("NUMBER|KEYWORD", options->text,
-               "error number in hexadecimal digits, or a reason that the queue shows");
-  sub.Flag("--all", options->all, "list the table of the printer's errors").NotWith(text);
-  sub.Flag("--json", options->json, "write one JSON document");
+               _("error number in hexadecimal digits, or a reason that the queue shows"));
+  sub.Flag("--all", options->all, _("list the table of the printer's errors")).NotWith(text);
+  sub.Flag("--json", options->json, _("write one JSON document"));
   sub.Runs([options, text] {
     if (!options->all && !text.Given()) {
-      Subcommand::IsMissing("NUMBER|KEYWORD or --all");
+      Subcommand::IsMissing(_("NUMBER|KEYWORD or --all"));
     }
     return options->all ? explain_all(*options) : explain_one(*options);
   });

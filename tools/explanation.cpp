@@ -8,11 +8,16 @@
 #include <system_error>
 #include <vector>
 
+#include "language/messages.h"
 #include "status/reason_table.h"
 #include "tools/other_words.h"
 
 namespace tools {
 namespace {
+
+using language::_;
+using language::_n;
+using language::filled;
 
 constexpr std::string_view kMaker = "com.corvantiel-";
 constexpr std::string_view kError = "error";
@@ -67,35 +72,48 @@ std::vector<std::uint16_t> numbers_of_class(std::string_view errorClass) {
   return numbers;
 }
 
-// "6001, 6003 and 6011"; many are counted: "42 other numbers, 2600 to 2690" or, when `others` is
-// empty, "43 numbers, 2600 to 2690".
-std::string list_numbers(const std::vector<std::uint16_t>& numbers, const char* others,
-                         const Numbers& range) {
-  constexpr std::size_t kListedMost = 8;
-  if (numbers.size() > kListedMost) {
-    return std::to_string(numbers.size()) + " " + others + "numbers, " + four_digits(range.first) +
-           " to " + four_digits(range.last);
-  }
+constexpr std::size_t kListedMost = 8;  // more are counted
+
+// "6001, 6003 and 6011"
+std::string list_numbers(const std::vector<std::uint16_t>& numbers) {
   std::string text;
   for (std::size_t i = 0; i < numbers.size(); ++i) {
-    const bool last = i + 1 == numbers.size();
-    text += i == 0 ? "" : (last ? " and " : ", ");
-    text += four_digits(numbers[i]);
+    const std::string digits = four_digits(numbers[i]);
+    if (i == 0) {
+      text = digits;
+    } else if (i + 1 == numbers.size()) {
+      text = filled(_("%1$s and %2$s"), text.c_str(), digits.c_str());
+    } else {
+      // TRANSLATORS: a list that grows: the numbers so far, and the next.
+      text = filled(_("%1$s, %2$s"), text.c_str(), digits.c_str());
+    }
   }
   return text;
 }
 
 std::string class_sentence(std::uint16_t number, std::string_view errorClass) {
-  const std::string text = "What " + four_digits(number) +
-                           " in itself stands for is not known here; its class is " +
-                           std::string(errorClass) + ", which it ";
+  const std::string digits = four_digits(number);
+  const std::string name(errorClass);
   std::vector<std::uint16_t> numbers = numbers_of_class(errorClass);
-  const Numbers range{numbers.front(), numbers.back()};
+  const std::string first = four_digits(numbers.front());
+  const std::string last = four_digits(numbers.back());
   numbers.erase(std::remove(numbers.begin(), numbers.end(), number), numbers.end());
   if (numbers.empty()) {
-    return text + "has to itself.";
+    return filled(_("What %1$s in itself stands for is not known here; its class is %2$s, which it "
+                    "has to itself."),
+                  digits.c_str(), name.c_str());
   }
-  return text + "shares with " + list_numbers(numbers, "other ", range) + ".";
+  if (numbers.size() <= kListedMost) {
+    return filled(_("What %1$s in itself stands for is not known here; its class is %2$s, which it "
+                    "shares with %3$s."),
+                  digits.c_str(), name.c_str(), list_numbers(numbers).c_str());
+  }
+  return filled(_n("What %1$s in itself stands for is not known here; its class is %2$s, which it "
+                   "shares with %3$zu other number, %4$s to %5$s.",
+                   "What %1$s in itself stands for is not known here; its class is %2$s, which it "
+                   "shares with %3$zu other numbers, %4$s to %5$s.",
+                   numbers.size()),
+                digits.c_str(), name.c_str(), numbers.size(), first.c_str(), last.c_str());
 }
 
 Explanation explain_good() {
@@ -103,8 +121,8 @@ Explanation explain_good() {
           {},
           std::uint16_t{0},
           {},
-          "The printer is good: it reports no error, and no reason is raised.",
-          "Nothing to do."};
+          _("The printer is good: it reports no error, and no reason is raised."),
+          _("Nothing to do.")};
 }
 
 Explanation explain_row(const PrinterStateReason& row, std::uint16_t number) {
@@ -114,35 +132,45 @@ Explanation explain_row(const PrinterStateReason& row, std::uint16_t number) {
   const std::string digits = four_digits(number);
   Explanation result{true, std::string(keyword_of(row)), number, std::string(class_of(row)), {},
                      {}};
-  result.meaning =
-      "The printer reported error " + digits + ". " + class_sentence(number, class_of(row));
-  result.remedy =
-      "Read the printer's display, and look up " + digits +
-      " in the printer's manual. See to what they ask for; often that is paper, the ribbon or a "
-      "cover. The job that stopped is still in the queue: `tqr7 resume QUEUE` prints it again.";
+  // TRANSLATORS: the second is a sentence of its own.
+  result.meaning = filled(_("The printer reported error %1$s. %2$s"), digits.c_str(),
+                          class_sentence(number, class_of(row)).c_str());
+  result.remedy = filled(
+      _("Read the printer's display, and look up %s in the printer's manual. See to what they ask "
+        "for; often that is paper, the ribbon or a cover. The job that stopped is still in the "
+        "queue: `tqr7 resume QUEUE` prints it again."),
+      digits.c_str());
   if (number == kCatchAll) {
-    result.meaning +=
-        " The same reason is raised when the printer does not answer, and when it reports a number "
-        "that the table does not know.";
-    result.remedy =
-        "Check first that the printer is on and connected. " + result.remedy +
-        " The scheduler's log at the level debug has a line that begins `DEBUG: " + result.keyword +
-        "` and ends in UNAVAILABLE when the printer did not answer, and otherwise in the number "
-        "that it reported.";
+    // TRANSLATORS: the first is a sentence of its own.
+    result.meaning = filled(_("%s The same reason is raised when the printer does not answer, and "
+                              "when it reports a number that the table does not know."),
+                            result.meaning.c_str());
+    // TRANSLATORS: the first are sentences of their own.
+    result.remedy = filled(
+        _("Check first that the printer is on and connected. %1$s The scheduler's log at the level "
+          "debug has a line that begins `DEBUG: %2$s` and ends in UNAVAILABLE when the printer did "
+          "not answer, and otherwise in the number that it reported."),
+        result.remedy.c_str(), result.keyword.c_str());
   }
   return result;
 }
 
 Explanation explain_class(std::string_view digits, const std::vector<std::uint16_t>& numbers) {
   const std::string text(digits);
-  return {false,
-          {},
-          {},
-          text,
-          text + " is not an error number but a class of them: it has " +
-              list_numbers(numbers, "", {numbers.front(), numbers.back()}) +
-              ". What the class stands for is not known here.",
-          "Ask for one of its numbers, as the printer or the queue shows it."};
+  const std::string meaning =
+      numbers.size() <= kListedMost
+          ? filled(_("%1$s is not an error number but a class of them: it has %2$s. What the class "
+                     "stands for is not known here."),
+                   text.c_str(), list_numbers(numbers).c_str())
+          : filled(_n("%1$s is not an error number but a class of them: it has %2$zu number, %3$s "
+                      "to %4$s. What the class stands for is not known here.",
+                      "%1$s is not an error number but a class of them: it has %2$zu numbers, %3$s "
+                      "to %4$s. What the class stands for is not known here.",
+                      numbers.size()),
+                   text.c_str(), numbers.size(), four_digits(numbers.front()).c_str(),
+                   four_digits(numbers.back()).c_str());
+  return {false, {},      {},
+          text,  meaning, _("Ask for one of its numbers, as the printer or the queue shows it.")};
 }
 
 std::optional<std::uint16_t> read_digits(std::string_view text) {
@@ -197,10 +225,11 @@ Explanation explain_unknown_error(std::string_view keyword) {
           std::string(keyword),
           {},
           {},
-          std::string(keyword) +
-              " has the form of this printer's reasons, but is not in the table of its errors.",
-          "Read the printer's display, and look up the number in the printer's manual. If a queue "
-          "of this driver shows the reason, driver and tool are of different versions."};
+          filled(_("%s has the form of this printer's reasons, but is not in the table of its "
+                   "errors."),
+                 std::string(keyword).c_str()),
+          _("Read the printer's display, and look up the number in the printer's manual. If a "
+            "queue of this driver shows the reason, driver and tool are of different versions.")};
 }
 
 Explanation explain_unknown_word(std::string_view keyword) {
@@ -208,9 +237,9 @@ Explanation explain_unknown_word(std::string_view keyword) {
           std::string(keyword),
           {},
           {},
-          "This is neither in the table of the printer's errors nor a word that is known here.",
-          "Error numbers have four hexadecimal digits, such as 2665; a queue's reasons stand in "
-          "`lpstat -l -p QUEUE` and `tqr7 status`. `tqr7 explain --all` lists the table."};
+          _("This is neither in the table of the printer's errors nor a word that is known here."),
+          _("Error numbers have four hexadecimal digits, such as 2665; a queue's reasons stand in "
+            "`lpstat -l -p QUEUE` and `tqr7 status`. `tqr7 explain --all` lists the table.")};
 }
 
 }  // namespace
@@ -237,13 +266,12 @@ Explanation explain_number(std::uint16_t number) {
           catchAll,
           number,
           {},
-          digits +
-              " is not in the table of the printer's errors. When the printer reports it, the "
-              "queue shows " +
-              catchAll + ".",
-          "Read the printer's display, and look up " + digits +
-              " in the printer's manual. The job that stopped is still in the queue: `tqr7 resume "
-              "QUEUE` prints it again."};
+          filled(_("%1$s is not in the table of the printer's errors. When the printer reports it, "
+                   "the queue shows %2$s."),
+                 digits.c_str(), catchAll.c_str()),
+          filled(_("Read the printer's display, and look up %s in the printer's manual. The job "
+                   "that stopped is still in the queue: `tqr7 resume QUEUE` prints it again."),
+                 digits.c_str())};
 }
 
 Explanation explain_keyword(std::string_view keyword) {
@@ -252,7 +280,7 @@ Explanation explain_keyword(std::string_view keyword) {
   for (const OtherWord& known : other_words()) {
     // "protocol-error" is a whole word, though it ends like a severity.
     if (known.word == lower || known.word == plain) {
-      return {false, lower, {}, {}, known.meaning, known.remedy};
+      return {false, lower, {}, {}, _(known.meaning), _(known.remedy)};
     }
   }
   const std::string whole =

@@ -3,22 +3,20 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
+#include <string_view>
 
+#include "language/messages.h"
 #include "tools/exif.h"
 #include "tools/photo_profile.h"
 
 namespace tools {
 namespace {
 
-constexpr double kInch = 300.0;
+using language::_;
+using language::decimal;
+using language::filled;
 
-std::string percent(double share) {
-  constexpr double kPercent = 100.0;
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%.1f %%", kPercent * share);
-  return text.data();
-}
+constexpr double kInch = 300.0;
 
 std::vector<Cut> find_cuts(const Picture& photo, const Placement& placement) {
   const PixelArea& used = placement.used;
@@ -70,38 +68,41 @@ std::vector<std::string> find_notes(const PictureFile& photo, const PrintSize& s
                                     const Placement& placement) {
   std::vector<std::string> notes;
   if (placement.turned) {
-    notes.emplace_back("The photo is turned by a quarter to the left, to lie as the paper does.");
+    notes.emplace_back(
+        _("The photo is turned by a quarter to the left, to lie as the paper does."));
   }
   if (const int orientation = exif_orientation(photo.exif); orientation != kExifUpright) {
-    notes.push_back("The camera's note in the file says that the photo must be " +
-                    std::string(exif_orientation_words(orientation)) +
-                    " to be seen upright. Printing does not look at that note: the photo is placed "
-                    "as its pixels lie.");
+    // TRANSLATORS: as in "must be turned by 180 degrees to be seen upright".
+    notes.push_back(filled(_("The camera's note in the file says that the photo must be %s to be "
+                             "seen upright. Printing does not look at that note: the photo is "
+                             "placed as its pixels lie."),
+                           _(exif_orientation_words(orientation))));
   }
   if (const PixelDensity& density = photo.density; density.Aspect() != 1.0F) {
-    notes.push_back(
-        "The file says that its pixels are not square: " + std::to_string(density.across) +
-        " to the inch across, " + std::to_string(density.down) +
-        " down. Printing follows that, and stretches the photo; take it out of the "
-        "file if it looks wrong.");
+    notes.push_back(filled(
+        _("The file says that its pixels are not square: %1$u to the inch across, %2$u down. "
+          "Printing follows that, and stretches the photo; take it out of the file if it looks "
+          "wrong."),
+        density.across, density.down));
   }
   if (!photo.profile.empty()) {
     const PhotoProfile profile = judge_photo_profile(photo.profile);
     if (profile == PhotoProfile::Other) {
       notes.emplace_back(
-          "The photo has a colour profile that is not sRGB. Printing takes the photo for sRGB, so "
-          "its colours will be off; convert it to sRGB first.");
+          _("The photo has a colour profile that is not sRGB. Printing takes the photo for sRGB, "
+            "so its colours will be off; convert it to sRGB first."));
     } else if (profile == PhotoProfile::Unreadable) {
-      notes.emplace_back("The photo's colour profile cannot be used; it is taken for sRGB.");
+      notes.emplace_back(_("The photo's colour profile cannot be used; it is taken for sRGB."));
     }
   }
   if (size.TwoOnOnePage()) {
-    notes.emplace_back("The sheet is cut into two prints below line " +
-                       std::to_string(size.paper->nTwoUpSplit) +
-                       "; one photo on the whole page is cut in two.");
+    notes.push_back(filled(_("The sheet is cut into two prints below line %d; one photo on the "
+                             "whole page is cut in two."),
+                           static_cast<int>(size.paper->nTwoUpSplit)));
   }
   if (size.HalfSheet()) {
-    notes.emplace_back("A sheet takes two such pages; the other half of a lone one stays white.");
+    notes.emplace_back(
+        _("A sheet takes two such pages; the other half of a lone one stays white."));
   }
   return notes;
 }
@@ -115,43 +116,56 @@ void advise(PhotoCheck& check, PrintScaling scaling) {
                                  [](const White& side) { return side.share > kMuch; });
   if (scaling == PrintScaling::Fill && lost) {
     check.notes.emplace_back(
-        "Nothing is cut off with --scaling fit, which is `lp -o print-scaling=fit`.");
+        _("Nothing is cut off with --scaling fit, which is `lp -o print-scaling=fit`."));
   }
   if (scaling == PrintScaling::Fit && white) {
     check.notes.emplace_back(
-        "The page is covered with --scaling fill, which is `lp -o print-scaling=fill`; what goes "
-        "beyond it is cut off.");
+        _("The page is covered with --scaling fill, which is `lp -o print-scaling=fill`; what goes "
+          "beyond it is cut off."));
   }
 }
 
+// What is lost at that side, as a rule that is broken.
+const char* loss_at(std::string_view side) {
+  if (side == "left") {
+    return _("lost: more than %s %% is cut off at the left");
+  }
+  if (side == "right") {
+    return _("lost: more than %s %% is cut off at the right");
+  }
+  return side == "top" ? _("lost: more than %s %% is cut off at the top")
+                       : _("lost: more than %s %% is cut off at the bottom");
+}
+
 std::vector<std::string> find_rules_broken(const PhotoCheck& check, const std::string& damage) {
+  constexpr double kPercent = 100.0;
   std::vector<std::string> broken;
   if (!damage.empty()) {
-    broken.push_back("damaged: the file is broken (" + damage + ")");
+    broken.push_back(filled(_("damaged: the file is broken (%s)"), damage.c_str()));
   }
   for (const Cut& cut : check.cuts) {
     if (cut.share > kCutMost) {
-      broken.push_back("lost: more than " + percent(kCutMost) + " is cut off at the " + cut.side);
+      broken.push_back(filled(loss_at(cut.side), decimal(kPercent * kCutMost, 1).c_str()));
     }
   }
   if (check.sharpness == Sharpness::Coarse) {
-    std::array<char, 64> text{};
-    std::snprintf(text.data(), text.size(), "coarse: less than %.0f pixels to the inch", kSoftFrom);
-    broken.emplace_back(text.data());
+    broken.push_back(filled(_("coarse: less than %.0f pixels to the inch"), kSoftFrom));
   }
   return broken;
 }
 
 }  // namespace
 
+// TRANSLATORS: a photo's resolution is sharp, soft or coarse.
 const char* to_string(Sharpness sharpness) {
+  using language::N_;
   switch (sharpness) {
     case Sharpness::Sharp:
-      return "sharp";
+      return N_("sharp");
     case Sharpness::Soft:
-      return "soft";
+      return N_("soft");
     case Sharpness::Coarse:
-      return "coarse";
+      return N_("coarse");
   }
   return "";
 }

@@ -10,10 +10,14 @@
 #include <system_error>
 #include <utility>
 
+#include "language/messages.h"
 #include "tools/picture_formats.h"
 
 namespace tools {
 namespace {
+
+using language::_;
+using language::filled;
 
 struct FileCloser {
   void operator()(std::FILE* file) const { std::fclose(file); }
@@ -28,11 +32,11 @@ using File = std::unique_ptr<std::FILE, FileCloser>;
 
 std::string refuse_size(std::size_t width, std::size_t height) {
   if (width == 0 || height == 0) {
-    return "a picture without pixels";
+    return _("a picture without pixels");
   }
   if (width > kPixelsMost / height) {
-    return std::to_string(width) + " x " + std::to_string(height) + " pixels, more than " +
-           std::to_string(kPixelsMost);
+    return filled(_("%1$zu x %2$zu pixels, more than %3$zu"), width, height,
+                  std::size_t{kPixelsMost});
   }
   return {};
 }
@@ -50,7 +54,7 @@ PictureFile read_picture_file(const std::string& path) {
   constexpr int kJpegBegins = 0xFF;
   constexpr int kPngBegins = 0x89;
   if (first != kJpegBegins && first != kPngBegins) {
-    fail(path, "neither a JPEG nor a PNG file");
+    fail(path, _("neither a JPEG nor a PNG file"));
   }
   PictureFile result;
   const std::string why =

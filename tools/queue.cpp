@@ -3,7 +3,11 @@
 
 #include <algorithm>
 
+#include "language/messages.h"
+
 namespace tools {
+
+using language::N_;
 
 const Queue* Room::Find(std::string_view name) const {
   const auto found = std::find_if(queues.begin(), queues.end(),
@@ -21,18 +25,19 @@ bool Room::IsOurs(const Queue& queue) const {
   });
 }
 
+// TRANSLATORS: a queue is idle, processing, stopped or unknown.
 const char* to_string(QueueState state) {
   switch (state) {
     case QueueState::Idle:
-      return "idle";
+      return N_("idle");
     case QueueState::Processing:
-      return "processing";
+      return N_("processing");
     case QueueState::Stopped:
-      return "stopped";
+      return N_("stopped");
     case QueueState::Unknown:
       break;
   }
-  return "unknown";
+  return N_("unknown");
 }
 
 const char* to_string(JobState state) {

@@ -3,18 +3,23 @@
 
 #include <algorithm>
 
+#include "language/messages.h"
 #include "tools/plain_text.h"
 
 namespace tools {
+
+using language::_;
+using language::filled;
 
 QueueChoice choose_queues(const Room& room, const std::vector<std::string>& names) {
   QueueChoice choice;
   for (const std::string& name : names) {
     const Queue* const queue = room.Find(name);
     if (queue == nullptr) {
-      choice.complaints.push_back("there is no queue " + plain_text(name));
+      choice.complaints.push_back(filled(_("there is no queue %s"), plain_text(name).c_str()));
     } else if (!room.IsOurs(*queue)) {
-      choice.complaints.push_back("the queue " + plain_text(name) + " is not one of this driver's");
+      choice.complaints.push_back(
+          filled(_("the queue %s is not one of this driver's"), plain_text(name).c_str()));
     } else if (std::find(choice.queues.begin(), choice.queues.end(), queue) ==
                choice.queues.end()) {
       choice.queues.push_back(queue);
@@ -29,7 +34,7 @@ QueueChoice choose_queues(const Room& room, const std::vector<std::string>& name
     }
   }
   if (choice.queues.empty()) {
-    choice.complaints.emplace_back("there is no queue of this driver's");
+    choice.complaints.emplace_back(_("there is no queue of this driver's"));
   }
   return choice;
 }

@@ -10,6 +10,7 @@
 #include <tuple>
 #include <vector>
 
+#include "language/messages.h"
 #include "tools/bundle.h"
 #include "tools/byte_source.h"
 #include "tools/command_line.h"
@@ -27,6 +28,9 @@
 
 namespace tools {
 namespace {
+
+using language::_;
+using language::filled;
 
 struct ReportOptions {
   std::string job;
@@ -154,7 +158,7 @@ int write_report(Scheduler& scheduler, const Room& room, const Subject& subject,
   const Response queue = scheduler.QueueAttributes(subject.queue->name);
   const Response job = scheduler.JobAttributes(subject.job);
   if (queue == nullptr || job == nullptr) {
-    complain("the scheduler does not tell of the job: " + scheduler.Error());
+    complain(filled(_("the scheduler does not tell of the job: %s"), scheduler.Error().c_str()));
     return kExitCannotTell;
   }
   PersonalWords words = words_of_job(job.get(), printers_of(room, *subject.queue));
@@ -162,13 +166,18 @@ int write_report(Scheduler& scheduler, const Room& room, const Subject& subject,
   const PpdText ppd = read_ppd(scheduler, queue_with_ppd(room, *subject.queue));
   const auto told = [&](const std::string& text) { return words.Without(text); };
 
-  std::vector<BundleFile> files = {
-      {"README.txt", readme(subject, !options.stream.empty())},
-      {"versions.txt", versions_text(TQR7_VERSION, text_attribute(queue.get(), "cups-version"))},
-      {"status.txt", told(in_words(condition_of(room, *subject.queue)))},
-      {"queue.txt", told(queue_text(queue.get()))},
-      {"ppd.txt", told(ppd.text)},
-      {"job.txt", told(job_text(job.get(), ppd.options))}};
+  // Whoever looks for the fault reads English.
+  std::vector<BundleFile> files;
+  {
+    const language::English for_others;
+    files = {
+        {"README.txt", readme(subject, !options.stream.empty())},
+        {"versions.txt", versions_text(TQR7_VERSION, text_attribute(queue.get(), "cups-version"))},
+        {"status.txt", told(in_words(condition_of(room, *subject.queue)))},
+        {"queue.txt", told(queue_text(queue.get()))},
+        {"ppd.txt", told(ppd.text)},
+        {"job.txt", told(job_text(job.get(), ppd.options))}};
+  }
   JobLog log(subject.job, words);
   add_log(scheduler, options, log, files);
   if (!add_stream(options, files)) {
@@ -190,18 +199,18 @@ int report(const ReportOptions& options) {
   Scheduler scheduler;
   const std::optional<Room> room = scheduler.Look();
   if (!room) {
-    complain("the scheduler does not answer: " + scheduler.Error());
+    complain(filled(_("the scheduler does not answer: %s"), scheduler.Error().c_str()));
     return kExitCannotTell;
   }
   const int number = options.job.empty() ? 0 : job_number(options.job);
   if (number == 0 && !options.job.empty()) {
-    complain(std::string("\"") + plain_text(options.job) + "\" is not the number of a job");
+    complain(filled(_("\"%s\" is not the number of a job"), plain_text(options.job).c_str()));
     return kExitCannotTell;
   }
   const Subject subject = find_subject(choose_queues(*room, {}).queues, number);
   if (subject.queue == nullptr) {
-    complain(number > 0 ? "no queue of this driver's has a job " + std::to_string(number)
-                        : "no queue of this driver's has had a job");
+    complain(number > 0 ? filled(_("no queue of this driver's has a job %d"), number)
+                        : _("no queue of this driver's has had a job"));
     return kExitCannotTell;
   }
   return write_report(scheduler, *room, subject, options);
@@ -212,13 +221,13 @@ int report(const ReportOptions& options) {
 void add_report(CommandLine& program) {
   const auto options = std::make_shared<ReportOptions>();
   Subcommand command = program.Add(
-      "report", "gather what a bug report needs, without the picture and without names");
-  command.Text("JOB", options->job, "the job, such as 12 or photo-12; without: the last");
-  command.Text("-o,--output", options->output, "the file that is written, a .tar.gz");
+      "report", _("gather what a bug report needs, without the picture and without names"));
+  command.Text("JOB", options->job, _("the job, such as 12 or photo-12; without: the last"));
+  command.Text("-o,--output", options->output, _("the file that is written, a .tar.gz"));
   command.Text("--log", options->log,
-               "the scheduler's error log, where it does not hand it out itself");
+               _("the scheduler's error log, where it does not hand it out itself"));
   command.Text("--stream", options->stream,
-               "a captured command stream, of which the headers are taken");
+               _("a captured command stream, of which the headers are taken"));
   command.Runs([options] { return report(*options); });
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "language/messages.h"
 #include "tools/command_line.h"
 #include "tools/exit_status.h"
 #include "tools/interruption.h"
@@ -20,6 +21,9 @@
 namespace tools {
 namespace {
 
+using language::_;
+using language::filled;
+
 struct ResumeOptions {
   std::vector<std::string> queues;
   bool watch = false;
@@ -31,7 +35,7 @@ int resume_now(const ResumeOptions& options) {
   ResumeActions actions(scheduler, false);
   const std::optional<Room> room = scheduler.Look();
   if (!room) {
-    actions.Complain("the scheduler does not answer: " + scheduler.Error());
+    actions.Complain(filled(_("the scheduler does not answer: %s"), scheduler.Error().c_str()));
     return kExitCannotTell;
   }
   const QueueChoice choice = choose_queues(*room, options.queues);
@@ -42,7 +46,7 @@ int resume_now(const ResumeOptions& options) {
   for (const Queue* const queue : choice.queues) {
     const ResumePlan own = plan_resume(*room, {queue}, {});
     if (!own.HasWork() && own.left.empty()) {
-      actions.Note(queue->name, "runs; nothing to start");
+      actions.Note(queue->name, _("runs; nothing to start"));
     }
     good = good && own.left.empty();
   }
@@ -72,11 +76,11 @@ int keep_running(const ResumeOptions& options) {
 void add_resume(CommandLine& program) {
   const auto options = std::make_shared<ResumeOptions>();
   Subcommand command = program.Add(
-      "resume", "start again what the printer stopped, and nothing that a person stopped");
-  command.Texts("QUEUE", options->queues, "only these queues and classes");
+      "resume", _("start again what the printer stopped, and nothing that a person stopped"));
+  command.Texts("QUEUE", options->queues, _("only these queues and classes"));
   command.Flag("--watch", options->watch,
-               "go on: start it whenever the printer is good again, until interrupted");
-  command.Seconds("--interval", options->interval, "seconds between two looks of --watch");
+               _("go on: start it whenever the printer is good again, until interrupted"));
+  command.Seconds("--interval", options->interval, _("seconds between two looks of --watch"));
   command.Runs(
       [options] { return options->watch ? keep_running(*options) : resume_now(*options); });
 }

@@ -3,9 +3,13 @@
 
 #include <cstdio>
 
+#include "language/messages.h"
 #include "tools/plain_text.h"
 
 namespace tools {
+
+using language::_;
+using language::filled;
 
 bool ResumeActions::IsNew(const std::string& line) {
   return said_.insert(line).second || !onceOnly_;
@@ -35,22 +39,25 @@ bool ResumeActions::Report(const std::string& queue, const std::string& deed, Ou
     std::fflush(stdout);
     return true;
   }
-  const std::string subject = plain_text(queue) + ": not done: " + deed + ": ";
-  Complain(subject + (outcome == Outcome::Forbidden
-                          ? "you have no right to administer the queue (run it as root, or as a "
-                            "member of the scheduler's SystemGroup)"
-                          : scheduler_.Error()));
+  const std::string why =
+      outcome == Outcome::Forbidden
+          ? _("you have no right to administer the queue (run it as root, or as a member of the "
+              "scheduler's SystemGroup)")
+          : scheduler_.Error();
+  // TRANSLATORS: queue, what was to be done ("job 12 started again from its beginning"), why not.
+  Complain(filled(_("%1$s: not done: %2$s: %3$s"), plain_text(queue).c_str(), deed.c_str(),
+                  why.c_str()));
   return false;
 }
 
 bool ResumeActions::Do(const ResumePlan& plan) {
   bool done = true;
   for (const JobToRestart& job : plan.jobs) {
-    const std::string deed = "job " + std::to_string(job.id) + " started again from its beginning";
+    const std::string deed = filled(_("job %d started again from its beginning"), job.id);
     done = Report(job.queue, deed, scheduler_.RestartJob(job.id)) && done;
   }
   for (const QueueToStart& queue : plan.queues) {
-    done = Report(queue.name, "queue started again (" + queue.why + ")",
+    done = Report(queue.name, filled(_("queue started again (%s)"), queue.why.c_str()),
                   scheduler_.StartQueue(queue.name)) &&
            done;
   }
@@ -59,9 +66,10 @@ bool ResumeActions::Do(const ResumePlan& plan) {
 
 void ResumeActions::SayLeft(const ResumePlan& plan) {
   for (const LeftAlone& left : plan.left) {
-    Note(left.queue, (left.job > 0 ? "job " + std::to_string(left.job) + " left alone: "
-                                   : std::string("left alone: ")) +
-                         left.why);
+    Note(left.queue, left.job > 0
+                         ? filled(_("job %1$d left alone: %2$s"), left.job, left.why.c_str())
+                         // TRANSLATORS: a queue is left alone, as it is.
+                         : filled(_("left alone: %s"), left.why.c_str()));
   }
 }
 

@@ -3,10 +3,14 @@
 
 #include <algorithm>
 
+#include "language/messages.h"
 #include "tools/standstill.h"
 
 namespace tools {
 namespace {
+
+using language::_;
+using language::filled;
 
 constexpr double kPauseMost = 60;  // seconds
 
@@ -20,14 +24,16 @@ bool has_spent_paper(const Job& job, const ResumeRules& rules) {
 void plan_job(const Queue& queue, const Job& job, const ResumeRules& rules, ResumePlan& plan) {
   if (rules.unattended && !stopped_by_printer(job)) {
     plan.left.push_back({queue.name, job.id,
-                         "nothing shows that the printer stopped it; `tqr7 resume " + queue.name +
-                             "` starts it all the same"});
+                         filled(_("nothing shows that the printer stopped it; `tqr7 resume %s` "
+                                  "starts it all the same"),
+                                queue.name.c_str())});
     return;
   }
   if (rules.unattended && has_spent_paper(job, rules)) {
     plan.left.push_back({queue.name, job.id,
-                         "sheets of it came out again, and it failed again; `tqr7 resume " +
-                             queue.name + "` prints all of it again"});
+                         filled(_("sheets of it came out again, and it failed again; `tqr7 resume "
+                                  "%s` prints all of it again"),
+                                queue.name.c_str())});
     return;
   }
   const bool known = std::any_of(plan.jobs.begin(), plan.jobs.end(),
@@ -52,8 +58,9 @@ void plan_queue(const Room& room, const Queue& queue, const ResumeRules& rules, 
   const Cause cause = cause_of_standstill(room, queue);
   if (cause.kind == Standstill::ByPerson) {
     plan.left.push_back({queue.name, 0,
-                         "a person stopped it, or a program that is not this driver; `cupsenable " +
-                             queue.name + "` starts it"});
+                         filled(_("a person stopped it, or a program that is not this driver; "
+                                  "`cupsenable %s` starts it"),
+                                queue.name.c_str())});
     return;
   }
   for (const Job* const job : jobs_in(queue, JobState::Stopped)) {
@@ -61,11 +68,13 @@ void plan_queue(const Room& room, const Queue& queue, const ResumeRules& rules, 
   }
   if (cause.kind == Standstill::Refused) {
     plan_cause(room, cause, rules, plan);
-    plan.queues.push_back({queue.name, "the driver had stopped it: " +
-                                           (cause.word.empty() ? "refused sheet" : cause.word)});
+    plan.queues.push_back(
+        {queue.name, cause.word.empty()
+                         ? _("the driver had stopped it: refused sheet")
+                         : filled(_("the driver had stopped it: %s"), cause.word.c_str())});
   } else if (cause.kind == Standstill::Policy) {
     plan.queues.push_back(
-        {queue.name, "its error policy had stopped it: the printer could not be reached"});
+        {queue.name, _("its error policy had stopped it: the printer could not be reached")});
   }
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "language/messages.h"
 #include "tools/condition.h"
 #include "tools/exit_status.h"
 #include "tools/plain_text.h"
@@ -11,6 +12,9 @@
 #include "tools/status_question.h"
 
 namespace tools {
+
+using language::_;
+using language::filled;
 
 ResumeWatch::ResumeWatch(Scheduler& scheduler, ResumeActions& actions,
                          const Interruption& interruption, std::vector<std::string> names,
@@ -26,7 +30,7 @@ ResumeWatch::ResumeWatch(Scheduler& scheduler, ResumeActions& actions,
 int ResumeWatch::Step() {
   const std::optional<Room> room = scheduler_.Look();
   if (!room) {
-    actions_.Complain("the scheduler does not answer: " + scheduler_.Error());
+    actions_.Complain(filled(_("the scheduler does not answer: %s"), scheduler_.Error().c_str()));
     return kExitCannotTell;
   }
   const QueueChoice choice = choose_queues(*room, names_);
@@ -65,7 +69,7 @@ void ResumeWatch::StepQueue(const Room& room, const Queue& queue) {
     return;
   }
   if (PrinterStillInError(room, queue)) {
-    actions_.Note(queue.name, "waits: the printer is still in error");
+    actions_.Note(queue.name, _("waits: the printer is still in error"));
     return;
   }
   Attempt(plan, track);
@@ -104,7 +108,8 @@ bool ResumeWatch::Ask(const Queue& queue) {
   }
   const std::string why_not = ask_printer(scheduler_, queue, interruption_);
   if (!why_not.empty()) {
-    actions_.Complain("the printer of " + plain_text(queue.name) + " was not asked: " + why_not);
+    actions_.Complain(filled(_("the printer of %s was not asked: %s"),
+                             plain_text(queue.name).c_str(), why_not.c_str()));
     return false;
   }
   const std::optional<Room> now = scheduler_.Look();

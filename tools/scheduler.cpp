@@ -6,6 +6,7 @@
 
 #include <array>
 
+#include "language/messages.h"
 #include "tools/plain_text.h"
 #include "tools/queue_reading.h"
 
@@ -117,7 +118,7 @@ http_t* Scheduler::Connection() {
 Outcome Scheduler::Remember(ipp_status_t status, const char* words) {
   const Outcome outcome = outcome_of(status);
   if (outcome != Outcome::Done) {
-    error_ = plain_text(words != nullptr ? words : "no answer");
+    error_ = plain_text(words != nullptr ? words : language::_("no answer"));
   }
   return outcome;
 }

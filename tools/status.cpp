@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "language/messages.h"
 #include "tools/command_line.h"
 #include "tools/condition.h"
 #include "tools/exit_status.h"
@@ -18,6 +19,9 @@
 
 namespace tools {
 namespace {
+
+using language::_;
+using language::filled;
 
 struct StatusOptions {
   std::vector<std::string> queues;
@@ -44,6 +48,7 @@ Finding describe(const Room& room, const StatusOptions& options) {
   Finding finding;
   const QueueChoice choice = choose_queues(room, options.queues);
   std::vector<Condition> conditions;
+  const language::English for_programs(options.json);
   bool good = true;
   for (const Queue* const queue : choice.queues) {
     conditions.push_back(condition_of(room, *queue));
@@ -67,7 +72,7 @@ Finding look(Scheduler& scheduler, const StatusOptions& options) {
     return describe(*room, options);
   }
   Finding finding;
-  complain(finding, "the scheduler does not answer: " + scheduler.Error());
+  complain(finding, filled(_("the scheduler does not answer: %s"), scheduler.Error().c_str()));
   return finding;
 }
 
@@ -89,8 +94,9 @@ void ask_queues(Scheduler& scheduler, const StatusOptions& options,
     }
     const std::string why_not = ask_printer(scheduler, *queue, interruption);
     if (!why_not.empty()) {
-      std::fprintf(stderr, "tqr7 status: the printer of %s was not asked: %s\n",
-                   plain_text(queue->name).c_str(), why_not.c_str());
+      const std::string sentence = filled(_("the printer of %s was not asked: %s"),
+                                          plain_text(queue->name).c_str(), why_not.c_str());
+      std::fprintf(stderr, "tqr7 status: %s\n", sentence.c_str());
     }
   }
 }
@@ -118,13 +124,13 @@ int show_status(const StatusOptions& options) {
 void add_status(CommandLine& program) {
   const auto options = std::make_shared<StatusOptions>();
   Subcommand command =
-      program.Add("status", "say what stands with each queue, and what to do about it");
-  command.Texts("QUEUE", options->queues, "only these queues and classes");
+      program.Add("status", _("say what stands with each queue, and what to do about it"));
+  command.Texts("QUEUE", options->queues, _("only these queues and classes"));
   command.Flag("--watch", options->watch,
-               "say it again whenever something changes, until interrupted");
-  command.Seconds("--interval", options->interval, "seconds between two looks of --watch");
-  command.Flag("--json", options->json, "for programs; with --watch a line each time");
-  command.Flag("--ask", options->ask, "have each printer asked for its state first");
+               _("say it again whenever something changes, until interrupted"));
+  command.Seconds("--interval", options->interval, _("seconds between two looks of --watch"));
+  command.Flag("--json", options->json, _("for programs; with --watch a line each time"));
+  command.Flag("--ask", options->ask, _("have each printer asked for its state first"));
   command.Runs([options] { return show_status(*options); });
 }
 

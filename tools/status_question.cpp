@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tools/status_question.h"
 
+#include "language/messages.h"
+
 namespace tools {
 namespace {
+
+using language::_;
 
 constexpr double kPoll = 0.1;    // seconds between two looks at the question's job
 constexpr int kPollsMost = 300;  // half a minute: a job in print may be in front
@@ -21,10 +25,10 @@ bool can_be_asked(const Queue& queue) {
 std::string ask_printer(Scheduler& scheduler, const Queue& queue,
                         const Interruption& interruption) {
   if (queue.state == QueueState::Stopped) {
-    return "a stopped queue asks nothing";
+    return _("a stopped queue asks nothing");
   }
   if (!can_be_asked(queue)) {
-    return "the queue has no command that asks the printer";
+    return _("the queue has no command that asks the printer");
   }
   const int job = scheduler.AskForStatus(queue.name);
   if (job == 0) {
@@ -45,7 +49,7 @@ std::string ask_printer(Scheduler& scheduler, const Queue& queue,
     }
   }
   scheduler.CancelJob(job);
-  return "the question was not answered in time";
+  return _("the question was not answered in time");
 }
 
 }  // namespace tools

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <exception>
 
+#include "language/messages.h"
 #include "tools/command_line.h"
 #include "tools/exit_status.h"
 #include "tools/subcommands.h"
@@ -13,7 +14,8 @@ namespace {
 int run(int argc, char** argv) {
   tools::CommandLine program(
       "tqr7", TQR7_VERSION,
-      "Looks after TQR7 photo printers: their queues, their errors, their print streams");
+      language::_(
+          "Looks after TQR7 photo printers: their queues, their errors, their print streams"));
   tools::add_inspect(program);
   tools::add_proof(program);
   tools::add_check(program);
@@ -28,6 +30,7 @@ int run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
   try {
+    language::begin();
     return run(argc, argv);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "tqr7: %s\n", error.what());
