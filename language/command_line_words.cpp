@@ -26,7 +26,6 @@ class Help : public CLI::Formatter {
     label("REQUIRED", _("REQUIRED"));
     label("Excludes", _("Excludes"));
     label("TEXT", _("TEXT"));
-    label("FLOAT", _("FLOAT"));
   }
 
   std::string make_group(std::string group, bool is_positional,
