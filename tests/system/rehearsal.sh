@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: Apache-2.0
-# The rehearsal that the README tells: an error is found, understood, cleared, and the photo printed,
+# The rehearsal that the docs tell: an error is found, understood, cleared, and the photo printed,
 # by the commands as they stand there.
 # shellcheck source=tests/system/system_test.sh
 . "$(dirname "${BASH_SOURCE[0]}")/system_test.sh"
@@ -8,13 +8,13 @@ scheduler_stop
 
 root=$tests/../..
 
-# The block of this number below the README's heading.
+# The block of this number below the heading of docs/when-it-does-not-print.md.
 block() {
   awk -v wanted="$1" '
-    /^### Rehearse it$/ { below = 1 }
+    /^## Rehearse it$/ { below = 1 }
     below && /^#+ / && !/Rehearse it/ { exit }
     below && /^```/ { ++fences; next }
-    fences == 2 * wanted - 1' "$root/README.md"
+    fences == 2 * wanted - 1' "$root/docs/when-it-does-not-print.md"
 }
 
 # A person waits until something has happened before going on.
@@ -22,7 +22,7 @@ commands=$(block 2 | sed -e "s/^exit$//" \
   -e '/^lp /a until lpstat -l -o photo | grep -q completed-with-errors; do sleep 0.2; done' \
   -e '/^tqr7 resume/a until lpstat -W completed -o | grep -q photo-1; do sleep 0.2; done')
 start=$(block 1)
-expect_equal 'how the README starts' "./rehearse.sh --fault 'status 0x2665'" "$start"
+expect_equal 'how the page starts' "./rehearse.sh --fault 'status 0x2665'" "$start"
 said=$(cd "$work" && export SCHEDULER_FILTER_PRELOAD &&
   timeout 60 "$root/rehearse.sh" --fault 'status 0x2665' -c "$commands" 2>&1) ||
   fail "the rehearsal ends with $?"
