@@ -13,6 +13,8 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
 photo='' size=RQ_10x15 finish=Gloss output=$PWD/prints profile='' compare=''
 lp_options=() printer_options=()
+# A build folder that is up to date, if there is one; otherwise this builds.
+build=${TQR7_BUILD:-}
 
 size_names() {
   sed -n 's/^\*\{0,1\}CustomMedia "\(RQ_[^/]*\)\/.*/\1/p' "$here/ppd/tqr7.drv"
@@ -120,7 +122,8 @@ add_scaling() {
   esac
 }
 
-build() {
+build_all() {
+  build=$here/build/release
   build_quietly "$here" demo-build.log tqr7_module tqr7-printer-sim tqr7.ppd sample-photo \
     job-state compare-prints || exit 1
 }
@@ -155,7 +158,7 @@ explain_failure() {
   local reason words
   echo "The job is ${state:-lost}." >&2
   for reason in $(lpstat -l -p TQR7 | sed -n 's/^[ \t]*Alerts: //p' | tr ',' ' '); do
-    words=$(sed -n "s|^\*cupsIPPReason $reason/\([^:]*\):.*|\1|p" "$here/build/release/tqr7.ppd")
+    words=$(sed -n "s|^\*cupsIPPReason $reason/\([^:]*\):.*|\1|p" "$build/tqr7.ppd")
     echo "  $reason${words:+: $words}" >&2
   done
   echo "The last lines of the scheduler's log:" >&2
@@ -171,7 +174,7 @@ compare_with() {
     "$sheets/sheets.txt" | head -n 1)
   [ "$size" != RQ_5x15x2_2 ] || area='1852 616 0 616'
   # shellcheck disable=SC2086  # four numbers
-  if "$here/build/release/compare-prints" "$photo" "$sheet" "$target" $area; then
+  if "$build/compare-prints" "$photo" "$sheet" "$target" $area; then
     echo "Photo and sheet, beside each other, are in $target"
   else
     echo "Photo and sheet cannot be shown beside each other." >&2
@@ -200,7 +203,7 @@ keep_sheets() {
 add_profile() {
   case " ${printer_options[*]} " in
     *' --profile'* | *' --device-values '*) ;;
-    *) printer_options+=(--profile "${profile:-$here/build/release/tqr7.icc}") ;;
+    *) printer_options+=(--profile "${profile:-$build/tqr7.icc}") ;;
   esac
 }
 
@@ -208,9 +211,9 @@ print_photo() {
   local request job
   sheets=$(mktemp -d /tmp/tqr7-sheets.XXXXXX) || fail "no room for the sheet in /tmp"
   add_profile
-  printer_start "$here/build/release" "$sheets" "${printer_options[@]}" ||
+  printer_start "$build" "$sheets" "${printer_options[@]}" ||
     fail "no simulated printer"
-  scheduler_start "$here/build/release" || fail "no private scheduler"
+  scheduler_start "$build" || fail "no private scheduler"
   if [ -n "$profile" ]; then
     install -m 644 "$profile" "$SCHEDULER_DIR/filter/tqr7.icc" || fail "no profile"
   fi
@@ -235,8 +238,8 @@ print_photo() {
 read_arguments "$@"
 [ -z "$photo" ] || check_photo
 add_scaling
-build
-photo=${photo:-$here/build/release/sample-photo.jpg}
+[ -n "$build" ] || build_all
+photo=${photo:-$build/sample-photo.jpg}
 trap stop_all EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM HUP

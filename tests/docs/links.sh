@@ -51,7 +51,7 @@ for page in "${pages[@]}"; do
     file=${file:-$page}
     if [ ! -e "$file" ]; then
       fail "$page: no file $target"
-    elif [[ $target = *#* ]] && ! anchors_of "$file" | grep -qxF -- "${target#*#}"; then
+    elif [[ $target = *#* ]] && ! anchors_of "$file" | grep -xF -- "${target#*#}" >/dev/null; then
       fail "$page: no heading for $target"
     fi
   done < <(targets_of "$page")

@@ -8,20 +8,19 @@ scheduler_stop
 
 root=$tests/../..
 
-# The block of this number below the heading of docs/when-it-does-not-print.md.
+# The block of docs/when-it-does-not-print.md that is marked with the name.
 block() {
-  awk -v wanted="$1" '
-    /^## Rehearse it$/ { below = 1 }
-    below && /^#+ / && !/Rehearse it/ { exit }
-    below && /^```/ { ++fences; next }
-    fences == 2 * wanted - 1' "$root/docs/when-it-does-not-print.md"
+  awk -v mark="<!-- test: $1 -->" '
+    $0 == mark { marked = 1; next }
+    marked && /^```/ { if (inside) exit; inside = 1; next }
+    inside' "$root/docs/when-it-does-not-print.md"
 }
 
 # A person waits until something has happened before going on.
-commands=$(block 2 | sed -e "s/^exit$//" \
+commands=$(block rehearse | sed -e "s/^exit$//" \
   -e '/^lp /a until lpstat -l -o photo | grep -q completed-with-errors; do sleep 0.2; done' \
   -e '/^tqr7 resume/a until lpstat -W completed -o | grep -q photo-1; do sleep 0.2; done')
-start=$(block 1)
+start=$(block start)
 expect_equal 'how the page starts' "./rehearse.sh --fault 'status 0x2665'" "$start"
 said=$(cd "$work" && export SCHEDULER_FILTER_PRELOAD &&
   timeout 60 "$root/rehearse.sh" --fault 'status 0x2665' -c "$commands" 2>&1) ||
