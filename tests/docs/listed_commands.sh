@@ -50,9 +50,27 @@ check_row() {
       marked_block "$page" "$name" | grep -xF -- "$command" >/dev/null ||
         fail "$page: the block $name does not have: $command"
       ;;
+    'section '*)
+      file=${how##* in } name=${how#section } name=${name% in *}
+      file_is_run "$file" || fail "$page: no test and no continuous integration runs $file"
+      if ! grep -qF "$page" "$file" || ! grep -qE "'${name}['#]" "$file"; then
+        fail "$page: $file does not run what stands below \"$name\""
+      fi
+      section_commands "$page" "$name" | grep -xF -- "$command" >/dev/null ||
+        fail "$page: below \"$name\" there is not: $command"
+      ;;
+    'as in '*)
+      commands_of_page "${how#as in }" | grep -xF -- "$command" >/dev/null ||
+        fail "$page: ${how#as in } does not have: $command"
+      ;;
     ci) [ -x "$command" ] || fail "$page: no $command" ;;
     'nowhere: '*) nowhere=$((nowhere + 1)) ;;
   esac
+}
+
+# The commands below a heading.
+section_commands() {
+  commands_of_page <(awk -v heading="## $2" '/^## / { inside = ($0 == heading) } inside' "$1") md
 }
 
 # The commands of the block that is marked so.

@@ -126,7 +126,7 @@ follow_row() {
       PRINTER_PID=$PRINTER_PID bash -c "$command" || fail "meanwhile: $command"
       return
       ;;
-    printer | 'in '* | 'block '* | 'nowhere: '* | ci) return ;;
+    printer | ci | 'in '* | 'block '* | 'section '* | 'as in '* | 'nowhere: '*) return ;;
     *) fail "the list does not know \"$how\"" ;;
   esac
   given=$((given + 1))
