@@ -9,7 +9,7 @@ TQR7_PACKAGES=(
   liblcms2-dev libhwy-dev
   nlohmann-json3-dev libarchive-dev
   libgtest-dev libgmock-dev cups-ppdc locales strace tzdata valgrind
-  cups cups-client cups-filters ghostscript
+  cups cups-client cups-filters cups-ipp-utils ghostscript
 )
 
 # What the fuzz targets need besides.

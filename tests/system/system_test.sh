@@ -130,6 +130,12 @@ add_printer() {
   scheduler_add_queue "$name" "$(printer_uri "$PRINTER_PORT")" || exit 1
 }
 
+# A queue as a client of IPP addresses it: through the scheduler's socket, whose path stands in the
+# place of a host's name.
+queue_address() {
+  echo "ipp://${CUPS_SERVER//\//%2F}/printers/$1"
+}
+
 # A cable to the printer at a port that fails as told: its end for queues is RELAY_PORT. A second one
 # needs a RELAY_LOG of its own.
 relay_start() {
