@@ -28,6 +28,8 @@ constexpr const char* kTone = "-128 -112 -96 -80 -64 -48 -32 -16 0 16 32 48 64 8
 constexpr OptionRow kOptions[] = {
     {"ColorModel", "RGB", "RGB"},
     {"Resolution", "300dpi", "300dpi"},
+    {"MediaType", "Photographic", "Photographic"},
+    {"InputSlot", "Auto", "Auto"},
     {"RQPrintFinish", "Gloss Matte", "Gloss"},
     {"RQPrintMode", "Auto Fast", "Auto"},
     {"RQMarginCutOff", "False True", "False"},

@@ -20,12 +20,12 @@ double dots(double points) {
 
 struct SizeRow {
   const char* name;
-  int sheet_width;   // dots
-  int sheet_height;  // dots
-  int image_width;   // dots
-  int image_height;  // dots
-  int border_left;   // dots
-  int border_top;    // dots
+  double sheet_width;   // dots
+  double sheet_height;  // dots
+  double image_width;   // dots
+  double image_height;  // dots
+  double border_left;   // dots
+  double border_top;    // dots
 };
 
 void PrintTo(const SizeRow& row, std::ostream* out) {
@@ -40,8 +40,9 @@ constexpr SizeRow kSizes[] = {
     {"RQ_5x15", 1852, 631, 1852, 631, 0, 0},
     {"RQ_15x15", 1852, 1833, 1852, 1833, 0, 0},
     {"RQ_13x13", 1550, 1533, 1550, 1533, 0, 0},
-    {"RQ_5x15x2_1", 1852, 1232, 1852, 1232, 0, 0},
-    {"RQ_5x15x2_2", 1852, 616, 1852, 616, 0, 0},
+    // Five dots beyond each edge of the sheet, and a sixth of a dot against rounding down.
+    {"RQ_5x15x2_1", 1862.1667, 1232, 1852.1667, 1232, 5, 0},
+    {"RQ_5x15x2_2", 1862.1667, 616, 1852.1667, 616, 5, 0},
     {"RQ_9x13_WB", 1550, 1082, 1382, 934, 84, 74},
     {"RQ_10x15_WB", 1852, 1232, 1684, 1084, 84, 74},
     {"RQ_13x18_WB", 1550, 2134, 1382, 1986, 84, 74},
