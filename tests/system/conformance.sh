@@ -15,7 +15,7 @@ page=$(cd "$tests/../.." && pwd)/docs/driverless.md
 suites=(ipp-1.1 ipp-2.0 ipp-everywhere)
 
 # The suites send documents that lie beside them, and no Debian package has those. The last suite ends
-# in print jobs of a collection of samples: tests/system/ipp_documents.sh prints such rasters instead.
+# in print jobs of a collection of samples: ipp_documents.sh prints such rasters instead.
 copy_suites() {
   local suite
   for suite in "${suites[@]}"; do
@@ -116,6 +116,7 @@ page_with_tables() {
     }' "$page"
 }
 
+# shellcheck disable=SC2317  # wait_until calls it
 none_waiting() {
   [ -z "$(lpstat -W not-completed -o)" ]
 }
