@@ -8,7 +8,7 @@ TQR7_PACKAGES=(
   g++ cmake ninja-build libcups2-dev libcupsimage2-dev libpng-dev libjpeg-dev libcli11-dev
   liblcms2-dev libhwy-dev
   nlohmann-json3-dev libarchive-dev
-  libgtest-dev libgmock-dev cups-ppdc locales strace tzdata valgrind
+  libgtest-dev libgmock-dev cups-ppdc gettext locales strace tzdata valgrind
   cups cups-client cups-filters cups-ipp-utils ghostscript
 )
 
