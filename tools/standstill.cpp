@@ -3,8 +3,13 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
+#include <string>
 #include <string_view>
 #include <tuple>
+#include <vector>
+
+#include "tools/scheduler_words.h"
 
 namespace tools {
 namespace {
@@ -38,12 +43,24 @@ constexpr std::array<std::string_view, 5> kWordsOfFailedBackends = {
     "Unable to locate printer",
 };
 
+// Whoever sent the job in another language has the backend speak it.
+std::string told_in_english(const std::string& message) {
+  static const std::map<std::string, std::string> translations = [] {
+    std::vector<std::string_view> sentences(kWordsOfPrograms.begin(), kWordsOfPrograms.end());
+    sentences.insert(sentences.end(), kWordsOfFailedBackends.begin(), kWordsOfFailedBackends.end());
+    sentences.emplace_back("Unable to locate printer.");
+    return read_translations(folder_of_catalogues(), sentences);
+  }();
+  return in_english(message, translations);
+}
+
 bool is_progress(std::string_view message) {
   return (message.starts_with("Printing page ") && message.ends_with("% complete...")) ||
          message.starts_with("Formatting page ") || message.starts_with("Starting page ");
 }
 
-bool is_of_programs(const std::string& message) {
+bool is_of_programs(const std::string& said) {
+  const std::string message = told_in_english(said);
   return std::find(kWordsOfPrograms.begin(), kWordsOfPrograms.end(), message) !=
              kWordsOfPrograms.end() ||
          message.starts_with("Unable to write print data") ||
@@ -70,7 +87,8 @@ bool shows_refusal_put_back(const Queue& queue, const Job& job) {
          !refusal_word(queue.message).empty() && queue.message == job.printerMessage;
 }
 
-bool speaks_of_failed_backend(const std::string& message) {
+bool speaks_of_failed_backend(const std::string& said) {
+  const std::string message = told_in_english(said);
   return std::any_of(kWordsOfFailedBackends.begin(), kWordsOfFailedBackends.end(),
                      [&](std::string_view words) { return message.starts_with(words); });
 }

@@ -16,8 +16,8 @@
 //   reason and a later complaint of another program.
 // - A person's stop of a queue at rest, also of one that the driver has paused, sets the queue's
 //   message to "Paused" or to the person's own words. One of a queue that prints leaves an empty
-//   message. So the message must be one that a program of a print job writes. A person who says
-//   just that cannot be told apart.
+//   message. So the message must be one that a program of a print job writes, in whatever language
+//   it was told to speak. A person who says just that cannot be told apart.
 #ifndef TQR7_TOOLS_STANDSTILL_H
 #define TQR7_TOOLS_STANDSTILL_H
 
