@@ -52,8 +52,8 @@ sizes='
 15680  5342   0   0
 15680 15519   0   0
 13123 12979   0   0
-15766 10431  42   0
-15766  5215  42   0
+15768 10431  44   0
+15768  5215  44   0
 13123  9161 711 627
 15680 10431 711 627
 13123 18068 711 627
@@ -76,24 +76,40 @@ expect_told media-col-default "$(medium 15680 10431 0 0)"
 expect_told media-col-ready "$(medium 15680 10431 0 0),$(medium 15680 10431 711 627)"
 expect_told media-default custom_156.8x104.31mm_156.8x104.31mm
 expect_told media-ready custom_156.8x104.31mm_156.8x104.31mm,om_rq-10x-15-wb_156.8x104.31mm
-expect_told media-left-margin-supported 0,42,711
-expect_told media-right-margin-supported 0,42,711
+expect_told media-left-margin-supported 0,44,711
+expect_told media-right-margin-supported 0,44,711
 expect_told media-top-margin-supported 0,627
 expect_told media-bottom-margin-supported 0,627
 
 picture "$work/photo.jpg" 1852 1232
 none='enum finishings 3'
 
+# Printed meanwhile on several queues: which sheet of which queue is for what, and what it must be.
+queues=(north east south west)
+for queue in "${queues[@]}"; do
+  add_printer "$queue"
+done
+asked=() jobs=() expected=()
 # Prints with the attributes behind; the sheet as the printer's log names it must be the one said, from
 # its size to its mode.
 expect_sheet_of() {
-  local expected=$1
+  local queue=${queues[${#jobs[@]} % ${#queues[@]}]}
+  expected+=("$1")
   shift
-  ipp_print photo "$work/photo.jpg" image/jpeg "$@"
-  expect_completed "$JOB"
-  expect_equal "the sheet for $*" "$expected" \
-    "$(sed -n 's/.* printed to [^ ]*: \(.*, mode [a-z]*\), .*/\1/p' "$work/photo/printer.log" |
-      tail -n 1)"
+  asked+=("$*")
+  ipp_print "$queue" "$work/photo.jpg" image/jpeg "$@"
+  jobs+=("$JOB")
+}
+
+check_sheets() {
+  local i queue number
+  for ((i = 0; i < ${#jobs[@]}; ++i)); do
+    queue=${queues[i % ${#queues[@]}]}
+    number=$(printf %04d $((i / ${#queues[@]} + 1)))
+    expect_completed "${jobs[i]}"
+    expect_equal "the sheet for ${asked[i]}" "${expected[i]}" \
+      "$(sed -n "s/.*sheet-$number.png: \(.*, mode [a-z]*\), .*/\1/p" "$work/$queue/printer.log")"
+  done
 }
 
 default='1852 x 1232, gloss, image 1852 x 1232 at 0, 0, one print, mode auto'
@@ -103,6 +119,12 @@ expect_sheet_of '1550 x 2134, gloss, image 1550 x 2134 at 0, 0, one print, mode 
   "$(media_col 13123 18068 0 0 0 0)"
 expect_sheet_of '1550 x 2134, gloss, image 1382 x 1986 at 84, 74, one print, mode auto' \
   "$(media_col 13123 18068 711 627 711 627)"
+expect_sheet_of '1852 x 1232, gloss, image 1684 x 1084 at 84, 74, one print, mode auto' \
+  'collection media-col { MEMBER collection media-size
+    { MEMBER integer x-dimension 15680 MEMBER integer y-dimension 10431 }
+    MEMBER integer media-left-margin 711 MEMBER integer media-right-margin 711
+    MEMBER integer media-top-margin 627 MEMBER integer media-bottom-margin 627
+    MEMBER keyword media-type photographic MEMBER keyword media-source auto }'
 # Other margins choose the nearer of the two, and none the sheet without a border.
 expect_sheet_of '1550 x 2134, gloss, image 1382 x 1986 at 84, 74, one print, mode auto' \
   "$(media_col 13123 18068 500 500 500 500)"
@@ -118,8 +140,8 @@ expect_sheet_of '1852 x 1232, gloss, image 1684 x 1084 at 84, 74, one print, mod
   'keyword media om_rq-10x-15-wb_156.8x104.31mm'
 # Two prints on a sheet are told from the sheets of their size by their margins.
 two='1852 x 1232, gloss, image 1852 x 1232 at 0, 0, two prints, split at line 616, mode auto'
-expect_sheet_of "$two" "$(media_col 15766 10431 42 0 42 0)"
-expect_sheet_of "$two" "$(media_col 15766 5215 42 0 42 0)" 'integer copies 2'
+expect_sheet_of "$two" "$(media_col 15768 10431 44 0 44 0)"
+expect_sheet_of "$two" "$(media_col 15768 5215 44 0 44 0)" 'integer copies 2'
 expect_sheet_of '1852 x 631, gloss, image 1852 x 631 at 0, 0, one print, mode auto' \
   "$(media_col 15680 5342 0 0 0 0)"
 # Papers that the printer does not have become the queue's own size.
@@ -134,7 +156,7 @@ expect_sheet_of '1852 x 1232, gloss, image 1852 x 1232 at 0, 0, one print, mode 
 expect_sheet_of "$default" 'enum print-quality 4'
 expect_sheet_of '1852 x 1232, matte, image 1852 x 1232 at 0, 0, one print, mode auto' \
   'enum print-quality 5' 'enum finishings 15'
-
+check_sheets
 expect_no_protocol_errors
 
 # A printer in error: what is wrong is a reason that clients see, and the job is not lost.

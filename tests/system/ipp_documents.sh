@@ -28,18 +28,20 @@ raster urf "$work/broad.pdf" "$work/broad.urf"
 
 borderless=$(media_col 15680 10431 0 0 0 0)
 bordered=$(media_col 15680 10431 711 627 711 627)
-two_pages=$(media_col 15766 5215 42 0 42 0)
+two_pages=$(media_col 15768 5215 44 0 44 0)
 fill='keyword print-scaling fill'
 fit='keyword print-scaling fit'
 
 declare -A format=([jpg]=image/jpeg [pdf]=application/pdf [pwg]=image/pwg-raster [urf]=image/urf)
-jobs=()
+jobs=() queue_options=()
 # Prints a file on a queue of its own, in the picture's own colours.
 print_on() {
   local queue=$1 file=$2
   shift 2
+  # No attributes at all would not be a group of them.
+  [ $# -gt 0 ] || set -- 'enum finishings 3'
   add_printer "$queue" --device-values
-  PATH=$PATH:/usr/sbin lpadmin -p "$queue" "${plain[@]}" 2>>"$work/lpadmin.said"
+  PATH=$PATH:/usr/sbin lpadmin -p "$queue" "${plain[@]}" "${queue_options[@]}" 2>>"$work/lpadmin.said"
   "$send" "$queue" "$work/$file" "${format[${file##*.}]}" "$@"
   jobs+=("$JOB")
 }
@@ -59,6 +61,10 @@ print_on urf_borderless photo.urf "$borderless"
 print_on urf_bordered photo.urf "$bordered"
 print_on urf_filled broad.urf "$borderless" "$fill"
 print_on urf_fitted broad.urf "$borderless" "$fit"
+queue_options=(-o print-scaling-default=fill)
+print_on pwg_by_default upright.pwg
+print_on jpeg_by_default upright.jpg "$borderless"
+queue_options=()
 send=ipp_create_and_send
 print_on in_two_requests photo.jpg "$borderless" "$fill"
 
@@ -85,7 +91,7 @@ done
 # A photo upright lies on the sheet with its top at the left.
 read -ra turned <<<"$(quarters_of 0 0 1852 1232 50965a d2b45a c85a50 465a96)"
 turned+=(4 4 50965a 1847 4 d2b45a 4 1227 c85a50 1847 1227 465a96)
-for queue in jpeg_upright pwg_filled; do
+for queue in jpeg_upright pwg_filled pwg_by_default jpeg_by_default; do
   expect_sheet "$work/$queue/sheet-0001.png" 1852 1232 "${turned[@]}"
 done
 
