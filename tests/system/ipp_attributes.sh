@@ -159,6 +159,20 @@ expect_sheet_of '1852 x 1232, matte, image 1852 x 1232 at 0, 0, one print, mode 
 check_sheets
 expect_no_protocol_errors
 
+# A queue that is set to a size and to matte stays so for clients that name neither, and for those that
+# name a paper which the printer does not have.
+add_printer kiosk
+PATH=$PATH:/usr/sbin lpadmin -p kiosk -o PageSize=RQ_15x20 -o RQPrintFinish=Matte 2>"$work/lpadmin.said"
+queue_attributes kiosk >"$work/told"
+expect_told media-col-default "$(medium 15680 20608 0 0)"
+queues=(kiosk) asked=() jobs=() expected=()
+kiosk='1852 x 2434, matte, image 1852 x 2434 at 0, 0, one print, mode auto'
+expect_sheet_of "$kiosk" "$none"
+expect_sheet_of "$kiosk" 'keyword media na_index-4x6_4x6in' 'enum print-quality 5'
+expect_sheet_of '1852 x 2434, gloss, image 1852 x 2434 at 0, 0, one print, mode auto' \
+  'keyword RQPrintFinish Gloss'
+check_sheets
+
 # A printer in error: what is wrong is a reason that clients see, and the job is not lost.
 add_printer broken --status 0x2665
 ipp_print broken "$work/photo.jpg" image/jpeg "$none"
