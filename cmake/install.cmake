@@ -12,7 +12,7 @@
 include(GNUInstallDirs)
 
 # The module directory: all of it in this list. The filter finds the rest beside itself.
-set(TQR7_MODULE_PROGRAMS rastertoprinter commandtoprinter)  # targets
+set(TQR7_MODULE_PROGRAMS rastertoprinter commandtoprinter phototopage rastertopage)  # targets
 set(TQR7_MODULE_LIBRARIES TQR7mervale)                      # targets
 set(TQR7_MODULE_FILES tqr7.icc)                             # targets and files at the build's top
 

@@ -6,7 +6,7 @@
 # What the build needs, then what printing through a scheduler needs.
 TQR7_PACKAGES=(
   g++ cmake ninja-build libcups2-dev libcupsimage2-dev libpng-dev libjpeg-dev libcli11-dev
-  liblcms2-dev libhwy-dev
+  liblcms2-dev libhwy-dev libzimg-dev
   nlohmann-json3-dev libarchive-dev
   libgtest-dev libgmock-dev cups-ppdc gettext locales strace tzdata valgrind
   cups cups-client cups-filters cups-ipp-utils ghostscript

@@ -85,7 +85,7 @@ scheduler_copy_programs() {
     done
   fi
   chmod 755 "$filter"/*
-  sed "s|^\(\*cupsFilter: \"[^ ]* 0 \).*/\([a-z]*\)\"|\1$filter/\2\"|" \
+  sed "s|^\(\*cups[PreFilt]*: \"[^ ]* 0 \).*/\([a-z]*\)\"|\1$filter/\2\"|" \
     "$build/tqr7.ppd" >"$SCHEDULER_DIR/tqr7.ppd"
 }
 

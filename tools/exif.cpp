@@ -19,7 +19,12 @@ constexpr std::size_t kOffsetValue = 8;  ///< in an entry
 constexpr std::uint32_t kTagOrientation = 0x0112;
 constexpr std::uint32_t kTagAcross = 0x011A;
 constexpr std::uint32_t kTagDown = 0x011B;
+constexpr std::uint32_t kTagExif = 0x8769;      ///< place of the camera's own directory
+constexpr std::uint32_t kTagExchange = 0xA005;  ///< in that: place of the one on exchange
+constexpr std::uint32_t kTagExchangeIndex = 1;  ///< in that
+constexpr std::uint32_t kTypeText = 2;
 constexpr std::uint32_t kTypeShort = 3;
+constexpr std::uint32_t kTypeLong = 4;
 constexpr std::uint32_t kTypeFraction = 5;
 constexpr int kLastOrientation = 8;
 
@@ -45,26 +50,37 @@ class Tiff {
   bool littleEndian_;
 };
 
-bool is_field(const Tiff& tiff, std::size_t entry, std::uint32_t tag, std::uint32_t type) {
-  return tiff.Number(entry, 2) == tag && tiff.Number(entry + kOffsetType, 2) == type &&
-         tiff.Number(entry + kOffsetCount, 4) == 1U;
+struct Field {
+  std::uint32_t tag;
+  std::uint32_t type;
+  std::uint32_t count = 1;
+};
+
+bool is_field(const Tiff& tiff, std::size_t entry, const Field& field) {
+  return tiff.Number(entry, 2) == field.tag && tiff.Number(entry + kOffsetType, 2) == field.type &&
+         tiff.Number(entry + kOffsetCount, 4) == field.count;
 }
 
-// The place of a field's value, or of where its value is.
+// The place of a field's value in a directory, or of where its value is.
+std::optional<std::size_t> find_in(const Tiff& tiff, std::size_t directory, const Field& field) {
+  const std::uint32_t entries = tiff.Number(directory, 2).value_or(0);
+  for (std::uint32_t i = 0; i < entries; ++i) {
+    const std::size_t entry = directory + 2 + i * kEntryLength;
+    if (is_field(tiff, entry, field)) {
+      return entry + kOffsetValue;
+    }
+  }
+  return std::nullopt;
+}
+
+// The same in the first directory.
 std::optional<std::size_t> find_field(const Tiff& tiff, std::uint32_t tag, std::uint32_t type) {
   constexpr std::uint32_t kTiff = 42;
   const std::optional<std::uint32_t> directory = tiff.Number(kOffsetFirstDirectory, 4);
   if (tiff.Number(2, 2) != kTiff || !directory) {
     return std::nullopt;
   }
-  const std::uint32_t entries = tiff.Number(*directory, 2).value_or(0);
-  for (std::uint32_t i = 0; i < entries; ++i) {
-    const std::size_t entry = std::size_t{*directory} + 2 + i * kEntryLength;
-    if (is_field(tiff, entry, tag, type)) {
-      return entry + kOffsetValue;
-    }
-  }
-  return std::nullopt;
+  return find_in(tiff, *directory, {tag, type});
 }
 
 std::optional<Tiff> open_tiff(Bytes bytes) {
@@ -100,6 +116,25 @@ PixelDensity exif_density(Bytes bytes) {
     return {};
   }
   return {whole_part(*tiff, kTagAcross), whole_part(*tiff, kTagDown)};
+}
+
+bool exif_says_adobe_rgb(Bytes bytes) {
+  constexpr std::uint32_t kAdobeRgb = 0x52303300;  // "R03"
+  const std::optional<Tiff> tiff = open_tiff(bytes);
+  const std::optional<std::size_t> camera =
+      tiff ? find_field(*tiff, kTagExif, kTypeLong) : std::nullopt;
+  const std::optional<std::size_t> exchange =
+      camera ? find_in(*tiff, tiff->Number(*camera, 4).value_or(0), {kTagExchange, kTypeLong})
+             : std::nullopt;
+  const std::optional<std::size_t> index =
+      exchange ? find_in(*tiff, tiff->Number(*exchange, 4).value_or(0),
+                         {kTagExchangeIndex, kTypeText, 4})
+               : std::nullopt;
+  if (!index || *index + 4 > bytes.size()) {
+    return false;
+  }
+  const Tiff text(bytes, false);
+  return text.Number(*index, 4) == kAdobeRgb;
 }
 
 // TRANSLATORS: each stands in the sentence that says what the photo must be to be seen upright.

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "photo/job_page.h"
+
+#include "filter/job_options.h"
+#include "filter/ppd_options.h"
+
+namespace photo {
+namespace {
+
+constexpr unsigned kBitsPerPixel = 24;
+constexpr unsigned kBytesPerPixel = 3;
+
+void make_header(JobPage& page) {
+  cups_page_header2_t& header = page.header;
+  header.cupsWidth = static_cast<unsigned>(page.width);
+  header.cupsHeight = static_cast<unsigned>(page.height);
+  header.cupsBytesPerLine = kBytesPerPixel * header.cupsWidth;
+  header.cupsBitsPerPixel = kBitsPerPixel;
+  header.NumCopies = 1;
+}
+
+}  // namespace
+
+bool read_job_page(const char* optionText, const JobOptions& options, JobPage& page) {
+  const std::unique_ptr<ppd_file_t, ClosePpd> ppd(open_marked_ppd(optionText));
+  if (ppd == nullptr) {
+    return false;
+  }
+  tagPRINTSETTING setting{};
+  get_print_setting(ppd.get(), &setting);
+  page.width = static_cast<std::size_t>(setting.nImageWidth);
+  page.height = static_cast<std::size_t>(setting.nImageHeight);
+  if (const ppd_size_t* const size = ppdPageSize(ppd.get(), nullptr); size != nullptr) {
+    page.left = size->left;
+    page.top = size->top;
+    page.borderless = size->left == 0 && size->bottom == 0;
+  }
+  if (cupsRasterInterpretPPD(&page.header, ppd.get(), options.Count(), options.All(), nullptr) !=
+      0) {
+    return false;
+  }
+  make_header(page);
+  return true;
+}
+
+}  // namespace photo

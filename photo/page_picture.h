@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// A photo's pages: the file read, its colours made sRGB, turned, brought to size and laid on white.
+#ifndef TQR7_PHOTO_PAGE_PICTURE_H
+#define TQR7_PHOTO_PAGE_PICTURE_H
+
+#include <cstdio>
+#include <string>
+
+#include "photo/job_wishes.h"
+#include "photo/layout.h"
+#include "photo/photo_rows.h"
+#include "tools/picture.h"
+
+namespace photo {
+
+/// Reads what the file says of its picture, from the beginning. Says why it cannot be printed, or
+/// nothing.
+std::string read_facts(std::FILE* file, PhotoFacts& facts);
+
+/// The photo as one looks at it.
+PhotoShape upright_shape(const PhotoFacts& facts);
+
+/// Makes page `number`, counted from 0, of the layout, as it lies on the sheet. Reads the file from
+/// its beginning. Says why not, or nothing.
+std::string make_page(std::FILE* file, const Layout& layout, std::size_t number,
+                      const JobWishes& wishes, tools::Picture& page);
+
+}  // namespace photo
+
+#endif  // TQR7_PHOTO_PAGE_PICTURE_H

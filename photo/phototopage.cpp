@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// phototopage: a photo as the printer's pages. The scheduler runs it on JPEG and PNG files of this
+// printer's queues, and the printer's own filter takes what it writes.
+#include <cups/cups.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <exception>
+#include <memory>
+#include <new>
+#include <string>
+
+#include "photo/job_page.h"
+#include "photo/job_wishes.h"
+#include "photo/page_output.h"
+#include "photo/page_picture.h"
+
+namespace {
+
+constexpr int kArgumentsWithoutFile = 6;
+constexpr int kArgumentsWithFile = 7;
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
+
+int fail(const std::string& why) {
+  std::fprintf(stderr, "ERROR: The photo cannot be printed: %s.\n", why.c_str());
+  return 1;
+}
+
+// A photo is read more than once; a pipe can only be read once.
+File copy_input() {
+  std::array<char, 1024> name{};
+  const int descriptor = cupsTempFd(name.data(), static_cast<int>(name.size()));
+  if (descriptor < 0) {
+    return nullptr;
+  }
+  unlink(name.data());
+  File copy(fdopen(descriptor, "w+b"));
+  std::array<char, 65536> piece{};
+  std::size_t length = 0;
+  while (copy != nullptr && (length = std::fread(piece.data(), 1, piece.size(), stdin)) > 0) {
+    if (std::fwrite(piece.data(), 1, length, copy.get()) != length) {
+      return nullptr;
+    }
+  }
+  return copy != nullptr && std::fflush(copy.get()) == 0 ? std::move(copy) : nullptr;
+}
+
+bool print_page(cups_raster_t* raster, const photo::JobPage& page, const tools::Picture& picture) {
+  static int printed = 0;
+  std::fprintf(stderr, "INFO: Formatting page %d.\n", ++printed);
+  return photo::write_page(raster, page.header, picture.rgb.data());
+}
+
+// Copies come page by page, 1 1 2 2, or set by set.
+int print_pages(std::FILE* file, const photo::Layout& layout, const photo::JobWishes& wishes,
+                const photo::JobPage& page) {
+  photo::Raster raster;
+  const int sets = wishes.collate ? wishes.copies : 1;
+  const int each = wishes.collate ? 1 : wishes.copies;
+  tools::Picture picture;
+  for (int set = 0; set < sets; ++set) {
+    for (std::size_t number = 0; number < layout.pages.size(); ++number) {
+      if (set == 0 || layout.pages.size() > 1) {
+        if (std::string why = photo::make_page(file, layout, number, wishes, picture);
+            !why.empty()) {
+          return fail(why);
+        }
+      }
+      if (raster == nullptr && (raster = photo::open_output()) == nullptr) {
+        return fail("no page can be written");
+      }
+      for (int copy = 0; copy < each; ++copy) {
+        if (!print_page(raster.get(), page, picture)) {
+          return fail("the printer's filter takes no more");
+        }
+      }
+    }
+  }
+  return 0;
+}
+
+int print_photo(const char* optionText, const char* copies, std::FILE* file) {
+  const photo::JobOptions options(optionText);
+  photo::JobPage page;
+  if (!photo::read_job_page(optionText, options, page)) {
+    return fail("the queue's PPD file cannot be read");
+  }
+  const photo::JobWishes wishes =
+      photo::read_wishes(options.Count(), options.All(), copies, page.borderless);
+  std::fputs("INFO: Reading the photo.\n", stderr);
+  photo::PhotoFacts facts;
+  if (std::string why = photo::read_facts(file, facts); !why.empty()) {
+    return fail(why);
+  }
+  const photo::Layout layout =
+      photo::lay_out(photo::upright_shape(facts), page.width, page.height, wishes);
+  if (layout.pages.empty()) {
+    return fail("it would take more than " + std::to_string(photo::kPagesMost) + " pages");
+  }
+  return print_pages(file, layout, wishes, page);
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  setbuf(stderr, nullptr);
+  if (argc != kArgumentsWithoutFile && argc != kArgumentsWithFile) {
+    std::fprintf(stderr, "Usage: %s job-id user title copies options [file]\n", argv[0]);
+    return 1;
+  }
+  try {
+    const File file = argc == kArgumentsWithFile ? File(std::fopen(argv[6], "rbe")) : copy_input();
+    if (file == nullptr) {
+      return fail("its file cannot be read");
+    }
+    return print_photo(argv[5], argv[4], file.get());
+  } catch (const std::bad_alloc&) {
+    return fail("there is too little memory");
+  } catch (const std::exception& error) {
+    return fail(error.what());
+  }
+}

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "photo/picture_turn.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace photo {
+namespace {
+
+constexpr std::size_t kColours = 3;
+
+// What each orientation does to a place of the upright picture to find it in the file: first
+// exchange across and down, then count from the other end.
+struct Way {
+  bool swapped;
+  bool fromRight;   ///< of the file's picture
+  bool fromBottom;  ///< the same
+};
+
+constexpr std::array<Way, 9> kWays = {{{false, false, false},
+                                       {false, false, false},
+                                       {false, true, false},
+                                       {false, true, true},
+                                       {false, false, true},
+                                       {true, false, false},
+                                       {true, false, true},
+                                       {true, true, true},
+                                       {true, true, false}}};
+
+}  // namespace
+
+tools::Picture turned(const tools::Picture& picture, int orientation) {
+  const Way& way = kWays.at(static_cast<std::size_t>(orientation));
+  tools::Picture upright(way.swapped ? picture.height : picture.width,
+                         way.swapped ? picture.width : picture.height);
+  for (std::size_t y = 0; y < upright.height; ++y) {
+    for (std::size_t x = 0; x < upright.width; ++x) {
+      std::size_t column = way.swapped ? y : x;
+      std::size_t row = way.swapped ? x : y;
+      column = way.fromRight ? picture.width - 1 - column : column;
+      row = way.fromBottom ? picture.height - 1 - row : row;
+      std::memcpy(upright.At(x, y), picture.At(column, row), kColours);
+    }
+  }
+  return upright;
+}
+
+PhotoArea area_in_file(const PhotoArea& upright, std::size_t width, std::size_t height,
+                       int orientation) {
+  const Way& way = kWays.at(static_cast<std::size_t>(orientation));
+  PhotoArea area = upright;
+  if (way.swapped) {
+    std::swap(area.left, area.top);
+    std::swap(area.width, area.height);
+  }
+  if (way.fromRight) {
+    area.left = static_cast<double>(width) - area.left - area.width;
+  }
+  if (way.fromBottom) {
+    area.top = static_cast<double>(height) - area.top - area.height;
+  }
+  return area;
+}
+
+void mirror(tools::Picture& picture) {
+  for (std::size_t y = 0; y < picture.height; ++y) {
+    for (std::size_t left = 0, right = picture.width - 1; left < right; ++left, --right) {
+      std::swap_ranges(picture.At(left, y), picture.At(left, y) + kColours, picture.At(right, y));
+    }
+  }
+}
+
+}  // namespace photo

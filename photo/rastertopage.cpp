@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// rastertopage: what the system's own filters have drawn as whole pages of the printer. The
+// scheduler runs it before the printer's filter, which takes a raster page from its first dot on
+// and leaves white what is missing.
+#include <cups/cups.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <exception>
+#include <new>
+#include <vector>
+
+#include "photo/job_page.h"
+#include "photo/page_edges.h"
+#include "photo/page_output.h"
+
+namespace {
+
+constexpr int kArgumentsWithoutFile = 6;
+constexpr int kArgumentsWithFile = 7;
+constexpr unsigned kSideMost = 65'500;  ///< dots; nothing that is drawn for a page has more
+constexpr unsigned kBitsPerColour = 8;
+constexpr unsigned kBytesPerPixel = 3;
+constexpr unsigned kLineMost = 4 * kSideMost;  ///< bytes
+
+int fail(const char* why) {
+  std::fprintf(stderr, "ERROR: The pages cannot be printed: %s.\n", why);
+  return 1;
+}
+
+// What the printer's filter takes; it says itself what is wrong with anything else.
+bool is_plain_rgb(const cups_page_header2_t& header) {
+  return header.cupsBitsPerColor == kBitsPerColour &&
+         header.cupsBitsPerPixel == kBytesPerPixel * kBitsPerColour &&
+         header.cupsColorOrder == CUPS_ORDER_CHUNKED && header.cupsWidth > 0 &&
+         header.cupsHeight > 0 && header.cupsWidth <= kSideMost && header.cupsHeight <= kSideMost &&
+         header.cupsBytesPerLine >= kBytesPerPixel * header.cupsWidth &&
+         header.cupsBytesPerLine <= kLineMost;
+}
+
+bool is_whole(const cups_page_header2_t& header, const photo::JobPage& page) {
+  return header.cupsWidth == page.width && header.cupsHeight == page.height &&
+         header.cupsBytesPerLine == kBytesPerPixel * header.cupsWidth;
+}
+
+bool read_page(cups_raster_t* input, const cups_page_header2_t& header, const photo::JobPage& page,
+               photo::PageSheet& sheet) {
+  const photo::Corner corner = photo::find_corner(header, page);
+  std::vector<std::uint8_t> line(header.cupsBytesPerLine);
+  for (unsigned y = 0; y < header.cupsHeight; ++y) {
+    if (cupsRasterReadPixels(input, line.data(), header.cupsBytesPerLine) <
+        header.cupsBytesPerLine) {
+      return false;
+    }
+    sheet.Lay(corner, y, line.data(), header.cupsWidth);
+  }
+  sheet.CloseGaps(corner, header.cupsWidth, header.cupsHeight);
+  if (is_whole(header, page)) {
+    sheet.FillBlankRows();
+  }
+  return true;
+}
+
+// The header keeps what the drawing filter has said, but for the page's size.
+cups_page_header2_t resized(const cups_page_header2_t& header, const photo::JobPage& page) {
+  cups_page_header2_t result = header;
+  result.cupsWidth = page.header.cupsWidth;
+  result.cupsHeight = page.header.cupsHeight;
+  result.cupsBytesPerLine = page.header.cupsBytesPerLine;
+  return result;
+}
+
+int print_pages(int descriptor, const photo::JobPage& page) {
+  const photo::Raster input(cupsRasterOpen(descriptor, CUPS_RASTER_READ));
+  photo::Raster output;
+  cups_page_header2_t header;
+  while (input != nullptr && cupsRasterReadHeader2(input.get(), &header) != 0) {
+    if (!is_plain_rgb(header)) {
+      return fail("their raster is not 8-bit RGB");
+    }
+    photo::PageSheet sheet(page.width, page.height);
+    if (!read_page(input.get(), header, page, sheet)) {
+      return fail("a page ends too early");
+    }
+    if (output == nullptr && (output = photo::open_output()) == nullptr) {
+      return fail("no page can be written");
+    }
+    if (!photo::write_page(output.get(), resized(header, page), sheet.Rows())) {
+      return fail("the printer's filter takes no more");
+    }
+  }
+  return 0;
+}
+
+int print_pages(int argc, char* argv[]) {
+  const photo::JobOptions options(argv[5]);
+  photo::JobPage page;
+  if (!photo::read_job_page(argv[5], options, page)) {
+    return fail("the queue's PPD file cannot be read");
+  }
+  const int file = argc == kArgumentsWithFile ? open(argv[6], O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
+  if (file < 0) {
+    return fail("their file cannot be read");
+  }
+  return print_pages(file, page);
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  setbuf(stderr, nullptr);
+  if (argc != kArgumentsWithoutFile && argc != kArgumentsWithFile) {
+    std::fprintf(stderr, "Usage: %s job-id user title copies options [file]\n", argv[0]);
+    return 1;
+  }
+  try {
+    return print_pages(argc, argv);
+  } catch (const std::bad_alloc&) {
+    return fail("there is too little memory");
+  } catch (const std::exception& error) {
+    return fail(error.what());
+  }
+}

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// A photo's samples as sRGB, by the profile that it carries or by what else its file says.
+#ifndef TQR7_PHOTO_TO_SRGB_H
+#define TQR7_PHOTO_TO_SRGB_H
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+#include "photo/photo_rows.h"
+
+class BoundedCms;
+
+namespace photo {
+
+/// Where the meaning of a photo's samples was taken from.
+enum class ColourSource : std::uint8_t {
+  Assumed,    ///< nowhere: they are taken for sRGB, or for plain ink
+  Profile,    ///< the embedded ICC profile
+  CameraMark  ///< the file's own marks: Adobe RGB, or gamma and primaries
+};
+
+/// Converts rows of one photo. Relative colorimetric with black-point compensation, as the
+/// conversion for the printer itself: what the printer's colours can show stays as it is, and
+/// shadows keep their steps.
+class ToSrgb {
+ public:
+  explicit ToSrgb(const PhotoFacts& facts);
+  ~ToSrgb();
+  ToSrgb(const ToSrgb&) = delete;
+  ToSrgb& operator=(const ToSrgb&) = delete;
+
+  /// `samples` are of the photo's kind; `rgb` has room for three bytes a pixel.
+  void Convert(const std::uint8_t* samples, std::uint8_t* rgb, std::size_t pixels) const;
+
+  ColourSource Source() const { return source_; }
+  /// The file has a profile that does not fit its samples or is broken; it was passed over.
+  bool ProfilePassedOver() const { return profilePassedOver_; }
+
+ private:
+  Samples samples_;
+  ColourSource source_ = ColourSource::Assumed;
+  bool profilePassedOver_ = false;
+  std::unique_ptr<BoundedCms> engine_;
+  void* transform_ = nullptr;  ///< belongs to the engine; null where nothing is to be converted
+};
+
+}  // namespace photo
+
+#endif  // TQR7_PHOTO_TO_SRGB_H

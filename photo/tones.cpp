@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "photo/tones.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <numbers>
+
+namespace photo {
+namespace {
+
+constexpr double kMost = 255;
+constexpr std::size_t kColours = 3;
+constexpr int kUnchanged = 100;  ///< per cent
+
+using Curve = std::array<std::uint8_t, 256>;
+using Matrix = std::array<std::array<double, kColours>, kColours>;
+
+std::uint8_t to_byte(double value) {
+  return static_cast<std::uint8_t>(std::lround(std::clamp(value, 0.0, kMost)));
+}
+
+// Gamma bends the tones between black and white, brightness moves all but white.
+Curve make_curve(double gamma, double brightness) {
+  Curve curve{};
+  for (std::size_t i = 0; i < curve.size(); ++i) {
+    const double bent = std::pow(static_cast<double>(i) / kMost, 1 / gamma);
+    curve.at(i) = to_byte(kMost * (1 - (1 - bent) / brightness));
+  }
+  return curve;
+}
+
+// The weights are how bright the primaries look.
+Matrix make_saturation(double share) {
+  constexpr std::array<double, kColours> kWeights = {0.2126, 0.7152, 0.0722};
+  Matrix matrix{};
+  for (std::size_t row = 0; row < kColours; ++row) {
+    for (std::size_t column = 0; column < kColours; ++column) {
+      matrix.at(row).at(column) = (1 - share) * kWeights.at(column) + (row == column ? share : 0);
+    }
+  }
+  return matrix;
+}
+
+// A turn about the line of greys.
+Matrix make_hue(double degrees) {
+  constexpr double kHalfTurn = 180;
+  const double angle = degrees * std::numbers::pi / kHalfTurn;
+  const double along = (1 - std::cos(angle)) / static_cast<double>(kColours);
+  const double across = std::sin(angle) / std::numbers::sqrt3;
+  Matrix matrix{};
+  for (std::size_t row = 0; row < kColours; ++row) {
+    matrix.at(row).at(row) = along + std::cos(angle);
+    matrix.at(row).at((row + 1) % kColours) = along - across;
+    matrix.at(row).at((row + 2) % kColours) = along + across;
+  }
+  return matrix;
+}
+
+void apply(const Matrix& matrix, tools::Picture& picture) {
+  for (std::size_t i = 0; i + 2 < picture.rgb.size(); i += kColours) {
+    std::uint8_t* const rgb = &picture.rgb[i];
+    const std::array<double, kColours> from = {
+        static_cast<double>(rgb[0]), static_cast<double>(rgb[1]), static_cast<double>(rgb[2])};
+    for (std::size_t row = 0; row < kColours; ++row) {
+      const auto& weights = matrix.at(row);
+      rgb[row] = to_byte(weights[0] * from[0] + weights[1] * from[1] + weights[2] * from[2]);
+    }
+  }
+}
+
+}  // namespace
+
+void apply_tones(const JobWishes& wishes, tools::Picture& picture) {
+  if (wishes.saturation != kUnchanged) {
+    apply(make_saturation(static_cast<double>(wishes.saturation) / kUnchanged), picture);
+  }
+  if (wishes.hue != 0) {
+    apply(make_hue(wishes.hue), picture);
+  }
+  if (wishes.gamma != 1 || wishes.brightness != 1) {
+    const Curve curve = make_curve(wishes.gamma, wishes.brightness);
+    for (std::uint8_t& sample : picture.rgb) {
+      sample = curve.at(sample);
+    }
+  }
+}
+
+}  // namespace photo
