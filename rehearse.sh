@@ -72,8 +72,8 @@ read_arguments() {
 
 build_all() {
   build=$here/build/release
-  build_quietly "$here" rehearse-build.log rastertoprinter commandtoprinter phototopage \
-    rastertopage tqr7.icc tqr7-printer-sim tqr7.ppd tqr7 sample-photo job-state || exit 1
+  build_quietly "$here" rehearse-build.log tqr7_module tqr7-printer-sim tqr7.ppd tqr7 \
+    sample-photo job-state || exit 1
 }
 
 stop_all() {

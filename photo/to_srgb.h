@@ -34,6 +34,8 @@ class ToSrgb {
   /// `samples` are of the photo's kind; `rgb` has room for three bytes a pixel.
   void Convert(const std::uint8_t* samples, std::uint8_t* rgb, std::size_t pixels) const;
 
+  /// The photo's colours are others than those of sRGB.
+  bool Converts() const { return transform_ != nullptr; }
   ColourSource Source() const { return source_; }
   /// The file has a profile that does not fit its samples or is broken; it was passed over.
   bool ProfilePassedOver() const { return profilePassedOver_; }

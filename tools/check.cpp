@@ -17,6 +17,7 @@
 #include "tools/plain_text.h"
 #include "tools/sheet_preview.h"
 #include "tools/subcommands.h"
+#include "tools/upright_photo.h"
 
 namespace tools {
 namespace {
@@ -114,13 +115,13 @@ void print_losses(const PhotoCheck& check) {
   }
 }
 
-void print_text(const Options& options, const PictureFile& photo, const PrintSize& size,
+void print_text(const Options& options, const UprightPhoto& photo, const PrintSize& size,
                 const PhotoCheck& check) {
   print_line(kPhoto, filled(_("%1$zu x %2$zu pixels"), photo.picture.width, photo.picture.height));
   print_paper(size);
   // TRANSLATORS: %1$s is fit or fill, as the option has it.
   print_line(kScaling,
-             filled(_("%1$s, to %2$u x %3$u dots from the image area's top left corner"),
+             filled(_("%1$s, to %2$u x %3$u dots in the middle of the image area"),
                     options.scaling.c_str(), check.placement.width, check.placement.height));
   // TRANSLATORS: %2$s is sharp, soft or coarse.
   print_line(kResolution,
@@ -138,7 +139,7 @@ void print_text(const Options& options, const PictureFile& photo, const PrintSiz
   }
 }
 
-Json json_of(const Options& options, const PictureFile& photo, const PrintSize& size,
+Json json_of(const Options& options, const UprightPhoto& photo, const PrintSize& size,
              const PhotoCheck& check) {
   Json cuts = Json::array();
   for (const Cut& cut : check.cuts) {
@@ -171,7 +172,11 @@ Json json_of(const Options& options, const PictureFile& photo, const PrintSize& 
       {"turned", check.placement.turned},
       {"used",
        {{"left", used.left}, {"top", used.top}, {"width", used.width}, {"height", used.height}}},
-      {"printed", {{"width", check.placement.width}, {"height", check.placement.height}}},
+      {"printed",
+       {{"left", check.placement.left},
+        {"top", check.placement.top},
+        {"width", check.placement.width},
+        {"height", check.placement.height}}},
       {"dots_per_inch", check.dotsPerInch},
       {"sharpness", to_string(check.sharpness)},
       {"cut_off", std::move(cuts)},
@@ -195,13 +200,8 @@ int check(const Options& options) {
     return cannot(filled(_("\"%s\" is no size; there are %s"), plain_text(options.size).c_str(),
                          all_sizes().c_str()));
   }
-  const PictureFile photo = read_picture_file(options.photo);
-  const Placement placement = place_picture(static_cast<std::uint32_t>(photo.picture.width),
-                                            static_cast<std::uint32_t>(photo.picture.height), *size,
-                                            options.Scaling(), photo.density.Aspect());
-  if (placement.Empty()) {
-    return cannot(options.photo + ": " + _("so narrow a picture that nothing of it is printed"));
-  }
+  const UprightPhoto photo = read_upright_photo(options.photo);
+  const Placement placement = place_picture(photo.shape, *size, options.Scaling());
   const PhotoCheck result = [&] {
     const language::English for_programs(options.json);
     return check_photo(photo, *size, options.Scaling(), placement);

@@ -3,11 +3,12 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <iterator>
 #include <string_view>
 
 #include "language/messages.h"
 #include "tools/exif.h"
-#include "tools/photo_profile.h"
 
 namespace tools {
 namespace {
@@ -45,15 +46,17 @@ std::vector<Cut> find_cuts(const Picture& photo, const Placement& placement) {
 std::vector<White> find_whites(const tagPAPERINFO& paper, const Placement& placement) {
   const auto width = static_cast<std::uint32_t>(paper.nImageWidth);
   const auto height = static_cast<std::uint32_t>(paper.nImageHeight);
+  const std::array<White, 4> sides{{
+      {"left", placement.left, static_cast<double>(placement.left) / width},
+      {"right", width - placement.left - placement.width,
+       static_cast<double>(width - placement.left - placement.width) / width},
+      {"top", placement.top, static_cast<double>(placement.top) / height},
+      {"bottom", height - placement.top - placement.height,
+       static_cast<double>(height - placement.top - placement.height) / height},
+  }};
   std::vector<White> whites;
-  if (placement.width < width) {
-    const std::uint32_t dots = width - placement.width;
-    whites.push_back({"right", dots, static_cast<double>(dots) / width});
-  }
-  if (placement.height < height) {
-    const std::uint32_t dots = height - placement.height;
-    whites.push_back({"bottom", dots, static_cast<double>(dots) / height});
-  }
+  std::copy_if(sides.begin(), sides.end(), std::back_inserter(whites),
+               [](const White& side) { return side.dots > 0; });
   return whites;
 }
 
@@ -64,36 +67,43 @@ Sharpness judge_sharpness(double dotsPerInch) {
   return dotsPerInch >= kSoftFrom ? Sharpness::Soft : Sharpness::Coarse;
 }
 
-std::vector<std::string> find_notes(const PictureFile& photo, const PrintSize& size,
+// A density that pulls the photo out of shape, as the file has it; those beyond reason are passed
+// over.
+bool stretches(const photo::PhotoShape& shape) {
+  constexpr double kMost = 2;
+  const double aspect = shape.perInchAcross > 0 && shape.perInchDown > 0
+                            ? shape.perInchDown / shape.perInchAcross
+                            : 1;
+  return aspect != 1 && aspect <= kMost && aspect >= 1 / kMost;
+}
+
+std::vector<std::string> find_notes(const UprightPhoto& photo, const PrintSize& size,
                                     const Placement& placement) {
   std::vector<std::string> notes;
+  if (photo.facts.orientation != kExifUpright) {
+    // TRANSLATORS: as in "must be turned by 180 degrees to be seen upright".
+    notes.push_back(filled(_("The camera's note in the file says that the photo must be %s to be "
+                             "seen upright. It is printed so, and all that is said here is said of "
+                             "the upright photo."),
+                           _(exif_orientation_words(photo.facts.orientation))));
+  }
   if (placement.turned) {
     notes.emplace_back(
         _("The photo is turned by a quarter to the left, to lie as the paper does."));
   }
-  if (const int orientation = exif_orientation(photo.exif); orientation != kExifUpright) {
-    // TRANSLATORS: as in "must be turned by 180 degrees to be seen upright".
-    notes.push_back(filled(_("The camera's note in the file says that the photo must be %s to be "
-                             "seen upright. Printing does not look at that note: the photo is "
-                             "placed as its pixels lie."),
-                           _(exif_orientation_words(orientation))));
-  }
-  if (const PixelDensity& density = photo.density; density.Aspect() != 1.0F) {
+  if (stretches(photo.shape)) {
     notes.push_back(filled(
         _("The file says that its pixels are not square: %1$u to the inch across, %2$u down. "
           "Printing follows that, and stretches the photo; take it out of the file if it looks "
           "wrong."),
-        density.across, density.down));
+        static_cast<unsigned>(std::lround(photo.shape.perInchAcross)),
+        static_cast<unsigned>(std::lround(photo.shape.perInchDown))));
   }
-  if (!photo.profile.empty()) {
-    const PhotoProfile profile = judge_photo_profile(photo.profile);
-    if (profile == PhotoProfile::Other) {
-      notes.emplace_back(
-          _("The photo has a colour profile that is not sRGB. Printing takes the photo for sRGB, "
-            "so its colours will be off; convert it to sRGB first."));
-    } else if (profile == PhotoProfile::Unreadable) {
-      notes.emplace_back(_("The photo's colour profile cannot be used; it is taken for sRGB."));
-    }
+  if (photo.profilePassedOver) {
+    notes.emplace_back(_("The photo's colour profile cannot be used; it is taken for sRGB."));
+  } else if (photo.converted) {
+    notes.emplace_back(
+        _("The photo's colours are not those of sRGB; they are converted for printing."));
   }
   if (size.TwoOnOnePage()) {
     notes.push_back(filled(_("The sheet is cut into two prints below line %d; one photo on the "
@@ -175,7 +185,7 @@ double millimetres(double dots) {
   return dots * kMillimetresPerInch / kInch;
 }
 
-PhotoCheck check_photo(const PictureFile& photo, const PrintSize& size, PrintScaling scaling,
+PhotoCheck check_photo(const UprightPhoto& photo, const PrintSize& size, PrintScaling scaling,
                        const Placement& placement) {
   PhotoCheck check{placement, 0, Sharpness::Sharp, {}, {}, {}, {}};
   check.dotsPerInch =

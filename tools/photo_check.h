@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "tools/picture.h"
 #include "tools/placement.h"
 #include "tools/print_sizes.h"
+#include "tools/upright_photo.h"
 
 namespace tools {
 
@@ -34,7 +34,7 @@ struct Cut {
 
 /// What of the page's image area the photo does not cover, as the sheet comes out of the printer.
 struct White {
-  const char* side;  ///< "right" or "bottom"
+  const char* side;  ///< "left", "right", "top" or "bottom"
   std::uint32_t dots;
   double share;  ///< of the area's width or height
 };
@@ -53,8 +53,8 @@ struct PhotoCheck {
 /// Dots of paper in millimetres.
 double millimetres(double dots);
 
-/// Checks a photo that this scaling has given a placement that is not empty.
-PhotoCheck check_photo(const PictureFile& photo, const PrintSize& size, PrintScaling scaling,
+/// Checks a photo that this scaling has given a placement.
+PhotoCheck check_photo(const UprightPhoto& photo, const PrintSize& size, PrintScaling scaling,
                        const Placement& placement);
 
 }  // namespace tools

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Where the printing system puts a picture on a page: what imagetoraster, the filter that CUPS
-// prints pictures through, does with a picture of one size and a page of another. Its rounding is
-// followed to the last dot.
+// Where a photo comes to lie on a page: what phototopage, the filter that prints photos, does with
+// an upright photo of one size and a page of another.
 #ifndef TQR7_TOOLS_PLACEMENT_H
 #define TQR7_TOOLS_PLACEMENT_H
 
 #include <cstdint>
 
+#include "photo/layout.h"
 #include "tools/print_sizes.h"
 
 namespace tools {
@@ -15,7 +15,7 @@ namespace tools {
 /// print-scaling, as `lp -o` takes it.
 enum class PrintScaling : std::uint8_t {
   Fit,  ///< the whole picture, as large as the page allows
-  Fill  ///< the page as full as it goes, the picture cropped to its middle
+  Fill  ///< the page covered, the picture cropped to its middle
 };
 
 /// A rectangle of a picture, in its pixels.
@@ -30,20 +30,19 @@ struct PixelArea {
 struct Placement {
   PixelArea used;        ///< the part of the picture that is printed
   bool turned;           ///< a quarter to the left: its top right corner comes to the top left
-  std::uint32_t width;   ///< in dots, from the left edge of the page's image area
-  std::uint32_t height;  ///< in dots, from its upper edge
+  std::uint32_t left;    ///< in dots, from the left edge of the page's image area
+  std::uint32_t top;     ///< in dots, from its upper edge
+  std::uint32_t width;   ///< in dots
+  std::uint32_t height;  ///< in dots
 
-  /// A picture so narrow that nothing of it is left has no place.
-  bool Empty() const { return width == 0 || height == 0; }
   /// Dots on paper for each pixel of the picture, across the picture and down.
   double DotsPerPixelAcross() const;
   double DotsPerPixelDown() const;
 };
 
-/// Places a picture of this many pixels, neither of them 0. `aspect` says how many times as wide as
-/// high a pixel is; Fill crops as if they were square all the same.
-Placement place_picture(std::uint32_t width, std::uint32_t height, const PrintSize& size,
-                        PrintScaling scaling, float aspect = 1);
+/// Places an upright picture, which has pixels.
+Placement place_picture(const photo::PhotoShape& shape, const PrintSize& size,
+                        PrintScaling scaling);
 
 }  // namespace tools
 

@@ -37,8 +37,8 @@ class LaidPhoto {
   LaidPhoto(const Picture& photo, const PrintSize& size, const Placement& placement)
       : photo_(photo),
         placement_(placement),
-        left_(static_cast<double>(size.paper->nImageLeft)),
-        top_(static_cast<double>(size.paper->nImageTop)) {}
+        left_(static_cast<double>(size.paper->nImageLeft) + placement.left),
+        top_(static_cast<double>(size.paper->nImageTop) + placement.top) {}
 
   // The part that is printed.
   Box Printed() const { return {left_, top_, left_ + placement_.width, top_ + placement_.height}; }

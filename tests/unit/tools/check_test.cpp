@@ -32,7 +32,7 @@ TEST(Check, OfAPhotoInThePapersShapeIsGood) {
   EXPECT_EQ(run.out,
             "Photo:      1852 x 1232 pixels\n"
             "Paper:      RQ_10x15, 1852 x 1232 dots, 156.8 x 104.3 mm\n"
-            "Scaling:    fill, to 1852 x 1232 dots from the image area's top left corner\n"
+            "Scaling:    fill, to 1852 x 1232 dots in the middle of the image area\n"
             "Resolution: 300 dpi, sharp (sharp from 240 on, soft from 150, coarse below)\n"
             "Good:       nothing is lost, and nothing is coarse\n");
   EXPECT_EQ(run.errors, "");
@@ -44,11 +44,10 @@ TEST(Check, TellsWhatFillCutsOff) {
   EXPECT_EQ(run.out,
             "Photo:      1600 x 1200 pixels\n"
             "Paper:      RQ_10x15, 1852 x 1232 dots, 156.8 x 104.3 mm\n"
-            "Scaling:    fill, to 1852 x 1231 dots from the image area's top left corner\n"
+            "Scaling:    fill, to 1852 x 1232 dots in the middle of the image area\n"
             "Resolution: 259 dpi, sharp (sharp from 240 on, soft from 150, coarse below)\n"
-            "Cut off:    top of the photo, 67 pixels, 5.6 % (6.6 mm of paper)\n"
-            "Cut off:    bottom of the photo, 69 pixels, 5.8 % (6.8 mm of paper)\n"
-            "Left white: bottom of the image area, 1 dot, 0.1 % (0.1 mm)\n"
+            "Cut off:    top of the photo, 68 pixels, 5.7 % (6.7 mm of paper)\n"
+            "Cut off:    bottom of the photo, 68 pixels, 5.7 % (6.7 mm of paper)\n"
             "Note:       Nothing is cut off with --scaling fit, which is `lp -o "
             "print-scaling=fit`.\n"
             "Not good:   lost: more than 1.0 % is cut off at the top\n"
@@ -61,9 +60,10 @@ TEST(Check, TellsWhatFitLeavesWhite) {
   EXPECT_EQ(run.out,
             "Photo:      1600 x 1200 pixels\n"
             "Paper:      RQ_10x15, 1852 x 1232 dots, 156.8 x 104.3 mm\n"
-            "Scaling:    fit, to 1642 x 1232 dots from the image area's top left corner\n"
+            "Scaling:    fit, to 1643 x 1232 dots in the middle of the image area\n"
             "Resolution: 292 dpi, sharp (sharp from 240 on, soft from 150, coarse below)\n"
-            "Left white: right of the image area, 210 dots, 11.3 % (17.8 mm)\n"
+            "Left white: left of the image area, 104 dots, 5.6 % (8.8 mm)\n"
+            "Left white: right of the image area, 105 dots, 5.7 % (8.9 mm)\n"
             "Note:       The page is covered with --scaling fill, which is `lp -o "
             "print-scaling=fill`; what goes beyond it is cut off.\n"
             "Good:       nothing is lost, and nothing is coarse\n");
@@ -123,17 +123,26 @@ INSTANTIATE_TEST_SUITE_P(All, CheckOnASize,
                                          "RQ_9x13_WB", "RQ_10x15_WB", "RQ_13x18_WB",
                                          "RQ_15x20_WB"));
 
-TEST(Check, TellsTheCamerasNoteThatPrintingDoesNotLookAt) {
-  EXPECT_THAT(check(jpeg_file(1852, 1232, exif_data(6)), {"10x15"}).out,
+TEST(Check, TellsThatAPhotoIsTurnedByTheCamerasNote) {
+  const std::string out = check(jpeg_file(1232, 1852, exif_data(6)), {"10x15"}).out;
+  EXPECT_THAT(out, StartsWith("Photo:      1852 x 1232 pixels\n"));
+  EXPECT_THAT(out,
               HasSubstr("Note:       The camera's note in the file says that the photo must be "
-                        "turned by 90 degrees clockwise to be seen upright. Printing does not look "
-                        "at that note: the photo is placed as its pixels lie.\n"));
+                        "turned by 90 degrees clockwise to be seen upright. It is printed so, "
+                        "and all that is said here is said of the upright photo.\n"));
+  EXPECT_THAT(out, Not(HasSubstr("to lie as the paper does")));
   EXPECT_THAT(check(jpeg_file(1852, 1232, exif_data(1)), {"10x15"}).out, Not(HasSubstr("Note:")));
+}
+
+TEST(Check, FillsThePageWithAPhotoThatNearlyHasItsShape) {
+  const std::string out = check(jpeg_file(3000, 2000), {"10x15"}).out;
+  EXPECT_THAT(out, HasSubstr("Scaling:    fit, to 1852 x 1232 dots in the middle"));
+  EXPECT_THAT(out, Not(HasSubstr("Left white:")));
 }
 
 TEST(Check, FollowsADensityThatStretchesThePhoto) {
   const ToolRun run = check(with_density(jpeg_file(1600, 1200), 1, 72, 144), {"10x15"});
-  EXPECT_THAT(run.out, HasSubstr("Scaling:    fit, to 1852 x 694 dots from "));
+  EXPECT_THAT(run.out, HasSubstr("Scaling:    fit, to 1852 x 695 dots in "));
   EXPECT_THAT(run.out,
               HasSubstr("Note:       The file says that its pixels are not square: 72 to the inch "
                         "across, 144 down. Printing follows that, and stretches the photo; take it "
@@ -157,13 +166,15 @@ TEST(Check, CallsAPhotoSharpFrom240DotsOn) {
 }
 
 TEST(Check, AdvisesTheOtherScalingOnlyWhereThisOneCostsMuch) {
-  EXPECT_THAT(check(jpeg_file(1840, 1232), {"10x15"}).out, Not(HasSubstr("--scaling")));
+  EXPECT_THAT(check(jpeg_file(1838, 1232), {"10x15"}).out, Not(HasSubstr("--scaling")));
   EXPECT_THAT(check(jpeg_file(1800, 1232), {"10x15"}).out, HasSubstr("--scaling fill"));
 }
 
 TEST(Check, TellsAProfileThatIsNotSrgb) {
-  EXPECT_THAT(check(jpeg_file(1852, 1232, {}, profiles::wide_green()), {"10x15"}).out,
-              HasSubstr("Note:       The photo has a colour profile that is not sRGB."));
+  EXPECT_THAT(
+      check(jpeg_file(1852, 1232, {}, profiles::wide_green()), {"10x15"}).out,
+      HasSubstr("Note:       The photo's colours are not those of sRGB; they are converted for "
+                "printing.\n"));
   EXPECT_THAT(check(jpeg_file(1852, 1232, {}, profiles::srgb()), {"10x15"}).out,
               Not(HasSubstr("Note:")));
 }
@@ -199,15 +210,15 @@ TEST(Check, WritesOneJsonDocument) {
   EXPECT_EQ(told["scaling"], "fill");
   EXPECT_EQ(told["turned"], false);
   EXPECT_EQ(told["used"],
-            nlohmann::json({{"left", 0}, {"top", 59}, {"width", 1600}, {"height", 1081}}));
-  EXPECT_EQ(told["printed"], nlohmann::json({{"width", 1382}, {"height", 933}}));
+            nlohmann::json({{"left", 0}, {"top", 59}, {"width", 1600}, {"height", 1082}}));
+  EXPECT_EQ(told["printed"],
+            nlohmann::json({{"left", 0}, {"top", 0}, {"width", 1382}, {"height", 934}}));
   EXPECT_NEAR(told["dots_per_inch"], 347.3, 0.1);
   EXPECT_EQ(told["sharpness"], "sharp");
   EXPECT_EQ(told["cut_off"][0]["side"], "top");
   EXPECT_EQ(told["cut_off"][0]["pixels"], 59);
-  EXPECT_EQ(told["cut_off"][1]["pixels"], 60);
-  EXPECT_EQ(told["left_white"][0]["side"], "bottom");
-  EXPECT_EQ(told["left_white"][0]["dots"], 1);
+  EXPECT_EQ(told["cut_off"][1]["pixels"], 59);
+  EXPECT_EQ(told["left_white"], nlohmann::json::array());
   EXPECT_EQ(told["not_good"].size(), 2U);
   EXPECT_EQ(told["good"], false);
   EXPECT_EQ(run.status, 1);
@@ -341,10 +352,10 @@ TEST(Check, OfASizeThatThereIsNotNamesThoseThatThereAre) {
   EXPECT_EQ(run.status, 2);
 }
 
-TEST(Check, OfAPhotoTooNarrowToBePrintedSaysSo) {
+TEST(Check, OfAPhotoThatIsOnlyALineTellsWhatIsWhite) {
   const ToolRun run = check(jpeg_file(3000, 1), {"10x15"});
-  EXPECT_THAT(run.errors, EndsWith(": so narrow a picture that nothing of it is printed\n"));
-  EXPECT_EQ(run.status, 2);
+  EXPECT_THAT(run.out, HasSubstr("Scaling:    fit, to 1852 x 1 dots in the middle"));
+  EXPECT_EQ(run.status, 0);
 }
 
 TEST(Check, KnowsTwoWaysOfScaling) {
