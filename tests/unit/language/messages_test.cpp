@@ -11,11 +11,7 @@
 
 #include "language/command_line_words.h"
 
-using language::_;
-using language::_n;
-using language::decimal;
-using language::filled;
-
+namespace language {
 namespace {
 
 // Begins as a program does whose environment says this.
@@ -23,7 +19,7 @@ void begin_with(const char* locale, const char* languages) {
   setenv("LC_ALL", locale, 1);
   setenv("LANGUAGE", languages, 1);
   setenv("LOCPATH", TQR7_TEST_LOCALES, 1);
-  language::begin();
+  begin();
 }
 
 }  // namespace
@@ -80,8 +76,8 @@ TEST(Message, GoesWithTheCountInEnglish) {
 TEST(Message, StaysEnglishForProgramsAndIsTranslatedAfterwards) {
   begin_with("de_DE.UTF-8", "de");
   {
-    const language::English outer;
-    const language::English inner;
+    const English outer;
+    const English inner;
     EXPECT_STREQ(_("Nothing to do."), "Nothing to do.");
     EXPECT_STREQ(_n("%zu sheet", "%zu sheets", 2), "%zu sheets");
     EXPECT_EQ(decimal(2.5, 1), "2.5");
@@ -91,7 +87,7 @@ TEST(Message, StaysEnglishForProgramsAndIsTranslatedAfterwards) {
 
 TEST(Message, IsTranslatedWhereEnglishIsNotWanted) {
   begin_with("de_DE.UTF-8", "de");
-  const language::English unwanted(false);
+  const English unwanted(false);
   EXPECT_STREQ(_("Nothing to do."), "Nichts zu tun.");
 }
 
@@ -128,12 +124,12 @@ class ComplaintOnACommandLine : public testing::TestWithParam<Complaint> {};
 
 TEST_P(ComplaintOnACommandLine, IsTranslatedWithTheWordsOfTheLine) {
   begin_with("de_DE.UTF-8", "de");
-  EXPECT_EQ(language::translate_complaint(GetParam().english), GetParam().german);
+  EXPECT_EQ(translate_complaint(GetParam().english), GetParam().german);
 }
 
 TEST_P(ComplaintOnACommandLine, StaysAsItIsInTheCLocale) {
   begin_with("C", "");
-  EXPECT_EQ(language::translate_complaint(GetParam().english), GetParam().english);
+  EXPECT_EQ(translate_complaint(GetParam().english), GetParam().english);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -150,3 +146,5 @@ INSTANTIATE_TEST_SUITE_P(
                     Complaint{"something that the library does not say",
                               "something that the library does not say"},
                     Complaint{"", ""}));
+
+}  // namespace language
