@@ -79,12 +79,9 @@ cause_of() {
     'ipp-features-supported with "ipp-everywhere"')
       echo 'the scheduler names this feature for no queue' ;;
     media-size-supported) echo 'the scheduler tells it to those alone who ask for it by name' ;;
-    media-source-supported) echo 'the PPD has no paper source' ;;
-    media-type-supported) echo 'the PPD has no kinds of paper' ;;
     preferred-attributes-supported | overrides-supported | print-content-optimize-* | \
       print-rendering-intent-*)
       echo 'the scheduler has no such attribute' ;;
-    printer-device-id) echo 'the PPD has no device ID' ;;
     printer-supply | printer-supply-*)
       echo 'the printer does not tell what is left of ribbon and paper' ;;
     pwg-raster-document-sheet-back) echo 'the scheduler gives it to printers of two sides alone' ;;

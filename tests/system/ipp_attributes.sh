@@ -22,6 +22,8 @@ expect_listed() {
 }
 
 expect_told printer-make-and-model 'CORVANTIEL TQR7'
+expect_contains printer-device-id 'MFG:CORVANTIEL;MDL:TQR7;' \
+  "$(values_of printer-device-id <"$work/told")"
 expect_told color-supported true
 expect_told print-color-mode-default color
 expect_told print-quality-supported draft,normal,high
