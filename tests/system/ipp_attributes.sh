@@ -181,4 +181,8 @@ ipp_print broken "$work/photo.jpg" image/jpeg "$none"
 expect_job_ends "$JOB" stopped
 queue_attributes broken >"$work/told"
 expect_listed printer-state-reasons com.corvantiel-error0008_2665
+job_attributes broken "${JOB##*-}" >"$work/told"
+expect_told job-state processing-stopped
+expect_told job-state-reasons job-completed-with-errors
+expect_told job-printer-state-reasons com.corvantiel-error0008_2665
 finish

@@ -89,6 +89,24 @@ queue_attributes() {
   ipptool -t -v "$(queue_address "$1")" get-printer-attributes.test | sed 's/^ *//'
 }
 
+# The same of a job, by its number.
+job_attributes() {
+  cat >"$work/$1.test" <<TEST
+{
+  NAME "Job"
+  OPERATION Get-Job-Attributes
+  GROUP operation-attributes-tag
+  ATTR charset attributes-charset utf-8
+  ATTR naturalLanguage attributes-natural-language en
+  ATTR uri printer-uri \$uri
+  ATTR integer job-id $2
+  ATTR name requesting-user-name \$user
+  STATUS successful-ok
+}
+TEST
+  ipptool -t -v "$(queue_address "$1")" "$work/$1.test" | sed 's/^ *//'
+}
+
 # One attribute's values of those lines on standard input.
 values_of() {
   sed -n "s/^$1 ([^)]*) = //p"
