@@ -23,6 +23,23 @@ long inside(long corner, long length, long room) {
   return std::clamp(corner, std::min(0L, room - length), std::max(0L, room - length));
 }
 
+// At both ends of `count` lines: how many are white, and the next one copied into them unless it is
+// white itself.
+template <typename IsWhite, typename Copy>
+void fill_blank(std::size_t count, const IsWhite& isWhite, const Copy& copy) {
+  const auto blank = [&](const auto& lineAt) {
+    std::size_t lines = 0;
+    while (lines <= kBlankLines && lines < count && isWhite(lineAt(lines))) {
+      ++lines;
+    }
+    for (std::size_t i = 0; lines <= kBlankLines && i < lines; ++i) {
+      copy(lineAt(lines), lineAt(i));
+    }
+  };
+  blank([](std::size_t i) { return i; });
+  blank([count](std::size_t i) { return count - 1 - i; });
+}
+
 }  // namespace
 
 Corner find_corner(const cups_page_header2_t& header, const JobPage& page) {
@@ -82,26 +99,34 @@ void PageSheet::CloseGaps(const Corner& corner, std::size_t width, std::size_t h
   }
 }
 
-bool PageSheet::IsWhite(std::size_t y) {
+void PageSheet::CopyColumn(std::size_t from, std::size_t to) {
+  for (std::size_t y = 0; y < height_; ++y) {
+    std::memcpy(Row(y) + kColours * to, Row(y) + kColours * from, kColours);
+  }
+}
+
+bool PageSheet::IsWhiteRow(std::size_t y) {
   const std::uint8_t* const row = Row(y);
   return std::all_of(row, row + stride_, [](std::uint8_t sample) { return sample == kWhite; });
 }
 
-void PageSheet::FillBlankRows() {
-  std::size_t above = 0;
-  while (above <= kBlankRows && above < height_ && IsWhite(above)) {
-    ++above;
+bool PageSheet::IsWhiteColumn(std::size_t x) {
+  for (std::size_t y = 0; y < height_; ++y) {
+    const std::uint8_t* const dot = Row(y) + kColours * x;
+    if (dot[0] != kWhite || dot[1] != kWhite || dot[2] != kWhite) {
+      return false;
+    }
   }
-  std::size_t below = 0;
-  while (below <= kBlankRows && below < height_ && IsWhite(height_ - 1 - below)) {
-    ++below;
-  }
-  for (std::size_t y = 0; above <= kBlankRows && y < above; ++y) {
-    CopyRow(above, y);
-  }
-  for (std::size_t y = 0; below <= kBlankRows && y < below; ++y) {
-    CopyRow(height_ - 1 - below, height_ - 1 - y);
-  }
+  return true;
+}
+
+void PageSheet::FillBlankLines() {
+  fill_blank(
+      height_, [this](std::size_t y) { return IsWhiteRow(y); },
+      [this](std::size_t from, std::size_t to) { CopyRow(from, to); });
+  fill_blank(
+      width_, [this](std::size_t x) { return IsWhiteColumn(x); },
+      [this](std::size_t from, std::size_t to) { CopyColumn(from, to); });
 }
 
 }  // namespace photo

@@ -24,8 +24,8 @@ struct Corner {
 /// ones.
 inline constexpr long kRoundedOff = 4;
 
-/// What a drawing filter leaves white at most of rows that it means to cover.
-inline constexpr std::size_t kBlankRows = 2;
+/// Rows or columns that a drawing filter leaves white at an edge that it means to cover, at most.
+inline constexpr std::size_t kBlankLines = 2;
 
 /// The corner by the place that the header tells, inside the page as far as there is room. A raster
 /// page of the page's own size lies on it.
@@ -43,16 +43,18 @@ class PageSheet {
   /// that it misses by no more than kRoundedOff.
   void CloseGaps(const Corner& corner, std::size_t width, std::size_t height);
 
-  /// Repeats the first line that is not white into the kBlankRows at the upper and the lower edge,
-  /// where all of those above or below it are white.
-  void FillBlankRows();
+  /// Where up to kBlankLines at an edge are white and the next line is not, repeats that one into
+  /// them.
+  void FillBlankLines();
 
   const std::uint8_t* Rows() const { return rgb_.data(); }
 
  private:
   std::uint8_t* Row(std::size_t y) { return &rgb_[y * stride_]; }
-  bool IsWhite(std::size_t y);
+  bool IsWhiteRow(std::size_t y);
+  bool IsWhiteColumn(std::size_t x);
   void CopyRow(std::size_t from, std::size_t to);
+  void CopyColumn(std::size_t from, std::size_t to);
 
   std::size_t width_;
   std::size_t height_;

@@ -58,7 +58,7 @@ bool read_page(cups_raster_t* input, const cups_page_header2_t& header, const ph
   }
   sheet.CloseGaps(corner, header.cupsWidth, header.cupsHeight);
   if (is_whole(header, page)) {
-    sheet.FillBlankRows();
+    sheet.FillBlankLines();
   }
   return true;
 }

@@ -93,6 +93,17 @@ const char* side_of_photo(std::string_view side) {
   return side == "top" ? _("top of the photo") : _("bottom of the photo");
 }
 
+// The same of the page.
+const char* side_of_area(std::string_view side) {
+  if (side == "left") {
+    return _("left of the image area");
+  }
+  if (side == "right") {
+    return _("right of the image area");
+  }
+  return side == "top" ? _("top of the image area") : _("bottom of the image area");
+}
+
 void print_losses(const PhotoCheck& check) {
   constexpr double kPercent = 100.0;
   for (const Cut& cut : check.cuts) {
@@ -105,12 +116,9 @@ void print_losses(const PhotoCheck& check) {
   }
   for (const White& white : check.whites) {
     const std::string dots = filled(_n("%zu dot", "%zu dots", white.dots), std::size_t{white.dots});
-    const char* const side = std::string_view(white.side) == "right"
-                                 ? _("right of the image area")
-                                 : _("bottom of the image area");
     // TRANSLATORS: as in "right of the image area, 12 dots, 3.1 % (4.0 mm)".
-    print_line(kLeftWhite, filled(_("%1$s, %2$s, %3$s %% (%4$s mm)"), side, dots.c_str(),
-                                  decimal(kPercent * white.share, 1).c_str(),
+    print_line(kLeftWhite, filled(_("%1$s, %2$s, %3$s %% (%4$s mm)"), side_of_area(white.side),
+                                  dots.c_str(), decimal(kPercent * white.share, 1).c_str(),
                                   decimal(millimetres(white.dots), 1).c_str()));
   }
 }

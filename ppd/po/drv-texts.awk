@@ -5,7 +5,7 @@
 
 # Remembers the texts of one line.
 function add_drv_texts(line,    text) {
-  if (line ~ /^[ \t]*\/\//) {
+  if (line ~ /^[ \t]*(\/\/|Attribute cupsPreFilter)/) {
     return
   }
   while (match(line, /"[^"\/]+\/[^"]+"/)) {
