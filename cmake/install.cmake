@@ -71,7 +71,7 @@ function(tqr7_install)
   install(FILES "${CMAKE_BINARY_DIR}/tqr7.drv" DESTINATION "${TQR7_DRV_DIR}" COMPONENT driver)
   list(TRANSFORM TQR7_LANGUAGES REPLACE "(.+)" "${CMAKE_BINARY_DIR}/po/\\1.po" OUTPUT_VARIABLE catalogues)
   install(FILES ${catalogues} DESTINATION "${TQR7_DATA_DIR}/po" COMPONENT driver)
-  install(FILES docs/rastertoprinter.8 docs/commandtoprinter.8
+  install(FILES docs/rastertoprinter.8 docs/commandtoprinter.8 docs/phototopage.8 docs/rastertopage.8
     DESTINATION "${CMAKE_INSTALL_MANDIR}/man8" COMPONENT driver)
 
   install(TARGETS tqr7 tqr7-printer-sim

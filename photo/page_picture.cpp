@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "photo/photo_rows.h"
 #include "photo/picture_turn.h"
 #include "photo/resampler.h"
 #include "photo/to_srgb.h"
@@ -71,25 +72,6 @@ void lay_on(tools::Picture& page, const tools::Picture& part, const DotArea& pla
 }
 
 }  // namespace
-
-std::string read_facts(std::FILE* file, PhotoFacts& facts) {
-  std::rewind(file);
-  const std::unique_ptr<PhotoRows> reader = find_reader(file);
-  return reader != nullptr ? reader->Open(facts) : "it is neither a JPEG nor a PNG file";
-}
-
-PhotoShape upright_shape(const PhotoFacts& facts) {
-  PhotoShape shape{facts.width, facts.height, 0, 0};
-  if (facts.density.IsKnown()) {
-    shape.perInchAcross = facts.density.across;
-    shape.perInchDown = facts.density.down;
-  }
-  if (swaps_sides(facts.orientation)) {
-    std::swap(shape.width, shape.height);
-    std::swap(shape.perInchAcross, shape.perInchDown);
-  }
-  return shape;
-}
 
 std::string make_page(std::FILE* file, const Layout& layout, std::size_t number,
                       const JobWishes& wishes, tools::Picture& page) {

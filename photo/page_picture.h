@@ -9,17 +9,9 @@
 
 #include "photo/job_wishes.h"
 #include "photo/layout.h"
-#include "photo/photo_rows.h"
 #include "tools/picture.h"
 
 namespace photo {
-
-/// Reads what the file says of its picture, from the beginning. Says why it cannot be printed, or
-/// nothing.
-std::string read_facts(std::FILE* file, PhotoFacts& facts);
-
-/// The photo as one looks at it.
-PhotoShape upright_shape(const PhotoFacts& facts);
 
 /// Makes page `number`, counted from 0, of the layout, as it lies on the sheet. Reads the file from
 /// its beginning. Says why not, or nothing.

@@ -16,6 +16,7 @@
 #include "photo/job_wishes.h"
 #include "photo/page_output.h"
 #include "photo/page_picture.h"
+#include "photo/read_facts.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "photo/page_picture.h"
 #include "photo/picture_turn.h"
+#include "photo/read_facts.h"
 #include "photo/to_srgb.h"
 
 namespace tools {

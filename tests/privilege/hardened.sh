@@ -22,6 +22,9 @@ expect_hardened() {
 
 expect_hardened rastertoprinter program libTQR7mervale.so libcups.so libcupsimage.so
 expect_hardened commandtoprinter program libTQR7mervale.so libcups.so libcupsimage.so
+expect_hardened phototopage program libcups.so libcupsimage.so libjpeg.so libpng16.so liblcms2.so \
+  libzimg.so
+expect_hardened rastertopage program libcups.so libcupsimage.so
 expect_hardened libTQR7mervale.so.1 library liblcms2.so
 expect_hardened tqr7-printer-sim program liblcms2.so libpng16.so
 expect_hardened tqr7 program libcups.so libjpeg.so libpng16.so liblcms2.so libarchive.so
