@@ -21,6 +21,7 @@ picture "$work/half.jpg" 1852 616
 picture "$work/upright.jpg" 800 1200
 picture "$work/upright.pdf" 1200 1800
 picture "$work/broad.pdf" 1440 1200
+picture "$work/broad.jpg" 1440 1200
 raster pwgraster "$work/photo.pdf" "$work/photo.pwg"
 raster urf "$work/photo.pdf" "$work/photo.urf"
 raster pwgraster "$work/upright.pdf" "$work/upright.pwg"
@@ -31,6 +32,7 @@ bordered=$(media_col 15680 10431 711 627 711 627)
 two_pages=$(media_col 15768 5215 44 0 44 0)
 fill='keyword print-scaling fill'
 fit='keyword print-scaling fit'
+auto='keyword print-scaling auto'
 
 declare -A format=([jpg]=image/jpeg [pdf]=application/pdf [pwg]=image/pwg-raster [urf]=image/urf)
 jobs=() queue_options=()
@@ -52,10 +54,13 @@ print_on jpeg_bordered photo.jpg "$bordered" "$fill"
 print_on jpeg_upright upright.jpg "$borderless" "$fill"
 print_on jpeg_copies photo.jpg "$borderless" 'integer copies 2'
 print_on jpeg_two_prints half.jpg "$two_pages" "$fill" 'integer copies 2'
+print_on jpeg_fitted broad.jpg "$borderless" "$fit"
+print_on jpeg_auto broad.jpg "$borderless" "$auto"
+print_on jpeg_auto_bordered photo.jpg "$bordered" "$auto"
 print_on pdf_borderless photo.pdf "$borderless"
 print_on pwg_borderless photo.pwg "$borderless"
 print_on pwg_bordered photo.pwg "$bordered"
-print_on pwg_auto photo.pwg "$borderless" 'keyword print-scaling auto'
+print_on pwg_auto photo.pwg "$borderless" "$auto"
 print_on pwg_filled upright.pwg "$borderless" "$fill"
 print_on urf_borderless photo.urf "$borderless"
 print_on urf_bordered photo.urf "$bordered"
@@ -84,7 +89,7 @@ expect_sheet "$work/jpeg_copies/sheet-0002.png" 1852 1232 "${whole[@]}" "${corne
 # The border is white to its inmost dot.
 read -ra within <<<"$(quarters_of 84 74 1684 1084 c85a50 50965a 465a96 d2b45a)"
 border=(82 300 ffffff 300 72 ffffff 1770 300 ffffff 300 1160 ffffff)
-for queue in jpeg_bordered pwg_bordered urf_bordered; do
+for queue in jpeg_bordered jpeg_auto_bordered pwg_bordered urf_bordered; do
   expect_sheet "$work/$queue/sheet-0001.png" 1852 1232 "${within[@]}" "${border[@]}"
 done
 
@@ -96,9 +101,13 @@ for queue in jpeg_upright pwg_filled pwg_by_default jpeg_by_default; do
 done
 
 # A picture of 6 x 5 covers the sheet when it fills it, and fitted stands in its middle, 1478 dots wide.
-expect_sheet "$work/urf_filled/sheet-0001.png" 1852 1232 "${whole[@]}" "${corners[@]}"
-expect_sheet "$work/urf_fitted/sheet-0001.png" 1852 1232 \
-  182 300 ffffff 1670 300 ffffff 194 10 c85a50 1658 10 50965a 194 1220 465a96 1658 1220 d2b45a
+for queue in urf_filled jpeg_auto; do
+  expect_sheet "$work/$queue/sheet-0001.png" 1852 1232 "${whole[@]}" "${corners[@]}"
+done
+for queue in urf_fitted jpeg_fitted; do
+  expect_sheet "$work/$queue/sheet-0001.png" 1852 1232 \
+    182 300 ffffff 1670 300 ffffff 194 10 c85a50 1658 10 50965a 194 1220 465a96 1658 1220 d2b45a
+done
 
 read -ra lower <<<"$(quarters_of 0 616 1852 616 c85a50 50965a 465a96 d2b45a)"
 read -ra upper <<<"$(quarters_of 0 0 1852 616 c85a50 50965a 465a96 d2b45a)"
