@@ -24,17 +24,23 @@ code_of_page() {
   esac
 }
 
-# A command is complete when the shell thinks so.
+# A command is complete when the shell thinks so; it need not be asked of plain words.
+is_complete() {
+  case $1 in
+    *[\'\"\`\|\(\{\&]* | while\ * | until\ * | for\ * | if\ *) bash -n <<<"$1" 2>/dev/null ;;
+  esac
+}
+
 commands_of_page() {
   local line command=''
   while IFS= read -r line; do
-    line=$(sed -E 's/(^| +)# .*$//' <<<"$line")
+    [[ $line != *'# '* ]] || line=$(sed -E 's/(^| +)# .*$//' <<<"$line")
     [ -n "$command$line" ] || continue
     case $line in
       *\\) command+="${line%\\} " && continue ;;
     esac
     command+=$line
-    if bash -n <<<"$command" 2>/dev/null; then
+    if is_complete "$command"; then
       one_line "$command"
       command=''
     else
