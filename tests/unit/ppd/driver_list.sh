@@ -26,7 +26,7 @@ listed=$("$driverd" list 1 10 '' 2>"$work/words" | grep -a -o 'drv:///tqr7[^[:cn
 
 "$driverd" cat drv:///tqr7.drv/tqr7.ppd >"$work/tqr7.ppd" 2>"$work/words" ||
   fail "no PPD: $(cat "$work/words")"
-sed -i "s|\"\(application/vnd.cups-[a-z]* 0 \)$filter/|\"\1$build/|" "$work/tqr7.ppd"
+sed -i "/^\*cups[A-Za-z]*Filter:/s| $filter/| $build/|" "$work/tqr7.ppd"
 # The length at its end differs with the folder's.
 diff <(grep -v '^\*% End of' "$build/tqr7.ppd") <(grep -v '^\*% End of' "$work/tqr7.ppd") ||
   fail 'it is another PPD than the build has'
