@@ -97,7 +97,7 @@ TEST(PpdLines, NameThePrinterInWordsThatDoNotChange) {
 TEST(PpdLines, SendRasterToTheFilterByItsAbsolutePath) {
   const Ppd ppd = open_ppd();
   ASSERT_NE(ppd, nullptr);
-  ASSERT_EQ(ppd->num_filters, 2);
+  ASSERT_EQ(ppd->num_filters, 4);
   EXPECT_STREQ(ppd->filters[0],
                "application/vnd.cups-raster 0 " TQR7_FILTER_DIR "/rastertoprinter");
   EXPECT_EQ(std::string(TQR7_FILTER_DIR).front(), '/');
@@ -106,9 +106,23 @@ TEST(PpdLines, SendRasterToTheFilterByItsAbsolutePath) {
 TEST(PpdLines, SendCommandsToTheCommandFilterBesideTheFilter) {
   const Ppd ppd = open_ppd();
   ASSERT_NE(ppd, nullptr);
-  ASSERT_EQ(ppd->num_filters, 2);
+  ASSERT_EQ(ppd->num_filters, 4);
   EXPECT_STREQ(ppd->filters[1],
                "application/vnd.cups-command 0 " TQR7_FILTER_DIR "/commandtoprinter");
+}
+
+TEST(PpdLines, SendPhotosToTheFilterThroughTheProgramThatMakesPagesOfThem) {
+  const Ppd ppd = open_ppd();
+  ASSERT_NE(ppd, nullptr);
+  ASSERT_EQ(ppd->num_filters, 4);
+  EXPECT_STREQ(ppd->filters[2], "image/jpeg 0 " TQR7_FILTER_DIR "/rastertoprinter");
+  EXPECT_STREQ(ppd->filters[3], "image/png 0 " TQR7_FILTER_DIR "/rastertoprinter");
+  const ppd_attr_t* const jpeg = ppdFindAttr(ppd.get(), "cupsPreFilter", nullptr);
+  ASSERT_NE(jpeg, nullptr);
+  EXPECT_STREQ(jpeg->value, "image/jpeg 0 " TQR7_FILTER_DIR "/phototopage");
+  const ppd_attr_t* const png = ppdFindNextAttr(ppd.get(), "cupsPreFilter", nullptr);
+  ASSERT_NE(png, nullptr);
+  EXPECT_STREQ(png->value, "image/png 0 " TQR7_FILTER_DIR "/phototopage");
 }
 
 TEST(PpdLines, NameTheCommands) {
