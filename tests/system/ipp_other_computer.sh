@@ -25,12 +25,12 @@ PATH=$PATH:/usr/sbin lpadmin -p there -E -v "$shared" -m everywhere || fail 'lpa
 picture "$work/photo.jpg" 1852 1232
 picture "$work/photo.pdf" 1852 1232
 picture "$work/large.jpg" 1852 2434
-sheets=0
+queue=there sheets=0
 # Prints there, and looks for so many sheets more here.
 print_there() {
   local count=$1 pngs
   shift
-  print_job there "$@"
+  print_job "$queue" "$@"
   expect_completed "$JOB"
   sheets=$((sheets + count))
   sheet=$(printf '%s/photo/sheet-%04d.png' "$work" "$sheets")
@@ -70,6 +70,25 @@ read -ra large <<<"$(quarters_of 0 0 1852 2434 c85a50 50965a 465a96 d2b45a)"
 expect_sheet "$sheet" 1852 2434 "${large[@]}"
 print_there 1 -o PageSize=156.8x206.08mm.Borderless "$work/photo.jpg"
 expect_equal 'a size by the name there' "$default" "$printed"
+
+# With our PPD, but for the filters, all of it does.
+(
+  cd "$work" && cp "$our_scheduler/etc/ppd/photo.ppd" photo.ppd || exit 1
+  grep -v '^\*cups[A-Za-z]*Filter' photo.ppd >shared.ppd
+  printf '*cupsFilter2: "%s %s 0 -"\n' application/pdf application/pdf image/jpeg image/jpeg \
+    image/png image/png >>shared.ppd
+) || fail 'our PPD without its filters'
+PATH=$PATH:/usr/sbin lpadmin -p dialog -E -v "$shared" -P "$work/shared.ppd" 2>>"$work/lpadmin.said" ||
+  fail 'lpadmin with our PPD'
+queue=dialog
+print_there 1 -o PageSize=RQ_15x20 -o RQPrintFinish=Matte -o print-scaling=fill "$work/large.jpg"
+expect_equal 'a size and a finish of our PPD' \
+  '1852 x 2434, matte, image 1852 x 2434 at 0, 0, one print, mode auto' "$printed"
+print_there 2 -n 2 -o PageSize=RQ_10x15 "$work/photo.pdf"
+expect_sheet "$sheet" 1852 1232 "${whole[@]}"
+print_there 1 -o PageSize=RQ_10x15_WB -o RQPrintMode=Fast "$work/photo.jpg"
+expect_equal 'a border and a mode of our PPD' \
+  '1852 x 1232, gloss, image 1684 x 1084 at 84, 74, one print, mode fast' "$printed"
 
 expect_no_protocol_errors
 finish
