@@ -32,7 +32,8 @@ void fill_blank(std::size_t count, const IsWhite& isWhite, const Copy& copy) {
     while (lines <= kBlankLines && lines < count && isWhite(lineAt(lines))) {
       ++lines;
     }
-    for (std::size_t i = 0; lines <= kBlankLines && i < lines; ++i) {
+    const bool copied = lines <= kBlankLines && lines < count;
+    for (std::size_t i = 0; copied && i < lines; ++i) {
       copy(lineAt(lines), lineAt(i));
     }
   };
