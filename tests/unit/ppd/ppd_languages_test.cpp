@@ -151,6 +151,10 @@ TEST(PpdLanguages, AreThoseOfTheCatalogues) {
   EXPECT_EQ(std::string(found->value), "en " TQR7_LANGUAGES);
 }
 
+TEST(PpdLanguages, AreEnglishAndTheTenThatThisDriverSpeaks) {
+  EXPECT_EQ(std::string("en " TQR7_LANGUAGES), "en de es fr it ja ko nl pl pt zh_CN");
+}
+
 // What a reader does with a longer text, which is why the catalogues may have none.
 TEST(PpdLanguages, LoseWhatIsBeyondEightyBytesOfAText) {
   ppd_attr_t attribute;
