@@ -99,6 +99,8 @@ TEST_F(Phototopage, PutsAFittedPhotoIntoTheMiddleOfWhite) {
 TEST_F(Phototopage, FillsAutomaticallyWhereThereIsNoBorder) {
   const std::string photo = Make("photo.png", 600, 600);
   EXPECT_NE(Print(photo, "PageSize=RQ_10x15 print-scaling=auto").at(0).At(0, 0), kWhite);
+  EXPECT_NE(Print(photo, "PageSize=RQ_5x15x2_1 print-scaling=auto").at(0).At(0, 0), kWhite);
+  EXPECT_NE(Print(photo, "PageSize=RQ_5x15x2_2 print-scaling=auto").at(0).At(0, 0), kWhite);
   EXPECT_EQ(Print(photo, "PageSize=RQ_10x15_WB print-scaling=auto").at(0).At(0, 0), kWhite);
 }
 
