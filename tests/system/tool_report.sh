@@ -112,7 +112,7 @@ report -o "$work/page.tar.gz" >/dev/null || fail 'a job of a class'
 unpack "$work/page.tar.gz"
 folder=$work/unpacked/tqr7-report-room-2
 expect_in log.txt '[Job 2] Formatting (title) 1.'
-expect_in log.txt '[Job 2] xpages = 1x6.17in, ypages = 1x4.11in'
+expect_in log.txt '[Job 2] Reading the photo.'
 expect_in exchanges.txt '[CMD] 0000: 1b 47 44 30 00 00 01 16'
 expect_in ppd.txt 'NickName: CORVANTIEL TQR7'
 expect_in status.txt 'class of photo'

@@ -111,18 +111,30 @@ TEST(PpdLines, SendCommandsToTheCommandFilterBesideTheFilter) {
                "application/vnd.cups-command 0 " TQR7_FILTER_DIR "/commandtoprinter");
 }
 
-TEST(PpdLines, SendPhotosToTheFilterThroughTheProgramThatMakesPagesOfThem) {
+// Photos become raster on their way, by what runs before the filter.
+TEST(PpdLines, SendPhotosThroughPhototopage) {
   const Ppd ppd = open_ppd();
   ASSERT_NE(ppd, nullptr);
   ASSERT_EQ(ppd->num_filters, 4);
   EXPECT_STREQ(ppd->filters[2], "image/jpeg 0 " TQR7_FILTER_DIR "/rastertoprinter");
   EXPECT_STREQ(ppd->filters[3], "image/png 0 " TQR7_FILTER_DIR "/rastertoprinter");
-  const ppd_attr_t* const jpeg = ppdFindAttr(ppd.get(), "cupsPreFilter", nullptr);
-  ASSERT_NE(jpeg, nullptr);
-  EXPECT_STREQ(jpeg->value, "image/jpeg 0 " TQR7_FILTER_DIR "/phototopage");
-  const ppd_attr_t* const png = ppdFindNextAttr(ppd.get(), "cupsPreFilter", nullptr);
-  ASSERT_NE(png, nullptr);
-  EXPECT_STREQ(png->value, "image/png 0 " TQR7_FILTER_DIR "/phototopage");
+  const ppd_attr_t* line = ppdFindAttr(ppd.get(), "cupsPreFilter", nullptr);
+  ASSERT_NE(line, nullptr);
+  EXPECT_STREQ(line->value, "image/jpeg 0 " TQR7_FILTER_DIR "/phototopage");
+  line = ppdFindNextAttr(ppd.get(), "cupsPreFilter", nullptr);
+  ASSERT_NE(line, nullptr);
+  EXPECT_STREQ(line->value, "image/png 0 " TQR7_FILTER_DIR "/phototopage");
+}
+
+TEST(PpdLines, SendEveryOtherRasterThroughRastertopage) {
+  const Ppd ppd = open_ppd();
+  ASSERT_NE(ppd, nullptr);
+  const ppd_attr_t* line = ppdFindAttr(ppd.get(), "cupsPreFilter", nullptr);
+  line = line != nullptr ? ppdFindNextAttr(ppd.get(), "cupsPreFilter", nullptr) : nullptr;
+  line = line != nullptr ? ppdFindNextAttr(ppd.get(), "cupsPreFilter", nullptr) : nullptr;
+  ASSERT_NE(line, nullptr);
+  EXPECT_STREQ(line->value, "application/vnd.cups-raster 0 " TQR7_FILTER_DIR "/rastertopage");
+  EXPECT_EQ(ppdFindNextAttr(ppd.get(), "cupsPreFilter", nullptr), nullptr);
 }
 
 TEST(PpdLines, NameTheCommands) {
