@@ -44,7 +44,10 @@ expect_file 644 "$prefix/share/bash-completion/completions/tqr7"
 grep -qF "$root$module/libTQR7mervale.so.1" <(ldd "$root$module/rastertoprinter") ||
   fail 'the filter does not take the library beside it'
 drv=$(find "$root" -name tqr7.drv)
-# The catalogues lie where they will be found once all of this is in its place.
+# Catalogues lie where they are found once all of this is in its place; here they are not.
+while read -r catalogue; do
+  expect_file 644 "$catalogue"
+done < <(sed -n 's/^#po [^ ]* "\(.*\)"$/\1/p' "$drv")
 ppdc -d "$root/ppd" "$drv" 2>/dev/null || fail 'tqr7.drv does not compile'
 grep -qF "\"application/vnd.cups-raster 0 $module/rastertoprinter\"" "$root/ppd/tqr7.ppd" ||
   fail "the PPD does not name $module/rastertoprinter"
