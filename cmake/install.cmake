@@ -16,7 +16,10 @@ set(TQR7_MODULE_PROGRAMS rastertoprinter commandtoprinter phototopage rastertopa
 set(TQR7_MODULE_LIBRARIES TQR7mervale)                      # targets
 set(TQR7_MODULE_FILES tqr7.icc)                             # targets and files at the build's top
 
-if(APPLE)
+# macOS keeps drivers in folders of its own, whatever the prefix. Elsewhere the layout can be looked at.
+option(TQR7_MACOS_LAYOUT "Install the driver where macOS looks for printer drivers" ${APPLE})
+
+if(TQR7_MACOS_LAYOUT)
   set(module_dir /Library/Printers/CORVANTIEL/filter)
 else()
   set(module_dir "${CMAKE_INSTALL_PREFIX}/lib/cups/filter/tqr7")
@@ -32,10 +35,18 @@ if(NOT IS_ABSOLUTE "${TQR7_FILTER_DIR}")
 endif()
 # The scheduler's list of drivers is made of what lies in its own share/cups/drv.
 set(TQR7_DRV_DIR "${CMAKE_INSTALL_DATADIR}/cups/drv" CACHE PATH "Folder of the PPD's source, tqr7.drv")
-set(TQR7_DATA_DIR "${CMAKE_INSTALL_FULL_DATADIR}/tqr7" CACHE PATH
-    "Absolute folder of what the PPD's source reads, its catalogues")
-set(TQR7_LOCALE_DIR "${CMAKE_INSTALL_FULL_LOCALEDIR}" CACHE PATH
-    "Absolute folder of the programs' catalogues, where there is none beside the programs")
+# Empty, so that they follow when the same build folder gets another prefix.
+set(TQR7_DATA_DIR "" CACHE PATH
+    "Absolute folder of what the PPD's source reads, its catalogues; empty: below the prefix")
+if(TQR7_DATA_DIR STREQUAL "")
+  set(TQR7_DATA_DIR "${CMAKE_INSTALL_FULL_DATADIR}/tqr7")
+endif()
+set(TQR7_LOCALE_DIR "" CACHE PATH
+    "Absolute folder of the programs' catalogues, where there is none beside the programs; empty: \
+below the prefix")
+if(TQR7_LOCALE_DIR STREQUAL "")
+  set(TQR7_LOCALE_DIR "${CMAKE_INSTALL_FULL_LOCALEDIR}")
+endif()
 
 # A scheduler starts no filter from a folder that others than root can write to.
 set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
@@ -68,7 +79,12 @@ function(tqr7_install)
   endforeach()
   file(GENERATE OUTPUT "${CMAKE_BINARY_DIR}/module-files" CONTENT "$<JOIN:${names},\n>\n")
 
-  install(FILES "${CMAKE_BINARY_DIR}/tqr7.drv" DESTINATION "${TQR7_DRV_DIR}" COMPONENT driver)
+  if(TQR7_MACOS_LAYOUT)  # its scheduler's share/cups/drv is sealed
+    install(FILES "${CMAKE_BINARY_DIR}/installed/tqr7.ppd"
+      DESTINATION /Library/Printers/PPDs/Contents/Resources COMPONENT driver)
+  else()
+    install(FILES "${CMAKE_BINARY_DIR}/tqr7.drv" DESTINATION "${TQR7_DRV_DIR}" COMPONENT driver)
+  endif()
   list(TRANSFORM TQR7_LANGUAGES REPLACE "(.+)" "${CMAKE_BINARY_DIR}/po/\\1.po" OUTPUT_VARIABLE catalogues)
   install(FILES ${catalogues} DESTINATION "${TQR7_DATA_DIR}/po" COMPONENT driver)
   install(FILES docs/rastertoprinter.8 docs/commandtoprinter.8 docs/phototopage.8 docs/rastertopage.8
