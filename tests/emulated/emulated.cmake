@@ -1,0 +1,33 @@
+# SPDX-License-Identifier: Apache-2.0
+#
+# tqr7_add_emulated_tests(PROGRAM LABEL): a program's tests in the emulator, without those that
+# left_out.txt names. The tests of the filter as a process are many: each program of them runs in parts.
+set(TQR7_LEFT_OUT "${CMAKE_CURRENT_LIST_DIR}/left_out.txt")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${TQR7_LEFT_OUT}")
+file(STRINGS "${TQR7_LEFT_OUT}" TQR7_LEFT_OUT_ROWS REGEX "^[a-z]")
+
+function(tqr7_add_emulated_tests program label)
+  set(patterns)
+  foreach(row IN LISTS TQR7_LEFT_OUT_ROWS)
+    if(row MATCHES "^${program} ([^ ]+) ")
+      list(APPEND patterns "${CMAKE_MATCH_1}")
+    endif()
+  endforeach()
+  list(JOIN patterns ":" patterns)
+  set(parts 1)
+  if(label STREQUAL "filter")
+    set(parts 8)
+  endif()
+  add_dependencies(${program} start-emulated)
+  foreach(part RANGE 1 ${parts})
+    set(name ${program})
+    if(parts GREATER 1)
+      set(name ${program}.${part})
+    endif()
+    math(EXPR index "${part} - 1")
+    add_test(NAME ${name} COMMAND ${program} "--gtest_filter=-${patterns}")
+    set_tests_properties(${name} PROPERTIES LABELS ${label} COST 50 TIMEOUT 900
+      ENVIRONMENT
+      "GTEST_TOTAL_SHARDS=${parts};GTEST_SHARD_INDEX=${index};QEMU_SET_ENV=LD_PRELOAD=$<TARGET_FILE:start-emulated>")
+  endforeach()
+endfunction()
