@@ -26,7 +26,7 @@ function(tqr7_add_emulated_tests program label)
     endif()
     math(EXPR index "${part} - 1")
     add_test(NAME ${name} COMMAND ${program} "--gtest_filter=-${patterns}")
-    set_tests_properties(${name} PROPERTIES LABELS ${label} COST 50 TIMEOUT 900
+    set_tests_properties(${name} PROPERTIES LABELS ${label} COST 50 TIMEOUT 1800
       ENVIRONMENT
       "GTEST_TOTAL_SHARDS=${parts};GTEST_SHARD_INDEX=${index};QEMU_SET_ENV=LD_PRELOAD=$<TARGET_FILE:start-emulated>")
   endforeach()
