@@ -132,12 +132,38 @@ gamma-1.png|PNG, `gAMA` of 1
 ROWS
 }
 
+# Documents of other sizes than the page, drawn by Ghostscript.
+document_table() {
+  local name what scaling width=1852 height=1232
+  export CONTENT_TYPE=application/pdf
+  printf '\n### Documents on RQ_10x15: what `print-scaling` does\n\n'
+  printf '| The page of the document | without | `fill` | `fit` | `auto` | `none` |\n'
+  printf '|---|---|---|---|---|---|\n'
+  while IFS='|' read -r name what; do
+    printf '| %s |' "$what"
+    for scaling in '' fill fit auto none; do
+      options="PageSize=RQ_10x15${scaling:+ print-scaling=$scaling}"
+      run "$filters/pdftopdf" "$options" "$work/$name.pdf" >"$work/job.pdf"
+      run "$filters/gstoraster" "$options" "$work/job.pdf" >"$work/raster"
+      printf ' %s |' "$(marks_of_page "$work/raster")"
+    done
+    printf '\n'
+  done <<'ROWS'
+photo|6 x 4 inches
+portrait|4 x 6 inches
+a4|A4
+ROWS
+}
+
 "$tools/make-photo" "$work/photo.jpg" 900 600 plain
 "$tools/make-photo" "$work/photo.ppm" 900 600 plain
 "$tools/make-test-picture" "$work/photo.pdf" 1800 1200
+"$tools/make-test-picture" "$work/portrait.pdf" 1200 1800
+"$tools/make-test-picture" "$work/a4.pdf" 2480 3508
 {
   size_tables
   file_table
+  document_table
   echo
 } >"$work/tables"
 

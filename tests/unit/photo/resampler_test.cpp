@@ -124,6 +124,20 @@ TEST(Resampler, MakesNoStepsWhereItsStripsMeet) {
   }
 }
 
+// Strips of 128 rows begin elsewhere when only a part is made: what a strip looks at beyond its
+// ends must not show.
+TEST(Resampler, MakesTheSameRowsWhereverItsStripsMeet) {
+  const Picture from = motley(40, 600);
+  for (const std::size_t height : {std::size_t{300}, std::size_t{1200}}) {
+    const double step = 600.0 / static_cast<double>(height);
+    const Picture whole = resampled(from, {0, 0, 40, 600}, 40, height);
+    const Picture part = resampled(from, {0, 100 * step, 40, 150 * step}, 40, 150);
+    for (std::size_t i = 0; i < part.rgb.size(); ++i) {
+      ASSERT_NEAR(part.rgb[i], whole.rgb[3 * 40 * 100 + i], 1) << i / 120 << " of " << height;
+    }
+  }
+}
+
 TEST(Resampler, PutsThePictureWhereItBelongsToAFractionOfAPixel) {
   Picture from(100, 4);
   for (std::size_t x = 0; x < 100; ++x) {
