@@ -168,8 +168,9 @@ Layout lay_out(const PhotoShape& photo, std::size_t pageWidth, std::size_t pageH
   const double pixelsAcross = static_cast<double>(photo.width) / static_cast<double>(across);
   const double pixelsDown = static_cast<double>(photo.height) / static_cast<double>(down);
   for (std::size_t i = 0; i < across * down; ++i) {
+    const std::size_t column = i / down;
     const Stretch x =
-        place(pixelsAcross * static_cast<double>(i / down), pixelsAcross,
+        place(pixelsAcross * static_cast<double>(column), pixelsAcross,
               size.width / static_cast<double>(across), layout.pageWidth, wishes.position.across);
     const Stretch y =
         place(pixelsDown * static_cast<double>(i % down), pixelsDown,
