@@ -58,7 +58,7 @@ Matrix make_hue(double degrees) {
   return matrix;
 }
 
-void apply(const Matrix& matrix, tools::Picture& picture) {
+void apply_matrix(const Matrix& matrix, tools::Picture& picture) {
   for (std::size_t i = 0; i + 2 < picture.rgb.size(); i += kColours) {
     std::uint8_t* const rgb = &picture.rgb[i];
     const std::array<double, kColours> from = {
@@ -74,10 +74,10 @@ void apply(const Matrix& matrix, tools::Picture& picture) {
 
 void apply_tones(const JobWishes& wishes, tools::Picture& picture) {
   if (wishes.saturation != kUnchanged) {
-    apply(make_saturation(static_cast<double>(wishes.saturation) / kUnchanged), picture);
+    apply_matrix(make_saturation(static_cast<double>(wishes.saturation) / kUnchanged), picture);
   }
   if (wishes.hue != 0) {
-    apply(make_hue(wishes.hue), picture);
+    apply_matrix(make_hue(wishes.hue), picture);
   }
   if (wishes.gamma != 1 || wishes.brightness != 1) {
     const Curve curve = make_curve(wishes.gamma, wishes.brightness);
