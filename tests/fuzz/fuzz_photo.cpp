@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Fuzzes the way of a photo with any bytes as its file: a page of the size asked for, or a reason, and
-// the same both times. The first two bytes are the job's wishes.
+// Fuzzes the way of a photo with any bytes as its file: a page of the size asked for, or a reason,
+// and the same both times. The first two bytes are the job's wishes.
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
