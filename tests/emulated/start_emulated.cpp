@@ -13,6 +13,11 @@
 #include <cstdlib>
 #include <cstring>
 
+#ifndef TQR7_EMULATOR  // a build for this machine knows of this file only to have it checked
+#define TQR7_EMULATOR ""
+#define TQR7_SYSROOT ""
+#endif
+
 namespace {
 
 using Execute = int (*)(const char*, char* const[], char* const[]);
