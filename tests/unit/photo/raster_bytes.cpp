@@ -4,7 +4,6 @@
 #include <png.h>
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
@@ -16,7 +15,7 @@ struct Reading {
 ssize_t read_some(void* context, unsigned char* buffer, std::size_t bytes) {
   auto& reading = *static_cast<Reading*>(context);
   const std::size_t some = std::min(bytes, reading.stream.size() - reading.place);
-  std::memcpy(buffer, reading.stream.data() + reading.place, some);
+  reading.stream.copy(reinterpret_cast<char*>(buffer), some, reading.place);
   reading.place += some;
   return static_cast<ssize_t>(some);
 }

@@ -133,7 +133,7 @@ TEST(Resampler, MakesTheSameRowsWhereverItsStripsMeet) {
     const Picture whole = resampled(from, {0, 0, 40, 600}, 40, height);
     const Picture part = resampled(from, {0, 100 * step, 40, 150 * step}, 40, 150);
     for (std::size_t i = 0; i < part.rgb.size(); ++i) {
-      ASSERT_NEAR(part.rgb[i], whole.rgb[3 * 40 * 100 + i], 1) << i / 120 << " of " << height;
+      ASSERT_NEAR(part.rgb[i], whole.rgb[3UL * 40 * 100 + i], 1) << i / 120 << " of " << height;
     }
   }
 }
