@@ -2,10 +2,12 @@
 #include <algorithm>
 #include <array>
 #include <csetjmp>
+#include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
 #include "photo/photo_rows.h"
+#include "photo/refusal.h"
 #include "tools/exif.h"
 
 // jpeglib.h needs what <cstdio> declares.
@@ -72,6 +74,9 @@ class JpegRows : public PhotoRows {
 void JpegRows::give_up(j_common_ptr jpeg) {
   JpegRows& reader = self(jpeg);
   jpeg->err->format_message(jpeg, reader.message_.data());
+  if (jpeg->err->msg_code == JERR_OUT_OF_MEMORY) {
+    std::snprintf(reader.message_.data(), reader.message_.size(), "%s", kNoMemory);
+  }
   std::longjmp(reader.givenUp_, 1);  // NOLINT(cert-err52-cpp)
 }
 

@@ -17,6 +17,7 @@
 #include "photo/page_output.h"
 #include "photo/page_picture.h"
 #include "photo/read_facts.h"
+#include "photo/refusal.h"
 
 namespace {
 
@@ -28,9 +29,12 @@ struct CloseFile {
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
 
-int fail(const std::string& why) {
-  std::fprintf(stderr, "ERROR: The photo cannot be printed: %s.\n", why.c_str());
-  return 1;
+int refuse(const std::string& why) {
+  return photo::say_cannot_be_printed("photo", why);
+}
+
+int fail(const char* why) {
+  return photo::say_not_printed("photo", why);
 }
 
 // A photo is read more than once; a pipe can only be read once.
@@ -70,7 +74,7 @@ int print_pages(std::FILE* file, const photo::Layout& layout, const photo::JobWi
       if (set == 0 || layout.pages.size() > 1) {
         if (std::string why = photo::make_page(file, layout, number, wishes, picture);
             !why.empty()) {
-          return fail(why);
+          return refuse(why);
         }
       }
       if (raster == nullptr && (raster = photo::open_output()) == nullptr) {
@@ -97,12 +101,12 @@ int print_photo(const char* optionText, const char* copies, std::FILE* file) {
   std::fputs("INFO: Reading the photo.\n", stderr);
   photo::PhotoFacts facts;
   if (std::string why = photo::read_facts(file, facts); !why.empty()) {
-    return fail(why);
+    return refuse(why);
   }
   const photo::Layout layout =
       photo::lay_out(photo::upright_shape(facts), page.width, page.height, wishes);
   if (layout.pages.empty()) {
-    return fail("it would take more than " + std::to_string(photo::kPagesMost) + " pages");
+    return refuse("it would take more than " + std::to_string(photo::kPagesMost) + " pages");
   }
   return print_pages(file, layout, wishes, page);
 }
@@ -122,7 +126,7 @@ int main(int argc, char* argv[]) {
     }
     return print_photo(argv[5], argv[4], file.get());
   } catch (const std::bad_alloc&) {
-    return fail("there is too little memory");
+    return fail(photo::kNoMemory);
   } catch (const std::exception& error) {
     return fail(error.what());
   }

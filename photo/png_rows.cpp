@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "photo/photo_rows.h"
+#include "photo/refusal.h"
 #include "tools/exif.h"
 
 namespace photo {
@@ -116,7 +117,7 @@ std::string PngRows::Open(PhotoFacts& facts) {
   png_ = png_create_read_struct(PNG_LIBPNG_VER_STRING, this, give_up, ignore);
   info_ = png_ != nullptr ? png_create_info_struct(png_) : nullptr;
   if (info_ == nullptr) {
-    return "there is too little memory";
+    return kNoMemory;
   }
   if (!ReadHeader()) {
     return Why();

@@ -15,6 +15,7 @@
 #include "photo/job_page.h"
 #include "photo/page_edges.h"
 #include "photo/page_output.h"
+#include "photo/refusal.h"
 
 namespace {
 
@@ -26,8 +27,7 @@ constexpr unsigned kBytesPerPixel = 3;
 constexpr unsigned kLineMost = 4 * kSideMost;  ///< bytes
 
 int fail(const char* why) {
-  std::fprintf(stderr, "ERROR: The pages cannot be printed: %s.\n", why);
-  return 1;
+  return photo::say_not_printed("pages", why);
 }
 
 // What the printer's filter takes; it says itself what is wrong with anything else.
@@ -78,7 +78,7 @@ int print_pages(int descriptor, const photo::JobPage& page) {
   cups_page_header2_t header;
   while (input != nullptr && cupsRasterReadHeader2(input.get(), &header) != 0) {
     if (!is_plain_rgb(header)) {
-      return fail("their raster is not 8-bit RGB");
+      return photo::say_cannot_be_printed("pages", "their raster is not 8-bit RGB");
     }
     photo::PageSheet sheet(page.width, page.height);
     if (!read_page(input.get(), header, page, sheet)) {
@@ -118,7 +118,7 @@ int main(int argc, char* argv[]) {
   try {
     return print_pages(argc, argv);
   } catch (const std::bad_alloc&) {
-    return fail("there is too little memory");
+    return fail(photo::kNoMemory);
   } catch (const std::exception& error) {
     return fail(error.what());
   }

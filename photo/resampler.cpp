@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "photo/light_tables.h"
+#include "photo/refusal.h"
 
 namespace photo {
 namespace {
@@ -22,7 +23,6 @@ constexpr double kStripMemory =
     48.0 * 1024 * 1024;  ///< bytes, where a row of the result needs less
 constexpr double kMemoryMost = 256.0 * 1024 * 1024;  ///< bytes; what needs more is refused
 constexpr double kFilterRadius = 3;  ///< rows that the filter looks at, to each side
-constexpr char kNoMemory[] = "there is too little memory";
 
 struct FreeMemory {
   void operator()(void* memory) const { std::free(memory); }

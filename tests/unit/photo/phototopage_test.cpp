@@ -273,15 +273,29 @@ TEST_F(Phototopage, RefusesAPhotoThatWouldTakeAHeapOfPaper) {
 TEST_F(Phototopage, SaysThatThereIsNoFile) {
   const ToolRun run = run_on(folder_ / "missing", "");
   EXPECT_EQ(run.status, 1);
-  EXPECT_EQ(run.errors, "ERROR: The photo cannot be printed: its file cannot be read.\n");
+  EXPECT_EQ(run.errors, "ERROR: The photo was not printed: its file cannot be read.\n");
 }
 
 TEST_F(Phototopage, SaysThatThereIsNoPpd) {
   const ToolRun run = run_program({"env", "PPD=/nonexistent", PHOTOTOPAGE, "7", "anna", "Beach",
                                    "1", "", Make("photo.png", 30, 20)});
   EXPECT_EQ(run.status, 1);
-  EXPECT_EQ(run.errors,
-            "ERROR: The photo cannot be printed: the queue's PPD file cannot be read.\n");
+  EXPECT_EQ(run.errors, "ERROR: The photo was not printed: the queue's PPD file cannot be read.\n");
+}
+
+// The scheduler forgets what it has not read when it sees the end of the program.
+TEST_F(Phototopage, EndsAfterItsRefusalHasBeenRead) {
+  const std::string photo = Write("no photo");
+  const std::string script = "{ '" PHOTOTOPAGE "' 7 anna Beach 1 PageSize=RQ_10x15 '" + photo +
+                             "' 2>&1 >/dev/null; echo ended >>'" + photo +
+                             "'; } | "
+                             "{ sleep 0.2; cat '" +
+                             photo + "'; cat; }";
+  const ToolRun run = run_program({"env", "PPD=" TQR7_PPD, "sh", "-c", script});
+  EXPECT_EQ(run.out,
+            "no photo"
+            "INFO: Reading the photo.\n"
+            "ERROR: The photo cannot be printed: it is neither a JPEG nor a PNG file.\n");
 }
 
 TEST(PhototopageUsage, IsToldWhenArgumentsAreMissing) {
