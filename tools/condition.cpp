@@ -6,6 +6,7 @@
 
 #include "language/messages.h"
 #include "tools/plain_text.h"
+#include "tools/refused_file.h"
 
 namespace tools {
 namespace {
@@ -19,6 +20,16 @@ std::vector<int> numbers_of(const Queue& queue, JobState state) {
     numbers.push_back(job->id);
   }
   return numbers;
+}
+
+std::vector<RefusedFile> refused_files_of(const Queue& queue) {
+  std::vector<RefusedFile> refused;
+  for (const Job* const job : jobs_in(queue, JobState::Stopped)) {
+    if (const std::string words = words_on_file(*job); !words.empty()) {
+      refused.push_back({job->id, plain_text(words)});
+    }
+  }
+  return refused;
 }
 
 // The advice with this queue's name in it, so that its commands work as they stand.
@@ -68,6 +79,7 @@ Condition condition_of(const Room& room, const Queue& queue) {
   condition.printing = numbers_of(queue, JobState::Processing);
   condition.waiting = numbers_of(queue, JobState::Pending);
   condition.stopped = numbers_of(queue, JobState::Stopped);
+  condition.refusedFiles = refused_files_of(queue);
   condition.held = numbers_of(queue, JobState::Held);
   if (!queue.isClass) {
     const std::size_t colon = queue.deviceUri.find(':');
@@ -115,6 +127,19 @@ Explanation explain_standstill(const Condition& condition) {
                  condition.queue.c_str());
       break;
   }
+  return explanation;
+}
+
+Explanation explain_refused_file(const RefusedFile& refused) {
+  Explanation explanation{};
+  // TRANSLATORS: %2$s is a sentence of a program, in English.
+  explanation.meaning =
+      filled(_("The file of job %1$d itself cannot be printed, and starting the job again does not "
+               "help: %2$s"),
+             refused.job, refused.words.c_str());
+  explanation.remedy =
+      filled(_("`cancel %d` clears it. Then send the file anew, mended or from a good copy."),
+             refused.job);
   return explanation;
 }
 

@@ -21,6 +21,12 @@ struct Reason {
   Explanation explanation;
 };
 
+/// A job whose own file cannot be printed.
+struct RefusedFile {
+  int job;
+  std::string words;  ///< of the program that refused it; fit for a terminal
+};
+
 struct Condition {
   std::string queue;
   bool isClass = false;
@@ -32,7 +38,8 @@ struct Condition {
   std::vector<Reason> reasons;  ///< none, when only "none" stands
   std::vector<int> printing;    ///< jobs, by number
   std::vector<int> waiting;
-  std::vector<int> stopped;  ///< begun, given up by the driver, and left in the queue
+  std::vector<int> stopped;               ///< begun, given up by the driver, and left in the queue
+  std::vector<RefusedFile> refusedFiles;  ///< of the stopped ones
   std::vector<int> held;
   std::string backend;  ///< "socket"; empty for a class
   Bidirectional bidirectional = Bidirectional::CannotTell;
@@ -45,6 +52,9 @@ Condition condition_of(const Room& room, const Queue& queue);
 
 /// Why a stopped queue stands and what to do, as one explanation.
 Explanation explain_standstill(const Condition& condition);
+
+/// What to do about a job whose file cannot be printed.
+Explanation explain_refused_file(const RefusedFile& refused);
 
 /// For people: a line for the queue, and indented ones below.
 std::string in_words(const Condition& condition);

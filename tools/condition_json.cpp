@@ -54,6 +54,18 @@ Json bidirectional_json(const Condition& condition) {
   return condition.bidirectional == Bidirectional::Yes;
 }
 
+Json refused_files(const Condition& condition) {
+  Json list = Json::array();
+  for (const RefusedFile& refused : condition.refusedFiles) {
+    const Explanation explanation = explain_refused_file(refused);
+    list.push_back({{"job", refused.job},
+                    {"words", refused.words},
+                    {"meaning", explanation.meaning},
+                    {"remedy", explanation.remedy}});
+  }
+  return list;
+}
+
 Json queue_json(const Condition& condition) {
   Json json = {{"name", condition.queue},
                {"class", condition.isClass},
@@ -70,6 +82,7 @@ Json queue_json(const Condition& condition) {
                   {"stopped", condition.stopped},
                   {"waiting", condition.waiting},
                   {"held", condition.held}};
+  json["refused_files"] = refused_files(condition);
   json["backend"] = condition.isClass ? Json(nullptr) : Json(condition.backend);
   json["bidirectional"] = bidirectional_json(condition);
   if (condition.isClass) {

@@ -65,17 +65,13 @@ std::string reason_lines(const Condition& condition) {
   return text;
 }
 
-std::string job_lines(const Condition& condition) {
-  std::string text;
-  if (!condition.printing.empty()) {
-    text += line_on_jobs(
-        _n("%1$zu job prints (%2$s)", "%1$zu jobs print (%2$s)", condition.printing.size()),
-        condition.printing);
-  }
-  if (!condition.stopped.empty()) {
-    text += line_on_jobs(_n("%1$zu job stands stopped (%2$s)", "%1$zu jobs stand stopped (%2$s)",
-                            condition.stopped.size()),
-                         condition.stopped);
+// What starts those again whose files are good, then what is wrong with the others.
+std::string stopped_lines(const Condition& condition) {
+  constexpr std::size_t kExplainedMost = 10;
+  std::string text = line_on_jobs(_n("%1$zu job stands stopped (%2$s)",
+                                     "%1$zu jobs stand stopped (%2$s)", condition.stopped.size()),
+                                  condition.stopped);
+  if (condition.stopped.size() > condition.refusedFiles.size()) {
     const char* const remedy =
         condition.cause.kind == Standstill::ByPerson
             ? _("When the queue is started again: `tqr7 resume %s`; or give a job up with `cancel "
@@ -84,6 +80,23 @@ std::string job_lines(const Condition& condition) {
                 "NUMBER`.");
     text += two_lines(_("The driver gave up, and the scheduler does not begin again by itself."),
                       filled(remedy, condition.queue.c_str()));
+  }
+  for (std::size_t i = 0; i < condition.refusedFiles.size() && i < kExplainedMost; ++i) {
+    const Explanation explanation = explain_refused_file(condition.refusedFiles[i]);
+    text += two_lines(explanation.meaning, explanation.remedy);
+  }
+  return text;
+}
+
+std::string job_lines(const Condition& condition) {
+  std::string text;
+  if (!condition.printing.empty()) {
+    text += line_on_jobs(
+        _n("%1$zu job prints (%2$s)", "%1$zu jobs print (%2$s)", condition.printing.size()),
+        condition.printing);
+  }
+  if (!condition.stopped.empty()) {
+    text += stopped_lines(condition);
   }
   if (!condition.waiting.empty()) {
     text += line_on_jobs(

@@ -4,6 +4,8 @@
 #include <algorithm>
 
 #include "language/messages.h"
+#include "tools/plain_text.h"
+#include "tools/refused_file.h"
 #include "tools/standstill.h"
 
 namespace tools {
@@ -22,6 +24,13 @@ bool has_spent_paper(const Job& job, const ResumeRules& rules) {
 }
 
 void plan_job(const Queue& queue, const Job& job, const ResumeRules& rules, ResumePlan& plan) {
+  if (const std::string words = words_on_file(job); !words.empty()) {
+    // TRANSLATORS: %1$s is a sentence of a program, in English, with its full stop.
+    plan.left.push_back({queue.name, job.id,
+                         filled(_("its file cannot be printed (%1$s); `cancel %2$d` clears it"),
+                                plain_text(words).c_str(), job.id)});
+    return;
+  }
   if (rules.unattended && !stopped_by_printer(job)) {
     plan.left.push_back({queue.name, job.id,
                          filled(_("nothing shows that the printer stopped it; `tqr7 resume %s` "

@@ -9,6 +9,7 @@
 #include <tuple>
 #include <vector>
 
+#include "tools/refused_file.h"
 #include "tools/scheduler_words.h"
 
 namespace tools {
@@ -65,7 +66,7 @@ bool is_of_programs(const std::string& said) {
              kWordsOfPrograms.end() ||
          message.starts_with("Unable to write print data") ||
          message.starts_with("Printer stopped due to backend errors") || is_progress(message) ||
-         !refusal_word(message).empty();
+         !refusal_word(message).empty() || refuses_file(message);
 }
 
 // The word is lost where another program complained later. A job that was cancelled since may have

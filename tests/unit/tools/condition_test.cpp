@@ -140,6 +140,40 @@ TEST(ConditionInWords, ListsTenJobsAtMost) {
               HasSubstr("  11 jobs wait (1, 2, 3, 4, 5, 6, 7, 8, 9, 10, …)\n"));
 }
 
+TEST(ConditionInWords, TellsThatAFileCannotBePrintedAndWhatClearsIt) {
+  Queue queue = idle_queue("photo");
+  queue.jobs = {broken_photo_job(12)};
+  const std::string words = tools::in_words(condition_of(queue));
+  EXPECT_THAT(words,
+              HasSubstr("  1 job stands stopped (12)\n"
+                        "    The file of job 12 itself cannot be printed, and starting the "
+                        "job again does not help: The photo cannot be printed: Premature end "
+                        "of JPEG file.\n"
+                        "    To do: `cancel 12` clears it. Then send the file anew, mended "
+                        "or from a good copy.\n"));
+  EXPECT_THAT(words, Not(HasSubstr("tqr7 resume")));
+}
+
+TEST(ConditionInWords, TellsOfABrokenFileBesideAJobThatThePrinterStopped) {
+  Queue queue = idle_queue("photo");
+  queue.jobs = {failed_job(3), broken_photo_job(12)};
+  const std::string words = tools::in_words(condition_of(queue));
+  EXPECT_THAT(words, HasSubstr("2 jobs stand stopped (3, 12)"));
+  EXPECT_THAT(words, HasSubstr("`tqr7 resume photo`; or give a job up"));
+  EXPECT_THAT(words, HasSubstr("The file of job 12 itself"));
+  EXPECT_THAT(words, Not(HasSubstr("The file of job 3 ")));
+}
+
+TEST(ConditionInWords, ExplainsTenBrokenFilesAtMost) {
+  Queue queue = idle_queue("photo");
+  for (int id = 101; id <= 111; ++id) {
+    queue.jobs.push_back(broken_photo_job(id));
+  }
+  const std::string words = tools::in_words(condition_of(queue));
+  EXPECT_THAT(words, HasSubstr("The file of job 110 itself"));
+  EXPECT_THAT(words, Not(HasSubstr("The file of job 111 itself")));
+}
+
 TEST(ConditionInWords, LetsNoControlCharacterThrough) {
   Queue queue = refused_queue("pho\033to");
   queue.reasons = {"pau\033sed"};
@@ -161,6 +195,19 @@ TEST(ConditionAsJson, TellsAllOfAQueue) {
   EXPECT_EQ(photo["jobs"]["stopped"], nlohmann::json::array({7}));
   EXPECT_EQ(photo["bidirectional"], true);
   EXPECT_EQ(photo["backend"], "socket");
+}
+
+TEST(ConditionAsJson, TellsOfFilesThatCannotBePrinted) {
+  Queue queue = idle_queue("photo");
+  queue.jobs = {failed_job(3), broken_photo_job(12)};
+  const auto json = nlohmann::json::parse(tools::as_json({condition_of(queue)}, true));
+  const auto& refused = json["queues"][0]["refused_files"];
+  ASSERT_EQ(refused.size(), 1U);
+  EXPECT_EQ(refused[0]["job"], 12);
+  EXPECT_EQ(refused[0]["words"], "The photo cannot be printed: Premature end of JPEG file.");
+  EXPECT_EQ(refused[0]["remedy"],
+            "`cancel 12` clears it. Then send the file anew, mended or from a good copy.");
+  EXPECT_EQ(json["queues"][0]["jobs"]["stopped"], nlohmann::json({3, 12}));
 }
 
 TEST(ConditionAsJson, SaysNullWhereNothingIsKnown) {

@@ -43,6 +43,15 @@ inline tools::Job failed_job(int id) {
   return job;
 }
 
+/// A job whose photo phototopage has refused.
+inline tools::Job broken_photo_job(int id) {
+  tools::Job job = refused_job(id);
+  job.printerMessage = "The photo cannot be printed: Premature end of JPEG file.";
+  job.printerReasons = {"none"};
+  job.impressions = 0;
+  return job;
+}
+
 /// The queue with the refused job 7, as the driver leaves it.
 inline tools::Queue refused_queue(const char* name) {
   tools::Queue queue = idle_queue(name);

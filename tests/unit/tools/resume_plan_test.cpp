@@ -123,6 +123,28 @@ TEST(ResumePlan, LeavesTheClassJobAloneWhereAPersonStoppedTheClass) {
   EXPECT_EQ(plan.left.size(), 1U);
 }
 
+TEST(ResumePlan, LeavesAJobWhoseFileCannotBePrinted) {
+  Queue queue = idle_queue("photo");
+  queue.jobs = {failed_job(3), broken_photo_job(12)};
+  for (const bool unattended : {false, true}) {
+    const ResumePlan plan = plan_all({{queue}}, {unattended, {}});
+    EXPECT_THAT(jobs_of(plan), ElementsAre(3));
+    ASSERT_EQ(plan.left.size(), 1U);
+    EXPECT_EQ(plan.left[0].job, 12);
+    EXPECT_EQ(plan.left[0].why,
+              "its file cannot be printed (The photo cannot be printed: Premature end of JPEG "
+              "file.); `cancel 12` clears it");
+  }
+}
+
+// A reason may stand from before; an unattended run would start such a job for ever.
+TEST(UnattendedPlan, LeavesAJobWithABrokenFileThoughThePrinterShowsAReason) {
+  Queue queue = idle_queue("photo");
+  queue.jobs = {broken_photo_job(12)};
+  queue.jobs[0].printerReasons = {"com.corvantiel-error0008_2665"};
+  EXPECT_FALSE(plan_all({{queue}}, {true, {}}).HasWork());
+}
+
 TEST(UnattendedPlan, StartsWhatThePrinterStopped) {
   Queue queue = idle_queue("photo");
   queue.jobs = {failed_job(3), refused_job(4)};

@@ -259,6 +259,13 @@ TEST(Standstill, IsTheDriversThoughAJobOfAClassCameThroughLater) {
   EXPECT_EQ(cause.job, 7);
 }
 
+// The first page was refused by the printer while the second could not be read.
+TEST(Standstill, IsTheDriversThoughTheJobKeptTheWordsOnItsFile) {
+  Queue queue = refused_queue("photo");
+  queue.jobs.front().printerMessage = "The photo cannot be printed: Premature end of JPEG file.";
+  EXPECT_EQ(cause_of(queue).kind, Standstill::Refused);
+}
+
 TEST(RefusalWord, IsEachOfTheDriversWordsWithItsNumber) {
   EXPECT_EQ(tools::refusal_word("pagesize-inkribbon-unmuch 0x0001"), "pagesize-inkribbon-unmuch");
   EXPECT_EQ(tools::refusal_word("driver-setting-unmuch 0x0200"), "driver-setting-unmuch");
