@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "photo/grey.h"
+
 namespace photo {
 namespace {
 
@@ -145,6 +147,7 @@ void read_tones(const Options& options, JobWishes& wishes) {
   wishes.brightness = options.Number("brightness", 100, 10, 1000) / kHundred;
   wishes.saturation = options.Number("saturation", 100, 0, 1000);
   wishes.hue = options.Number("hue", 0, -360, 360);
+  wishes.grey = asks_for_grey(options.count, options.all);
 }
 
 }  // namespace

@@ -44,6 +44,7 @@ struct JobWishes {
   double brightness = 1;  ///< above 1 is lighter
   int saturation = 100;   ///< per cent
   int hue = 0;            ///< degrees
+  bool grey = false;      ///< without colours, whatever saturation and hue say
 };
 
 /// Reads the options; `borderless` says whether the page has no margins, which print-scaling=auto

@@ -12,6 +12,7 @@
 #include <new>
 #include <vector>
 
+#include "photo/grey.h"
 #include "photo/job_page.h"
 #include "photo/page_edges.h"
 #include "photo/page_output.h"
@@ -46,13 +47,16 @@ bool is_whole(const cups_page_header2_t& header, const photo::JobPage& page) {
 }
 
 bool read_page(cups_raster_t* input, const cups_page_header2_t& header, const photo::JobPage& page,
-               photo::PageSheet& sheet) {
+               bool grey, photo::PageSheet& sheet) {
   const photo::Corner corner = photo::find_corner(header, page);
   std::vector<std::uint8_t> line(header.cupsBytesPerLine);
   for (unsigned y = 0; y < header.cupsHeight; ++y) {
     if (cupsRasterReadPixels(input, line.data(), header.cupsBytesPerLine) <
         header.cupsBytesPerLine) {
       return false;
+    }
+    if (grey) {
+      photo::turn_grey(line.data(), header.cupsWidth);
     }
     sheet.Lay(corner, y, line.data(), header.cupsWidth);
   }
@@ -72,7 +76,7 @@ cups_page_header2_t resized(const cups_page_header2_t& header, const photo::JobP
   return result;
 }
 
-int print_pages(int descriptor, const photo::JobPage& page) {
+int print_pages(int descriptor, const photo::JobPage& page, bool grey) {
   const photo::Raster input(cupsRasterOpen(descriptor, CUPS_RASTER_READ));
   photo::Raster output;
   cups_page_header2_t header;
@@ -81,7 +85,7 @@ int print_pages(int descriptor, const photo::JobPage& page) {
       return photo::say_cannot_be_printed("pages", "their raster is not 8-bit RGB");
     }
     photo::PageSheet sheet(page.width, page.height);
-    if (!read_page(input.get(), header, page, sheet)) {
+    if (!read_page(input.get(), header, page, grey, sheet)) {
       return fail("a page ends too early");
     }
     if (output == nullptr && (output = photo::open_output()) == nullptr) {
@@ -104,7 +108,7 @@ int print_pages(int argc, char* argv[]) {
   if (file < 0) {
     return fail("their file cannot be read");
   }
-  return print_pages(file, page);
+  return print_pages(file, page, photo::asks_for_grey(options.Count(), options.All()));
 }
 
 }  // namespace

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <numbers>
 
+#include "photo/grey.h"
+
 namespace photo {
 namespace {
 
@@ -31,13 +33,11 @@ Curve make_curve(double gamma, double brightness) {
   return curve;
 }
 
-// The weights are how bright the primaries look.
 Matrix make_saturation(double share) {
-  constexpr std::array<double, kColours> kWeights = {0.2126, 0.7152, 0.0722};
   Matrix matrix{};
   for (std::size_t row = 0; row < kColours; ++row) {
     for (std::size_t column = 0; column < kColours; ++column) {
-      matrix.at(row).at(column) = (1 - share) * kWeights.at(column) + (row == column ? share : 0);
+      matrix.at(row).at(column) = (1 - share) * kLuma.at(column) + (row == column ? share : 0);
     }
   }
   return matrix;
@@ -73,10 +73,13 @@ void apply_matrix(const Matrix& matrix, tools::Picture& picture) {
 }  // namespace
 
 void apply_tones(const JobWishes& wishes, tools::Picture& picture) {
-  if (wishes.saturation != kUnchanged) {
+  if (wishes.grey) {
+    turn_grey(picture.rgb.data(), picture.rgb.size() / kColours);
+  }
+  if (wishes.saturation != kUnchanged && !wishes.grey) {
     apply_matrix(make_saturation(static_cast<double>(wishes.saturation) / kUnchanged), picture);
   }
-  if (wishes.hue != 0) {
+  if (wishes.hue != 0 && !wishes.grey) {
     apply_matrix(make_hue(wishes.hue), picture);
   }
   if (wishes.gamma != 1 || wishes.brightness != 1) {

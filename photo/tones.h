@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// What CUPS lets a job do to a picture's tones: gamma, brightness, saturation, hue.
+// What CUPS lets a job do to a picture's tones: gamma, brightness, saturation, hue, and black
+// and white.
 #ifndef TQR7_PHOTO_TONES_H
 #define TQR7_PHOTO_TONES_H
 

@@ -66,6 +66,10 @@ print_on urf_borderless photo.urf "$borderless"
 print_on urf_bordered photo.urf "$bordered"
 print_on urf_filled broad.urf "$borderless" "$fill"
 print_on urf_fitted broad.urf "$borderless" "$fit"
+grey='keyword print-color-mode monochrome'
+print_on jpeg_grey photo.jpg "$borderless" "$fill" "$grey"
+print_on pdf_grey photo.pdf "$borderless" "$grey"
+print_on urf_grey photo.urf "$borderless" 'keyword print-color-mode auto-monochrome'
 queue_options=(-o print-scaling-default=fill)
 print_on pwg_by_default upright.pwg
 print_on jpeg_by_default upright.jpg "$borderless"
@@ -85,6 +89,13 @@ for queue in jpeg_borderless jpeg_copies pdf_borderless pwg_borderless pwg_auto 
   expect_sheet "$work/$queue/sheet-0001.png" 1852 1232 "${whole[@]}" "${corners[@]}"
 done
 expect_sheet "$work/jpeg_copies/sheet-0002.png" 1852 1232 "${whole[@]}" "${corners[@]}"
+
+# Black and white: each colour is a grey that looks as bright.
+read -ra greys <<<"$(quarters_of 0 0 1852 1232 717171 838383 5a5a5a b4b4b4)"
+for queue in jpeg_grey pdf_grey urf_grey; do
+  expect_sheet "$work/$queue/sheet-0001.png" 1852 1232 "${greys[@]}" \
+    4 4 717171 1847 4 838383 4 1227 5a5a5a 1847 1227 b4b4b4
+done
 
 # The border is white to its inmost dot.
 read -ra within <<<"$(quarters_of 84 74 1684 1084 c85a50 50965a 465a96 d2b45a)"

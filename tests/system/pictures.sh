@@ -23,6 +23,7 @@ head -c 20000 "$work/camera.jpg" >"$work/broken.jpg"
 
 print_job photo "$work/photo.jpg" && photo=$JOB
 print_job drawing -o print-scaling=fill "$work/drawing.png" && drawing=$JOB
+print_job drawing -o print-scaling=fill -o print-color-mode=monochrome "$work/drawing.png" && grey=$JOB
 print_job document "$work/document.pdf" && document=$JOB
 print_job portrait -o print-scaling=fill "$work/portrait.png" && portrait=$JOB
 print_job camera -o print-scaling=fill "$work/camera.jpg" && camera=$JOB
@@ -33,6 +34,7 @@ print_job other -o PageSize=RQ_9x13 "$work/other.ppm" && other=$JOB
 
 expect_completed "$photo"
 expect_completed "$drawing"
+expect_completed "$grey"
 expect_completed "$document"
 expect_completed "$portrait"
 
@@ -43,6 +45,9 @@ expect_sheet "$work/drawing/sheet-0001.png" 1852 1232 "${upright[@]}" \
   4 4 c85a50 1847 4 50965a 4 1227 465a96 1847 1227 d2b45a
 expect_sheet "$work/document/sheet-0001.png" 1852 1232 "${upright[@]}" \
   4 4 c85a50 1847 4 50965a 4 1227 465a96 1847 1227 d2b45a
+# Black and white.
+read -ra greys <<<"$(quarters_of 0 0 1852 1232 717171 838383 5a5a5a b4b4b4)"
+expect_sheet "$work/drawing/sheet-0002.png" 1852 1232 "${greys[@]}"
 # A portrait lies on the sheet with its top at the left: its top right corner comes to the top left.
 read -ra turned <<<"$(quarters_of 0 0 1852 1232 50965a d2b45a c85a50 465a96)"
 expect_sheet "$work/portrait/sheet-0001.png" 1852 1232 "${turned[@]}"

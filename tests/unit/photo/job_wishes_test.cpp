@@ -113,5 +113,22 @@ TEST(JobWishes, TakeTones) {
   EXPECT_TRUE(wishes_of("mirror").mirror);
 }
 
+TEST(JobWishes, AreGreyInEveryModeWithoutColours) {
+  EXPECT_TRUE(wishes_of("print-color-mode=monochrome").grey);
+  EXPECT_TRUE(wishes_of("print-color-mode=auto-monochrome").grey);
+  EXPECT_TRUE(wishes_of("print-color-mode=process-monochrome").grey);
+  EXPECT_TRUE(wishes_of("print-color-mode=bi-level").grey);
+  EXPECT_TRUE(wishes_of("print-color-mode=process-bi-level").grey);
+  EXPECT_TRUE(wishes_of("print-color-mode=Monochrome").grey);
+}
+
+TEST(JobWishes, KeepTheColoursInEveryOtherMode) {
+  EXPECT_FALSE(wishes_of("").grey);
+  EXPECT_FALSE(wishes_of("print-color-mode=color").grey);
+  EXPECT_FALSE(wishes_of("print-color-mode=auto").grey);
+  EXPECT_FALSE(wishes_of("print-color-mode=highlight").grey);
+  EXPECT_FALSE(wishes_of("print-color-mode=").grey);
+}
+
 }  // namespace
 }  // namespace photo

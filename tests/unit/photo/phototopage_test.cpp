@@ -216,6 +216,13 @@ TEST_F(Phototopage, PrintsGreyPhotos) {
   EXPECT_THAT(page.At(926, 616), Near(Rgb{128, 128, 128}));
 }
 
+TEST_F(Phototopage, PrintsBlackAndWhiteAsGreysThatLookAsBright) {
+  const RasterPage page = Print(Make("photo.png", 900, 600),
+                                "PageSize=RQ_10x15 print-scaling=fill print-color-mode=monochrome")
+                              .at(0);
+  expect_quarters(page, {Rgb{113, 113, 113}, {131, 131, 131}, {90, 90, 90}, {180, 180, 180}});
+}
+
 struct BrokenCase {
   const char* name;
   std::string bytes;

@@ -95,6 +95,14 @@ TEST(Rastertopage, HasNoPagesWithoutPages) {
   EXPECT_THAT(pages_after("no raster", "PageSize=RQ_10x15"), SizeIs(0));
 }
 
+TEST(Rastertopage, PrintsBlackAndWhiteAsGreysThatLookAsBright) {
+  RasterPage page = flat_page(1550, 1033, {200, 90, 80});
+  const RasterPage after =
+      pages_after(stream_of({page}), "PageSize=RQ_10x15 print-color-mode=monochrome").at(0);
+  EXPECT_EQ(after.At(0, 0), kWhite);
+  EXPECT_EQ(after.At(926, 616), (Rgb{113, 113, 113}));
+}
+
 void expect_refused(const std::string& stream, const std::string& why) {
   const ToolRun run = run_on(stream, "PageSize=RQ_10x15");
   EXPECT_EQ(run.status, 1);

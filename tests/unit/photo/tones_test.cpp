@@ -47,6 +47,22 @@ TEST(Tones, AreGreyWithoutSaturation) {
   EXPECT_THAT(after(wishes, 255, 255, 255), ElementsAre(255, 255, 255));
 }
 
+TEST(Tones, AreGreyInBlackAndWhiteWhateverSaturationAndHueSay) {
+  JobWishes wishes;
+  wishes.grey = true;
+  wishes.saturation = 200;
+  wishes.hue = 90;
+  EXPECT_THAT(after(wishes, 200, 90, 80), ElementsAre(113, 113, 113));
+  EXPECT_THAT(after(wishes, 255, 255, 255), ElementsAre(255, 255, 255));
+}
+
+TEST(Tones, AreLighterInBlackAndWhiteToo) {
+  JobWishes wishes;
+  wishes.grey = true;
+  wishes.brightness = 2;
+  EXPECT_THAT(after(wishes, 155, 155, 155), ElementsAre(205, 205, 205));
+}
+
 TEST(Tones, TurnRedToGreenWithAThirdOfTheCircle) {
   JobWishes wishes;
   wishes.hue = 120;
