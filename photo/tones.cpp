@@ -75,12 +75,13 @@ void apply_matrix(const Matrix& matrix, tools::Picture& picture) {
 void apply_tones(const JobWishes& wishes, tools::Picture& picture) {
   if (wishes.grey) {
     turn_grey(picture.rgb.data(), picture.rgb.size() / kColours);
-  }
-  if (wishes.saturation != kUnchanged && !wishes.grey) {
-    apply_matrix(make_saturation(static_cast<double>(wishes.saturation) / kUnchanged), picture);
-  }
-  if (wishes.hue != 0 && !wishes.grey) {
-    apply_matrix(make_hue(wishes.hue), picture);
+  } else {
+    if (wishes.saturation != kUnchanged) {
+      apply_matrix(make_saturation(static_cast<double>(wishes.saturation) / kUnchanged), picture);
+    }
+    if (wishes.hue != 0) {
+      apply_matrix(make_hue(wishes.hue), picture);
+    }
   }
   if (wishes.gamma != 1 || wishes.brightness != 1) {
     const Curve curve = make_curve(wishes.gamma, wishes.brightness);
