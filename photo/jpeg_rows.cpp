@@ -76,6 +76,9 @@ void JpegRows::give_up(j_common_ptr jpeg) {
   jpeg->err->format_message(jpeg, reader.message_.data());
   if (jpeg->err->msg_code == JERR_OUT_OF_MEMORY) {
     std::snprintf(reader.message_.data(), reader.message_.size(), "%s", kNoMemory);
+  } else if (jpeg->err->msg_code == JERR_NO_BACKING_STORE) {
+    std::snprintf(reader.message_.data(), reader.message_.size(),
+                  "it is shown in steps, and too large for that");
   }
   std::longjmp(reader.givenUp_, 1);  // NOLINT(cert-err52-cpp)
 }

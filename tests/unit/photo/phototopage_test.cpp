@@ -250,6 +250,13 @@ std::string wide_jpeg() {
   return file;
 }
 
+// A JPEG in steps must be held as a whole until its last one.
+std::string wide_jpeg_in_steps() {
+  std::string file = jpeg_in_steps(16, 16);
+  file.replace(file.find("\xFF\xC2") + 5, 4, "\x2E\xE0\x2E\xE0");
+  return file;
+}
+
 std::string half(const std::string& file) {
   return file.substr(0, file.size() / 2);
 }
@@ -263,10 +270,15 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenCase{"half of a JPEG", half(jpeg_file(900, 600)), "Premature end of JPEG file"},
         BrokenCase{"JPEG of four thousand megapixels", wide_jpeg(),
                    "it claims to have 65500 x 65500 pixels, more than any photo"},
+        BrokenCase{"JPEG in 757 steps", jpeg_in_steps(16, 16), "too many scans"},
+        BrokenCase{"JPEG of 144 megapixels in steps", wide_jpeg_in_steps(),
+                   "it is shown in steps, and too large for that"},
         BrokenCase{"start of a PNG", "\x89PNG\r\n\x1A\n", "Read Error"},
         BrokenCase{"PNG of a million columns", png_claim(1000000, 1000000), "Invalid IHDR data"},
         BrokenCase{"PNG of 3600 megapixels", png_claim(60000, 60000),
                    "it claims to have 60000 x 60000 pixels, more than any photo"},
+        BrokenCase{"PNG of 64 megapixels in steps", png_claim(8000, 8000, true),
+                   "it is interlaced, and too large for that"},
         BrokenCase{"PNG without pixels", png_claim(1000, 1000), "Not enough image data"}));
 
 TEST_F(Phototopage, RefusesAPhotoThatWouldTakeAHeapOfPaper) {

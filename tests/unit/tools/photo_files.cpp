@@ -26,10 +26,12 @@ std::string chunk(const std::string& typeAndData) {
          big_endian(static_cast<std::uint32_t>(check));
 }
 
-}  // namespace
+constexpr int kColours = 3;
 
-std::string jpeg_file(unsigned width, unsigned height, const std::vector<std::uint8_t>& exif,
-                      const std::vector<std::uint8_t>& profile) {
+// A grey picture; `addMarkers` may write what goes before the pixels.
+template <typename AddMarkers>
+std::string compressed(unsigned width, unsigned height, const std::vector<jpeg_scan_info>& steps,
+                       const AddMarkers& addMarkers) {
   jpeg_compress_struct jpeg;
   jpeg_error_mgr errors;
   jpeg.err = jpeg_std_error(&errors);
@@ -39,18 +41,13 @@ std::string jpeg_file(unsigned width, unsigned height, const std::vector<std::ui
   jpeg_mem_dest(&jpeg, &memory, &length);
   jpeg.image_width = width;
   jpeg.image_height = height;
-  jpeg.input_components = 3;
+  jpeg.input_components = kColours;
   jpeg.in_color_space = JCS_RGB;
   jpeg_set_defaults(&jpeg);
+  jpeg.scan_info = steps.empty() ? nullptr : steps.data();
+  jpeg.num_scans = static_cast<int>(steps.size());
   jpeg_start_compress(&jpeg, TRUE);
-  if (!exif.empty()) {
-    std::vector<unsigned char> marker = {'E', 'x', 'i', 'f', 0, 0};
-    marker.insert(marker.end(), exif.begin(), exif.end());
-    jpeg_write_marker(&jpeg, JPEG_APP0 + 1, marker.data(), static_cast<unsigned>(marker.size()));
-  }
-  if (!profile.empty()) {
-    jpeg_write_icc_profile(&jpeg, profile.data(), static_cast<unsigned>(profile.size()));
-  }
+  addMarkers(jpeg);
   std::vector<unsigned char> row(3UL * width, 0x80);
   while (jpeg.next_scanline < height) {
     JSAMPROW rows = row.data();
@@ -61,6 +58,36 @@ std::string jpeg_file(unsigned width, unsigned height, const std::vector<std::ui
   std::string file(memory, memory + length);
   std::free(memory);
   return file;
+}
+
+}  // namespace
+
+std::string jpeg_file(unsigned width, unsigned height, const std::vector<std::uint8_t>& exif,
+                      const std::vector<std::uint8_t>& profile) {
+  return compressed(width, height, {}, [&](jpeg_compress_struct& jpeg) {
+    if (!exif.empty()) {
+      std::vector<unsigned char> marker = {'E', 'x', 'i', 'f', 0, 0};
+      marker.insert(marker.end(), exif.begin(), exif.end());
+      jpeg_write_marker(&jpeg, JPEG_APP0 + 1, marker.data(), static_cast<unsigned>(marker.size()));
+    }
+    if (!profile.empty()) {
+      jpeg_write_icc_profile(&jpeg, profile.data(), static_cast<unsigned>(profile.size()));
+    }
+  });
+}
+
+std::string jpeg_in_steps(unsigned width, unsigned height) {
+  constexpr int kCoefficients = 64;
+  std::vector<jpeg_scan_info> steps = {{kColours, {0, 1, 2}, 0, 0, 0, 0}};
+  for (int colour = 0; colour < kColours; ++colour) {
+    for (int coefficient = 1; coefficient < kCoefficients; ++coefficient) {
+      steps.push_back({1, {colour}, coefficient, coefficient, 0, 3});
+      steps.push_back({1, {colour}, coefficient, coefficient, 3, 2});
+      steps.push_back({1, {colour}, coefficient, coefficient, 2, 1});
+      steps.push_back({1, {colour}, coefficient, coefficient, 1, 0});
+    }
+  }
+  return compressed(width, height, steps, [](jpeg_compress_struct&) {});
 }
 
 std::string with_density(std::string jpeg, unsigned char unit, unsigned char across,
@@ -83,8 +110,9 @@ std::vector<std::uint8_t> exif_data(std::uint8_t orientation) {
           3,   0,   0, 0,  1, 0, orientation, 0, 0, 0, 0,    0,    0};
 }
 
-std::string png_claim(std::uint32_t width, std::uint32_t height) {
-  const std::string rest("\x08\x02\x00\x00\x00", 5);  // 8-bit RGB
+std::string png_claim(std::uint32_t width, std::uint32_t height, bool inSteps) {
+  const std::string rest(std::string("\x08\x02\x00\x00", 4) +
+                         (inSteps ? '\1' : '\0'));  // 8-bit RGB
   return "\x89PNG\r\n\x1A\n" + chunk("IHDR" + big_endian(width) + big_endian(height) + rest) +
          chunk("IDAT") + chunk("IEND");
 }

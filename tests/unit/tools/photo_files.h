@@ -22,7 +22,10 @@ std::vector<std::uint8_t> exif_density_data(std::uint8_t across, std::uint8_t do
 /// Exif data that says this orientation and nothing else.
 std::vector<std::uint8_t> exif_data(std::uint8_t orientation);
 
-/// A PNG that claims a size and has no pixels.
-std::string png_claim(std::uint32_t width, std::uint32_t height);
+/// A grey JPEG that is shown in 757 steps, each of them finer.
+std::string jpeg_in_steps(unsigned width, unsigned height);
+
+/// A PNG that claims a size, to be shown in steps or from top to bottom, and has no pixels.
+std::string png_claim(std::uint32_t width, std::uint32_t height, bool inSteps = false);
 
 #endif  // TQR7_TESTS_UNIT_TOOLS_PHOTO_FILES_H
