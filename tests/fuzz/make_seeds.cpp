@@ -26,6 +26,7 @@ constexpr Maker kMakers[] = {
     {"fuzz_conversion", fuzz::conversion_seeds},
     {"fuzz_fault_script", fuzz::fault_script_seeds},
     {"fuzz_page_loop", fuzz::page_loop_seeds},
+    {"fuzz_photo", fuzz::photo_seeds},
     {"fuzz_ppd_options", fuzz::ppd_options_seeds},
     {"fuzz_profile", fuzz::profile_seeds},
     {"fuzz_replies", fuzz::replies_seeds},

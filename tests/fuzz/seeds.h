@@ -30,6 +30,8 @@ Seeds conversion_seeds();
 
 Seeds profile_seeds();
 
+Seeds photo_seeds();
+
 /// The bytes of a number or of a record as they lie in memory.
 template <typename Record>
 std::string bytes_of(const Record& record) {
