@@ -82,17 +82,17 @@ print_job() {
   JOB=$(sed -n 's/^request id is \([^ ]*\) .*/\1/p' <<<"$said")
 }
 
-# Runs a command until it succeeds, for a minute at most.
+# Runs a command until it succeeds, for two minutes at most.
 wait_until() {
   local what=$1 tries
   shift
-  for ((tries = 0; tries < 600; ++tries)); do
+  for ((tries = 0; tries < 1200; ++tries)); do
     if "$@"; then
       return 0
     fi
     sleep 0.1
   done
-  fail "waited a minute for this: $what"
+  fail "waited two minutes for this: $what"
   return 1
 }
 
