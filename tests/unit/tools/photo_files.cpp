@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
 // jpeglib.h needs what <cstdio> declares.
 #include <jpeglib.h>
@@ -66,9 +67,14 @@ std::string jpeg_file(unsigned width, unsigned height, const std::vector<std::ui
                       const std::vector<std::uint8_t>& profile) {
   return compressed(width, height, {}, [&](jpeg_compress_struct& jpeg) {
     if (!exif.empty()) {
-      std::vector<unsigned char> marker = {'E', 'x', 'i', 'f', 0, 0};
-      marker.insert(marker.end(), exif.begin(), exif.end());
-      jpeg_write_marker(&jpeg, JPEG_APP0 + 1, marker.data(), static_cast<unsigned>(marker.size()));
+      constexpr std::string_view kBegin("Exif\0\0", 6);
+      jpeg_write_m_header(&jpeg, JPEG_APP0 + 1, static_cast<unsigned>(kBegin.size() + exif.size()));
+      for (const char byte : kBegin) {
+        jpeg_write_m_byte(&jpeg, byte);
+      }
+      for (const std::uint8_t byte : exif) {
+        jpeg_write_m_byte(&jpeg, byte);
+      }
     }
     if (!profile.empty()) {
       jpeg_write_icc_profile(&jpeg, profile.data(), static_cast<unsigned>(profile.size()));
