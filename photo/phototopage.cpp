@@ -7,11 +7,10 @@
 
 #include <array>
 #include <cstdio>
-#include <exception>
 #include <memory>
-#include <new>
 #include <string>
 
+#include "photo/filter_program.h"
 #include "photo/job_page.h"
 #include "photo/job_wishes.h"
 #include "photo/page_output.h"
@@ -20,9 +19,6 @@
 #include "photo/refusal.h"
 
 namespace {
-
-constexpr int kArgumentsWithoutFile = 6;
-constexpr int kArgumentsWithFile = 7;
 
 struct CloseFile {
   void operator()(std::FILE* file) const { std::fclose(file); }
@@ -111,23 +107,17 @@ int print_photo(const char* optionText, const char* copies, std::FILE* file) {
   return print_pages(file, layout, wishes, page);
 }
 
+int print_photo(int argc, char* argv[]) {
+  const File file =
+      argc == photo::kArgumentsWithFile ? File(std::fopen(argv[6], "rbe")) : copy_input();
+  if (file == nullptr) {
+    return fail("its file cannot be read");
+  }
+  return print_photo(argv[5], argv[4], file.get());
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  setbuf(stderr, nullptr);
-  if (argc != kArgumentsWithoutFile && argc != kArgumentsWithFile) {
-    std::fprintf(stderr, "Usage: %s job-id user title copies options [file]\n", argv[0]);
-    return 1;
-  }
-  try {
-    const File file = argc == kArgumentsWithFile ? File(std::fopen(argv[6], "rbe")) : copy_input();
-    if (file == nullptr) {
-      return fail("its file cannot be read");
-    }
-    return print_photo(argv[5], argv[4], file.get());
-  } catch (const std::bad_alloc&) {
-    return fail(photo::kNoMemory);
-  } catch (const std::exception& error) {
-    return fail(error.what());
-  }
+  return photo::run_filter("photo", print_photo, argc, argv);
 }

@@ -7,11 +7,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <cstdio>
-#include <exception>
-#include <new>
 #include <vector>
 
+#include "photo/filter_program.h"
 #include "photo/grey.h"
 #include "photo/job_page.h"
 #include "photo/page_edges.h"
@@ -20,8 +18,6 @@
 
 namespace {
 
-constexpr int kArgumentsWithoutFile = 6;
-constexpr int kArgumentsWithFile = 7;
 constexpr unsigned kSideMost = 65'500;  ///< dots; nothing that is drawn for a page has more
 constexpr unsigned kBitsPerColour = 8;
 constexpr unsigned kBytesPerPixel = 3;
@@ -104,7 +100,8 @@ int print_pages(int argc, char* argv[]) {
   if (!photo::read_job_page(argv[5], options, page)) {
     return fail("the queue's PPD file cannot be read");
   }
-  const int file = argc == kArgumentsWithFile ? open(argv[6], O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
+  const int file =
+      argc == photo::kArgumentsWithFile ? open(argv[6], O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
   if (file < 0) {
     return fail("their file cannot be read");
   }
@@ -114,16 +111,5 @@ int print_pages(int argc, char* argv[]) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  setbuf(stderr, nullptr);
-  if (argc != kArgumentsWithoutFile && argc != kArgumentsWithFile) {
-    std::fprintf(stderr, "Usage: %s job-id user title copies options [file]\n", argv[0]);
-    return 1;
-  }
-  try {
-    return print_pages(argc, argv);
-  } catch (const std::bad_alloc&) {
-    return fail(photo::kNoMemory);
-  } catch (const std::exception& error) {
-    return fail(error.what());
-  }
+  return photo::run_filter("pages", print_pages, argc, argv);
 }
