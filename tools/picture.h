@@ -37,20 +37,17 @@ struct PixelDensity {
   std::uint32_t down = 0;
 };
 
-/// A picture and what stands beside it in the file.
+/// A picture and the state of its file.
 struct PictureFile {
   Picture picture;
-  PixelDensity density;               ///< that the printing system goes by
-  std::vector<std::uint8_t> exif;     ///< the Exif data, a TIFF file; empty where there is none
-  std::vector<std::uint8_t> profile;  ///< the embedded ICC profile; empty where there is none
-  std::string damage;                 ///< what is wrong with a file that could be read all the same
+  std::string damage;  ///< what is wrong with a file that could be read all the same
 };
 
 /// Reads a JPEG or PNG file. Throws std::runtime_error, which says why it cannot be read: what
 /// claims more than a hundred million pixels is refused before memory is taken for it.
 PictureFile read_picture_file(const std::string& path);
 
-/// The same without what stands beside the picture.
+/// The same without the state of the file.
 Picture read_picture(const std::string& path);
 
 /// Writes a PNG file that says that it is sRGB. Throws std::runtime_error.

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <algorithm>
 #include <array>
 #include <csetjmp>
 #include <cstdlib>
-#include <string_view>
 
-#include "tools/exif.h"
 #include "tools/picture_formats.h"
 
 // jpeglib.h needs what <cstdio> declares.
@@ -17,7 +14,6 @@ namespace {
 constexpr std::size_t kChannels = 3;
 constexpr std::size_t kInks = 4;
 constexpr unsigned kMarkerMost = 0xFFFF;  ///< bytes of a marker, all there can be
-constexpr int kExifMarker = JPEG_APP0 + 1;
 constexpr int kProfileMarker = JPEG_APP0 + 2;
 
 // A file that shows a picture in more steps than this only means to take time.
@@ -60,44 +56,11 @@ void limit_scans(j_common_ptr jpeg) {
   }
 }
 
-void take_exif(const jpeg_decompress_struct& jpeg, std::vector<std::uint8_t>& exif) {
-  constexpr std::string_view kBegin("Exif\0\0", 6);
-  for (const jpeg_marker_struct* marker = jpeg.marker_list; marker != nullptr;
-       marker = marker->next) {
-    if (marker->marker == kExifMarker && marker->data_length > kBegin.size() &&
-        std::equal(kBegin.begin(), kBegin.end(), marker->data)) {
-      exif.assign(marker->data + kBegin.size(), marker->data + marker->data_length);
-      return;
-    }
-  }
-}
-
-// The printing system takes whole numbers.
-PixelDensity density_of(const jpeg_decompress_struct& jpeg) {
-  constexpr int kPerInch = 1;
-  constexpr int kPerCentimetre = 2;
-  constexpr double kCentimetresPerInch = 2.54;
-  if (jpeg.density_unit == kPerInch) {
-    return {jpeg.X_density, jpeg.Y_density};
-  }
-  if (jpeg.density_unit == kPerCentimetre) {
-    return {static_cast<std::uint32_t>(jpeg.X_density * kCentimetresPerInch),
-            static_cast<std::uint32_t>(jpeg.Y_density * kCentimetresPerInch)};
-  }
-  return {};
-}
-
-// The Exif data's counts more with the printing system, as far as it has both numbers.
-void take_density(const jpeg_decompress_struct& jpeg, PictureFile& file) {
-  const PixelDensity exif = exif_density(file.exif);
-  file.density = exif.IsKnown() ? exif : density_of(jpeg);
-}
-
-void take_profile(jpeg_decompress_struct& jpeg, std::vector<std::uint8_t>& profile) {
+// A broken profile is damage, too; libjpeg warns of it when it is put together.
+void look_at_profile(jpeg_decompress_struct& jpeg) {
   JOCTET* bytes = nullptr;
   unsigned length = 0;
   if (jpeg_read_icc_profile(&jpeg, &bytes, &length) != 0) {
-    profile.assign(bytes, bytes + length);
     std::free(bytes);
   }
 }
@@ -138,16 +101,13 @@ const char* read_all(Reading& reading, std::FILE* file, std::string& refusal) {
   jpeg_create_decompress(&jpeg);
   jpeg.progress = &reading.progress;
   jpeg_stdio_src(&jpeg, file);
-  jpeg_save_markers(&jpeg, kExifMarker, kMarkerMost);
   jpeg_save_markers(&jpeg, kProfileMarker, kMarkerMost);
   jpeg_read_header(&jpeg, TRUE);
   refusal = refuse_size(jpeg.image_width, jpeg.image_height);
   if (!refusal.empty()) {
     return refusal.c_str();
   }
-  take_exif(jpeg, reading.result->exif);
-  take_density(jpeg, *reading.result);
-  take_profile(jpeg, reading.result->profile);
+  look_at_profile(jpeg);
   const bool forPress = jpeg.jpeg_color_space == JCS_CMYK || jpeg.jpeg_color_space == JCS_YCCK;
   jpeg.out_color_space = forPress ? JCS_CMYK : JCS_RGB;
   jpeg_start_decompress(&jpeg);
