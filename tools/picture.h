@@ -28,10 +28,6 @@ struct Picture {
 /// Whole pixels to the inch; 0 where the file does not say.
 struct PixelDensity {
   bool IsKnown() const { return across > 0 && down > 0; }
-  /// How many times as wide as high a pixel is; 1 where that is not known.
-  float Aspect() const {
-    return IsKnown() ? static_cast<float>(down) / static_cast<float>(across) : 1.0F;
-  }
 
   std::uint32_t across = 0;
   std::uint32_t down = 0;

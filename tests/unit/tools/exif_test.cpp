@@ -48,12 +48,6 @@ TEST(ExifDensity, OfDataThatIsCutOffReadsNothingBeyond) {
   }
 }
 
-TEST(PixelAspect, IsThatOfASquareUnlessBothDensitiesAreKnown) {
-  EXPECT_EQ((PixelDensity{0, 144}.Aspect()), 1.0F);
-  EXPECT_EQ((PixelDensity{72, 0}.Aspect()), 1.0F);
-  EXPECT_EQ((PixelDensity{72, 144}.Aspect()), 2.0F);
-}
-
 TEST(ExifOrientation, IsReadInEitherByteOrder) {
   EXPECT_EQ(exif_orientation(kLittleEndian), 6);
   EXPECT_EQ(exif_orientation(kBigEndian), 6);
