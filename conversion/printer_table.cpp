@@ -91,30 +91,16 @@ void tell_refused(const char* modulePath, const char* fault) {
   }
 }
 
-void tell_used(const char* modulePath) {
-  static std::atomic<bool> told{false};
-  if (!told.exchange(true)) {
-    const ShownPath path(modulePath);
-    std::fprintf(stderr, "DEBUG: Printer profile %.1000s%s%s: colours by this profile.\n",
-                 path.text.data(), path.separator, kProfileName);
-  }
-}
-
 }  // namespace
 
 void PrinterTable::load(const char* modulePath) noexcept {
   owners_.reset();
   ProfileFile file;
   const char* fault = file.open_in(modulePath);
-  if (fault == nullptr && file.has_content(printer_model_profile())) {
-    return;
-  }
-  if (fault == nullptr) {
+  if (fault == nullptr && file.is_open() && !file.has_content(printer_model_profile())) {
     fault = take_owners_table(file, owners_);
   }
   if (fault != nullptr) {
     tell_refused(modulePath, fault);
-  } else {
-    tell_used(modulePath);
   }
 }

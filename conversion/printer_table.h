@@ -14,9 +14,9 @@ class PrinterTable {
  public:
   /// Takes the table of tqr7.icc in this directory, whose path may be null. This never fails: where
   /// the file is missing, damaged or not to be trusted, and where there is no memory, it takes the
-  /// model's table. The first time in a process that a profile is refused, and the first time that
-  /// another than the model's is used, one line on standard error says so. The last profile's table
-  /// is kept in the process, and serves again while the file's content is the same.
+  /// model's table. The first time in a process that a profile is refused, one line on standard
+  /// error says so. The last profile's table is kept in the process, and serves again while the
+  /// file's content is the same.
   void load(const char* modulePath) noexcept;
 
   /// The table that load() took, the model's before it. Stays as it is until the next load() of

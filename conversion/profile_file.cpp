@@ -35,10 +35,14 @@ struct Descriptor {
   Descriptor& operator=(const Descriptor&) = delete;
 };
 
-const char* fault_of_open(int error) {
+// Why the profile in this folder could not be opened; null when it has none.
+const char* fault_of_open(int error, int folder) {
+  struct stat link {};
   switch (error) {
     case ENOENT:
-      return "there is none";
+      return fstatat(folder, kProfileName, &link, AT_SYMLINK_NOFOLLOW) == 0
+                 ? "its link leads nowhere"
+                 : nullptr;
     case EACCES:
     case EPERM:
       return "it may not be read";
@@ -106,13 +110,13 @@ const char* ProfileFile::open_in(const char* directory) {
   }
   const Descriptor folder(open(directory, kDirectoryAccess | O_DIRECTORY | O_CLOEXEC));
   if (folder.number < 0) {
-    return "the module directory cannot be opened";
+    return errno == ENOENT ? nullptr : "the module directory cannot be opened";
   }
   // Without O_NONBLOCK opening a pipe would wait for a writer, and some devices for a carrier.
   const int opened =
       openat(folder.number, kProfileName, O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
   if (opened < 0) {
-    return fault_of_open(errno);
+    return fault_of_open(errno, folder.number);
   }
   if (descriptor_ >= 0) {
     close(descriptor_);

@@ -24,8 +24,10 @@ class ProfileFile {
   ProfileFile& operator=(const ProfileFile&) = delete;
 
   /// Opens the profile in this directory, whose path may end in "/" or not. Only a regular file
-  /// within the limits of size is taken. Null, or why not in a few words.
+  /// within the limits of size is taken. Null, or why not in a few words. That there is no such
+  /// file, or no such directory, is no fault: then nothing is open.
   const char* open_in(const char* directory);
+  bool is_open() const { return descriptor_ >= 0; }
 
   /// Bytes, as they were when the file was opened.
   std::size_t size() const { return size_; }

@@ -118,6 +118,35 @@ TEST_P(FailedConversion, OfTheSecondPageEndsTheJobWithoutAPrintOut) {
   EXPECT_EQ(outcome.status, 1);
 }
 
+/// The filter as it is built, with the open conversion library, and a module directory of the
+/// PPD's.
+std::string LogOfTheOpenLibraryIn(const std::string& directory) {
+  return Print({.program = FILTER_TEST_BUILD "/rastertoprinter",
+                .input = SmallRaster(),
+                .ppd = Ppd{.filters = {"application/vnd.cups-raster 0 " + directory + "any"}}})
+      .log;
+}
+
+TEST(OpenLibrary, SaysNothingOfAProfileThatIsNotThere) {
+  const TemporaryFolder empty;
+  const std::string lines = "DEBUG: Params=" + kDefaultParams + "\nDEBUG: MVChangeImage()=0\n";
+
+  EXPECT_NE(LogOfTheOpenLibraryIn("/opt/printer/filter/").find(lines), std::string::npos);
+  EXPECT_NE(LogOfTheOpenLibraryIn(empty.Path("")).find(lines), std::string::npos);
+}
+
+TEST(OpenLibrary, SaysOnceThatAProfileIsRefused) {
+  const TemporaryFolder folder;
+  folder.Write("tqr7.icc", "");
+
+  EXPECT_NE(LogOfTheOpenLibraryIn(folder.Path(""))
+                .find("DEBUG: Params=" + kDefaultParams + "\nDEBUG: Printer profile " +
+                      folder.Path("tqr7.icc") +
+                      " is not used (it is too small for a profile); colours by the built-in "
+                      "model.\nDEBUG: MVChangeImage()=0\n"),
+            std::string::npos);
+}
+
 const FailureCase kFailureCases[] = {
     {"One", "1"}, {"MinusSeven", "-7"}, {"BeyondThirtyTwoBits", "4294967296"}};
 

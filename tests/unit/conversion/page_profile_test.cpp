@@ -11,11 +11,11 @@
 
 namespace {
 
-/// Converts a page in a module directory that is not there.
-[[noreturn]] void convert_without_module_directory(std::uint64_t flags) {
+/// Converts a page whose module directory is a file, which is worth a line when it is looked at.
+[[noreturn]] void convert_with_a_file_for_a_folder(std::uint64_t flags) {
   tagMVChangeParams params = plain_params();
   params.dwFlags |= flags;
-  params.pszModulePath = "/nowhere/at/all";
+  params.pszModulePath = "/etc/passwd";
   std::exit(convert(3, 3, params, busy_picture).code == 0 ? 0 : 1);
 }
 
@@ -25,13 +25,13 @@ class PageProfile : public testing::Test {
 };
 
 TEST_F(PageProfile, IsLookedForInTheModuleDirectoryWhenColoursAreConverted) {
-  EXPECT_EXIT(convert_without_module_directory(kChangeFlagColorConversion),
+  EXPECT_EXIT(convert_with_a_file_for_a_folder(kChangeFlagColorConversion),
               testing::ExitedWithCode(0),
-              testing::StartsWith("DEBUG: Printer profile /nowhere/at/all/tqr7.icc is not used"));
+              testing::StartsWith("DEBUG: Printer profile /etc/passwd/tqr7.icc is not used"));
 }
 
 TEST_F(PageProfile, IsNotLookedForWhenDeviceValuesPassAsTheyAre) {
-  EXPECT_EXIT(convert_without_module_directory(0), testing::ExitedWithCode(0), testing::IsEmpty());
+  EXPECT_EXIT(convert_with_a_file_for_a_folder(0), testing::ExitedWithCode(0), testing::IsEmpty());
 }
 
 }  // namespace

@@ -98,8 +98,14 @@ TEST_F(ProfileFileTest, AFileOf3GiBIsRefusedByItsSize) {
   EXPECT_EQ(openFault(), "it is larger than 4 MiB");
 }
 
-TEST_F(ProfileFileTest, NoFileIsTold) {
-  EXPECT_EQ(openFault(), "there is none");
+TEST_F(ProfileFileTest, NoFileIsNoFault) {
+  EXPECT_EQ(file.open_in(folder.path().c_str()), nullptr);
+  EXPECT_FALSE(file.is_open());
+}
+
+TEST_F(ProfileFileTest, ALinkThatLeadsNowhereIsTold) {
+  std::filesystem::create_symlink("old.icc", path);
+  EXPECT_EQ(openFault(), "its link leads nowhere");
 }
 
 TEST_F(ProfileFileTest, APipeThatNobodyWritesToDoesNotHoldUp) {
@@ -122,9 +128,9 @@ TEST_F(ProfileFileTest, LinksInACircleAreTold) {
   EXPECT_EQ(openFault(), "its link leads in a circle");
 }
 
-TEST_F(ProfileFileTest, AModuleDirectoryThatIsNotThereIsTold) {
-  EXPECT_STREQ(file.open_in((folder / "nowhere/").c_str()),
-               "the module directory cannot be opened");
+TEST_F(ProfileFileTest, AModuleDirectoryThatIsNotThereIsNoFault) {
+  EXPECT_EQ(file.open_in((folder / "nowhere/").c_str()), nullptr);
+  EXPECT_FALSE(file.is_open());
 }
 
 TEST_F(ProfileFileTest, AModuleDirectoryThatIsAFileIsTold) {
