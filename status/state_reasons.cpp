@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <set>
 #include <string>
 
@@ -92,10 +93,13 @@ void withdraw_each(std::string reasons) {
 }
 
 // Where Avahi runs, libcups also looks for printers on the network, for a quarter of a second,
-// before each sheet. Under the scheduler the default is a queue of its own: libcups is kept from
-// the bus on which it would find Avahi.
+// before each sheet. Where the scheduler has named the job's queue, that queue is the default, and
+// libcups is kept from the bus on which it would find Avahi. A queue called "lp" is not taken from
+// PRINTER, and LPDEST comes first: then the default may be a printer of the network.
 void look_at_the_scheduler_only() {
-  if (std::getenv("FINAL_CONTENT_TYPE") != nullptr) {
+  const char* queue = std::getenv("PRINTER");
+  if (std::getenv("FINAL_CONTENT_TYPE") != nullptr && std::getenv("LPDEST") == nullptr &&
+      queue != nullptr && std::strcmp(queue, "lp") != 0) {
     setenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/dev/null", 1);
   }
 }

@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -129,21 +130,33 @@ TEST(StaleReasons, EachLineLeavesInOneWrite) {
                                         "STATE: -paused\n", "clean_printer_state() END\n"));
 }
 
-TEST(StaleReasons, UnderTheSchedulerNoPrintersAreLookedForOnTheNetwork) {
+/// The bus on which printers are looked for in this environment.
+std::string BusWith(const std::map<std::string, std::string>& environment) {
   SetNoDefaultDestination();
-  setenv("FINAL_CONTENT_TYPE", "printer/photo", 1);
-  setenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/run/dbus/system_bus_socket", 1);
+  setenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/run/bus", 1);
+  for (const auto& [name, value] : environment) {
+    setenv(name.c_str(), value.c_str(), 1);
+  }
   Cleaned();
-  EXPECT_THAT(DestinationCalls(), testing::Contains("cupsGetDests on the bus unix:path=/dev/null"));
-  unsetenv("FINAL_CONTENT_TYPE");
+  for (const auto& [name, value] : environment) {
+    unsetenv(name.c_str());
+  }
   unsetenv("DBUS_SYSTEM_BUS_ADDRESS");
+  return DestinationCalls().front();
 }
 
-TEST(StaleReasons, OutsideTheSchedulerTheBusStaysAsItWas) {
-  SetNoDefaultDestination();
-  setenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/run/dbus/system_bus_socket", 1);
-  Cleaned();
-  EXPECT_THAT(DestinationCalls(),
-              testing::Contains("cupsGetDests on the bus unix:path=/run/dbus/system_bus_socket"));
-  unsetenv("DBUS_SYSTEM_BUS_ADDRESS");
+TEST(StaleReasons, NoPrintersAreLookedForOnTheNetworkWhereTheSchedulerNamesTheQueue) {
+  EXPECT_EQ(BusWith({{"FINAL_CONTENT_TYPE", "printer/photo"}, {"PRINTER", "photo"}}),
+            "cupsGetDests on the bus unix:path=/dev/null");
+}
+
+TEST(StaleReasons, TheBusStaysAsItWasWhereTheDefaultMayBeAPrinterOfTheNetwork) {
+  const std::string as_it_was = "cupsGetDests on the bus unix:path=/run/bus";
+  EXPECT_EQ(BusWith({}), as_it_was);
+  EXPECT_EQ(BusWith({{"PRINTER", "photo"}}), as_it_was);
+  EXPECT_EQ(BusWith({{"FINAL_CONTENT_TYPE", "printer/photo"}}), as_it_was);
+  EXPECT_EQ(BusWith({{"FINAL_CONTENT_TYPE", "printer/photo"}, {"PRINTER", "lp"}}), as_it_was);
+  EXPECT_EQ(
+      BusWith({{"FINAL_CONTENT_TYPE", "printer/photo"}, {"PRINTER", "photo"}, {"LPDEST", "attic"}}),
+      as_it_was);
 }
