@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "filter/ppd_options.h"
 
+#include <strings.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
@@ -37,20 +39,6 @@ constexpr NamedValue kPrintFinish[] = {{"Gloss", 0}, {"Matte", kFinishMatte}};
 constexpr NamedValue kColorConversion[] = {{"Enabled", 1}, {"Disabled", 0}};
 constexpr NamedValue kTrueFalse[] = {{"True", 1}, {"False", 0}};
 
-char lower(char letter) {
-  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-// Whether two names differ in letter cases only. strcasecmp asks the job's language, and in Turkish
-// an I is no i.
-bool same_name(const char* choice, const char* name) {
-  while (*choice != '\0' && lower(*choice) == lower(*name)) {
-    ++choice;
-    ++name;
-  }
-  return *choice == '\0' && *name == '\0';
-}
-
 const char* marked_choice(ppd_file_s* ppd, const char* keyword) {
   const ppd_choice_t* choice = ppdFindMarkedChoice(ppd, keyword);
   return choice != nullptr ? choice->choice : nullptr;
@@ -59,7 +47,7 @@ const char* marked_choice(ppd_file_s* ppd, const char* keyword) {
 const tagPAPERINFO& marked_paper(ppd_file_s* ppd) {
   if (const char* choice = marked_choice(ppd, "PageSize"); choice != nullptr) {
     for (const PaperChoice& known : kPaperChoices) {
-      if (same_name(choice, known.name)) {
+      if (strcasecmp(choice, known.name) == 0) {
         return *known.paper;
       }
     }
@@ -74,9 +62,9 @@ std::uint8_t marked_value(ppd_file_s* ppd, const char* keyword, const NamedValue
   if (choice == nullptr) {
     return default_value;
   }
-  const auto* known =
-      std::find_if(std::begin(values), std::end(values),
-                   [choice](const NamedValue& value) { return same_name(choice, value.name); });
+  const auto* known = std::find_if(
+      std::begin(values), std::end(values),
+      [choice](const NamedValue& value) { return strcasecmp(choice, value.name) == 0; });
   return known != std::end(values) ? known->value : default_value;
 }
 
