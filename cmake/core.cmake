@@ -12,7 +12,6 @@ set(TQR7_CORE_SOURCES
   diag/image_files.cpp
   filter/descriptors.cpp
   filter/filter_hooks.cpp
-  filter/foreign_signals.cpp
   filter/job_options.cpp
   filter/job_state.cpp
   filter/memory_watch.cpp

@@ -12,7 +12,6 @@
 #include "commands/self_test.h"
 #include "commands/setting_words.h"
 #include "filter/descriptors.h"
-#include "filter/foreign_signals.h"
 #include "filter/job_options.h"
 #include "filter/memory_watch.h"
 #include "status/connection_check.h"
@@ -115,7 +114,6 @@ int run_job(std::FILE* input, const char* options) {
 
 int main(int argc, char* argv[]) {
   reserve_scheduler_descriptors();
-  hold_back_foreign_signals();
   setbuf(stderr, nullptr);
   if (argc < 6 || argc > 7) {
     std::fprintf(stderr, "ERROR: commandtoprinter job-id user title copies options [file]\n");

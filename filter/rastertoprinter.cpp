@@ -12,7 +12,6 @@
 
 #include "filter/descriptors.h"
 #include "filter/filter_hooks.h"
-#include "filter/foreign_signals.h"
 #include "filter/job_options.h"
 #include "filter/job_state.h"
 #include "filter/memory_watch.h"
@@ -107,7 +106,6 @@ int run_job(const JobInput& input) {
 
 int main(int argc, char* argv[]) {
   reserve_scheduler_descriptors();
-  hold_back_foreign_signals();
   std::fprintf(stderr, "DEBUG: ---------- TQR7Filter main() ---------- \n");
   gImageCount = 0;
   gImageCache = {};
