@@ -42,12 +42,6 @@ void release_plane(unsigned char*& plane) {
   plane = nullptr;
 }
 
-// Always, but in the handler: there a call on the stream may be under way, whose buffer is then
-// half changed, and headers may be held that are to go out with pixels or not at all.
-bool stream_may_be_flushed() {
-  return gOutputCalls == 0 && gHeadersHeld == 0;
-}
-
 bool convert_and_print(const tagPRINTSETTING* settings, const char* module_path) {
   tagMVBandImageParams converted{};
   const bool printed =
@@ -84,7 +78,8 @@ void StartPage(ppd_file_s* /*ppd*/, const cups_page_header_s* header,
 bool EndPage(const cups_page_header_s* header, const tagPRINTSETTING* settings,
              const char* module_path) {
   const bool printed = header == nullptr || convert_and_print(settings, module_path);
-  if (stream_may_be_flushed()) {
+  // In the handler a call on the stream may be under way, whose buffer is then half changed.
+  if (gOutputCalls == 0) {
     const OutputCall call;
     static_cast<void>(std::fflush(fpOut));
   }

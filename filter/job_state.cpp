@@ -11,4 +11,3 @@ std::uint8_t gRgbRate = 0;
 std::uint8_t gOpRate = 0;
 int curLine = 0;
 volatile std::sig_atomic_t gOutputCalls = 0;
-volatile std::sig_atomic_t gHeadersHeld = 0;

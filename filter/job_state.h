@@ -24,11 +24,6 @@ extern int curLine;
 /// stream alone, whose buffer is then half changed.
 extern volatile std::sig_atomic_t gOutputCalls;
 
-/// Not 0 from a sheet's job header to its first pixels. The headers wait in the stream's buffer,
-/// which has room for both; a job that is cancelled here leaves them there. The printer would wait
-/// for the pixels that they announce.
-extern volatile std::sig_atomic_t gHeadersHeld;
-
 /// Stands around each call on the printer's stream.
 class OutputCall {
  public:

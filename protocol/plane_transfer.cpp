@@ -31,9 +31,7 @@ Staging take_staging() {
 
 bool write_block(std::FILE* out, const unsigned char* bytes, std::size_t size) {
   const OutputCall call;
-  const bool written = std::fwrite(bytes, size, 1, out) == 1;
-  gHeadersHeld = 0;
-  return written;
+  return std::fwrite(bytes, size, 1, out) == 1;
 }
 
 struct Lines {

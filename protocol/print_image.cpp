@@ -37,14 +37,12 @@ bool printer_takes_sheet(const tagPRINTSETTING* settings) {
 
 // Writes that fail are not looked at here: the next exchange with the printer finds out.
 void send_sheet(const tagPRINTSETTING* settings, tagMVBandImageParams* image) {
-  gHeadersHeld = 1;  // until the first pixels are written
   wr_esc_SP(fpOut, settings);
   wr_esc_ZT(fpOut, settings, image, kImageFlag);
   send_image_data(fpOut, image);
   if (settings->byPrintFinish == kFinishMatte) {
     send_matte_data(fpOut, &gMatteImage);
   }
-  gHeadersHeld = 0;  // there may have been no memory for pixels
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "tests/filter/cancelled_calls.h"
+#include "tests/filter/comparison.h"
+#include "tests/filter/expected_stream.h"
 
 namespace filter_test {
 namespace {
@@ -17,6 +19,18 @@ TEST(CancelInAllocator, InTheAllocatorTakesAndReleasesNoMemory) {
 TEST(CancelInAllocator, InTheReleaseOfMemoryTakesAndReleasesNoMemory) {
   EXPECT_GE(CancelInEach(JoinedMatte(), "free", "after", 13), 10);
   EXPECT_GE(CancelInEach(SmallPhoto(), "free", "before", 7), 10);
+}
+
+TEST(CancelInAllocator, BetweenTheHeadersOfASheetAndItsPixelsSendsTheHeaders) {
+  const Settings settings{};
+
+  const Outcome outcome = Print(Watched(SmallPhoto().job, "staging 1 before"));
+
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(Arrived(outcome));
+  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + StatusRequest() +
+                                             ReadinessQuery(settings) + JobHeader(settings) +
+                                             ImageHeader(settings)));
 }
 
 TEST(CancelInAllocator, OfASelfTestTakesAndReleasesNoMemory) {

@@ -7,13 +7,12 @@
 //
 // Settings come from the environment:
 //   FILTER_TEST_SIGNAL_AT     "call number moment": SIGTERM in the call of this number, counted
-//   from
-//                             1 over all pages while the filter handles the signal; the moment is
-//                             "before" or "after" the call's own work. The calls:
-//                             malloc (calloc and realloc too), free, fwrite and fflush (on standard
-//                             output), message (on standard error), localtime, getdests,
-//                             readpixels, readreply, sidechannel, sleep; sigaction (for SIGTERM,
-//                             pages or not)
+//                             from 1 over all pages while the filter handles the signal; the moment
+//                             is "before" or "after" the call's own work. The calls: malloc (calloc
+//                             and realloc too), staging (the malloc of a transfer's buffer), free,
+//                             fwrite and fflush (on standard output), message (on standard error),
+//                             localtime, getdests, readpixels, readreply, sidechannel, sleep;
+//                             sigaction (for SIGTERM, pages or not)
 //   FILTER_TEST_SIGNAL_AGAIN  when set, a second SIGTERM arrives within the handler
 //   FILTER_TEST_SIGNAL_GONE   when set, SIGTERM waits until nobody reads standard output any more
 //   FILTER_TEST_SECOND        milliseconds that a second of a pause lasts; none without it
@@ -32,6 +31,8 @@
 #include <ctime>
 
 namespace {
+
+constexpr std::size_t kStagingSize = 0x30000;
 
 char g_call[24];
 int g_number = 0;
@@ -166,7 +167,7 @@ extern "C" int sigaction(int signal_number, const struct sigaction* action,
 #ifndef FILTER_TEST_FOREIGN_ALLOCATOR  // the sanitizers' does not let itself be watched
 extern "C" void* malloc(std::size_t size) noexcept {
   static const auto real = Real<void* (*)(std::size_t)>("malloc");
-  const ForbiddenCall call("malloc");
+  const ForbiddenCall call(size == kStagingSize ? "staging" : "malloc");
   return real(size);
 }
 
