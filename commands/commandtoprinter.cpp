@@ -119,6 +119,7 @@ int main(int argc, char* argv[]) {
     std::fprintf(stderr, "ERROR: commandtoprinter job-id user title copies options [file]\n");
     return 1;
   }
+  unblock_back_channel();
   std::FILE* input = argc > kArgumentFile ? std::fopen(argv[kArgumentFile], "rb") : stdin;
   if (input == nullptr) {
     std::perror("ERROR: Unable to open the file of printer commands");

@@ -6,9 +6,13 @@
 
 /// Occupies each of descriptors 0 … 4 that is closed, the wrong way round, so that its use fails at
 /// once: a file opened later never takes the place of the printer's stream, the log or a channel,
-/// and libcups, which waits for ever on a closed back channel, gets an error. Has reads of the back
-/// channel return when there is nothing to read, as the scheduler does: libcups reads after its
-/// wait whether or not anything came.
+/// and libcups, which waits for ever on a closed back channel, gets an error.
 void reserve_scheduler_descriptors();
+
+/// Has reads of the back channel return when there is nothing to read, as the scheduler does:
+/// libcups reads after its wait whether or not anything came. Not where the back channel is the
+/// same open file as another of the five: they share one set of flags, and the stream would lose
+/// what the printer does not take at once.
+void unblock_back_channel();
 
 #endif  // TQR7_FILTER_DESCRIPTORS_H

@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <new>
@@ -115,6 +116,8 @@ int main(int argc, char* argv[]) {
     std::fprintf(stderr, "ERROR: TQR7Filter job-id user title copies options [file]\n");
     return 1;
   }
+  unblock_back_channel();
+  errno = 0;  // a reason for the log comes from the job's own calls
   JobInput input;
   if (!open_raster_file(argc, argv, &input) || !open_raster(&input)) {
     return 1;

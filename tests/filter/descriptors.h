@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <string>
 #include <utility>
 
 namespace filter_test {
@@ -33,6 +34,22 @@ inline void CloseAndForget(int* descriptor) {
     *descriptor = -1;
   }
 }
+
+/// A descriptor that lasts as long as the object does.
+class Opened {
+ public:
+  Opened(const std::string& path, int flags) : number_(MoveHigh(open(path.c_str(), flags))) {}
+  explicit Opened(int number) : number_(number) {}
+  ~Opened() { CloseAndForget(&number_); }
+  Opened(const Opened&) = delete;
+  Opened& operator=(const Opened&) = delete;
+
+  int number() const { return number_; }
+  void Close() { CloseAndForget(&number_); }
+
+ private:
+  int number_;
+};
 
 /// Keeps descriptors 3 and 4 from being given to anything else.
 inline void ReserveChannelDescriptors() {

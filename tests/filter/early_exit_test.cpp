@@ -11,8 +11,10 @@ namespace filter_test {
 namespace {
 
 const std::string kUsage = "ERROR: TQR7Filter job-id user title copies options [file]\n";
-const std::string kNoModulePath =
-    "ERROR: Unable to find module path\n: " + kAnyText + "\n[sleep 1]\n" + kNoPages;
+/// The reason is what the step before has left: that of a PPD that cannot be opened, or none.
+std::string NoModulePath(const std::string& reason = "Success") {
+  return "ERROR: Unable to find module path\n: " + reason + "\n[sleep 1]\n" + kNoPages;
+}
 const std::string kAskedForTwoWays = "side channel 3, room 512, 30.0 s\n";
 
 void ExpectRefusal(const Outcome& outcome, const std::string& log) {
@@ -50,35 +52,35 @@ TEST(RasterFile, ThatIsMissingEndsTheJobAfterASecond) {
 }
 
 TEST(ModulePath, IsMissingWithoutAPpd) {
-  ExpectRefusal(Print({.input = SmallRaster(), .ppd = std::nullopt}), kNoModulePath);
+  ExpectRefusal(Print({.input = SmallRaster(), .ppd = std::nullopt}), NoModulePath());
 }
 
 TEST(ModulePath, IsMissingWhenThePpdCannotBeRead) {
   ExpectRefusal(Print({.input = SmallRaster(), .environment = {{"PPD", "/nonexistent.ppd"}}}),
-                kNoModulePath);
+                NoModulePath("No such file or directory"));
 }
 
 TEST(ModulePath, IsMissingWhenThePpdIsNoPpd) {
   ExpectRefusal(Print({.input = SmallRaster(), .environment = {{"PPD", "/etc/passwd"}}}),
-                kNoModulePath);
+                NoModulePath());
 }
 
 TEST(ModulePath, IsMissingWithoutACupsFilterLine) {
-  ExpectRefusal(Print({.input = SmallRaster(), .ppd = Ppd{.filters = {}}}), kNoModulePath);
+  ExpectRefusal(Print({.input = SmallRaster(), .ppd = Ppd{.filters = {}}}), NoModulePath());
 }
 
 TEST(ModulePath, IsMissingWhenEveryCupsFilterLineTakesSomethingElse) {
   ExpectRefusal(Print({.input = SmallRaster(),
                        .ppd = Ppd{.filters = {"image/urf 0 /opt/printer/filter/rastertoprinter",
                                               "application/vnd.cups-pdf 0 /opt/x/pdftox"}}}),
-                kNoModulePath);
+                NoModulePath());
 }
 
 TEST(ModulePath, IsMissingWhenTheTypeIsInOtherLetterCases) {
   ExpectRefusal(
       Print({.input = SmallRaster(),
              .ppd = Ppd{.filters = {"application/vnd.CUPS-raster 0 /opt/x/rastertoprinter"}}}),
-      kNoModulePath);
+      NoModulePath());
 }
 
 TEST(ModulePath, IsMissingWhenTheFirstMatchingProgramHasNoFolder) {
@@ -86,7 +88,7 @@ TEST(ModulePath, IsMissingWhenTheFirstMatchingProgramHasNoFolder) {
       Print({.input = SmallRaster(),
              .ppd = Ppd{.filters = {"application/vnd.cups-raster 0 -",
                                     "application/vnd.cups-raster 0 /opt/x/rastertoprinter"}}}),
-      kNoModulePath);
+      NoModulePath());
 }
 
 struct BidiCase {

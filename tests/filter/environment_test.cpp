@@ -66,20 +66,25 @@ TEST(Scheduler, OfAHugeNameHasNoDefaultDestination) {
                 kGloss);
 }
 
+/// Listens as a server on a local socket of this name.
+int ServerAt(const std::string& path) {
+  sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+  path.copy(address.sun_path, sizeof address.sun_path - 1);
+  const int server = MoveHigh(socket(AF_UNIX, SOCK_STREAM, 0));
+  EXPECT_EQ(bind(server, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  EXPECT_EQ(listen(server, 20), 0);
+  return server;
+}
+
 TEST(Scheduler, ThatNeverAnswersIsGivenUpAndHasNoDefaultDestination) {
   const TemporaryFolder folder;
-  sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
-  folder.Path("scheduler").copy(address.sun_path, sizeof address.sun_path - 1);
-  const int scheduler = MoveHigh(socket(AF_UNIX, SOCK_STREAM, 0));
-  ASSERT_EQ(bind(scheduler, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-  ASSERT_EQ(listen(scheduler, 20), 0);
+  const Opened scheduler(ServerAt(folder.Path("scheduler")));
 
   ExpectPrinted(Print({.input = SmallRaster(),
-                       .environment = {{"CUPS_SERVER", address.sun_path},
+                       .environment = {{"CUPS_SERVER", folder.Path("scheduler")},
                                        {"FILTER_TEST_MOST_WAIT", "200"},
                                        {"FILTER_TEST_WAIT_SCALE", "1"}}}),
                 kGloss);
-  close(scheduler);
 }
 
 TEST(OptionsText, WithAHugeValueIsReadToItsEnd) {

@@ -20,22 +20,6 @@ const Settings kSettings{};
 const std::string kAskedAndRefused =
     kBanner + "DEBUG: CUPS_SC_CMD_GET_BIDI=CUPS_SC_STATUS_TIMEOUT(3)\n" + kNoTwoWays;
 
-/// A descriptor that lasts as long as the object does.
-class Opened {
- public:
-  Opened(const std::string& path, int flags) : number_(MoveHigh(open(path.c_str(), flags))) {}
-  explicit Opened(int number) : number_(number) {}
-  ~Opened() { CloseAndForget(&number_); }
-  Opened(const Opened&) = delete;
-  Opened& operator=(const Opened&) = delete;
-
-  int number() const { return number_; }
-  void Close() { CloseAndForget(&number_); }
-
- private:
-  int number_;
-};
-
 /// A job with `opened` as one of its descriptors.
 Outcome PrintWith(int descriptor, const Opened& opened) {
   return Print(

@@ -43,11 +43,11 @@ void ReserveWithAllOpen() {
 }
 
 /// Exits with 0 when the back channel, and it alone, does not wait for what is not there.
-void ReserveBlockingOnes() {
+void UnblockBackChannel() {
   for (int descriptor = 0; descriptor < 5; ++descriptor) {
     dup2(open("/dev/null", O_RDWR), descriptor);
   }
-  reserve_scheduler_descriptors();
+  unblock_back_channel();
   for (int descriptor = 0; descriptor < 5; ++descriptor) {
     if (((fcntl(descriptor, F_GETFL) & O_NONBLOCK) != 0) != (descriptor == 3)) {
       _exit(1);
@@ -76,7 +76,7 @@ TEST(SchedulersDescriptors, ThoseThatAreOpenStayAsTheyAre) {
 }
 
 TEST(SchedulersDescriptors, TheBackChannelDoesNotWaitForWhatIsNotThere) {
-  EXPECT_EXIT(ReserveBlockingOnes(), testing::ExitedWithCode(0), "");
+  EXPECT_EXIT(UnblockBackChannel(), testing::ExitedWithCode(0), "");
 }
 
 TEST(SchedulersDescriptors, ThoseThatAreClosedAreTaken) {
