@@ -10,50 +10,46 @@
 
 namespace {
 
-// The scheduler's PPD is an ordinary file. Opening a pipe that nobody writes would wait for ever,
-// and some devices have no end.
-const char* ppd_path() {
-  const char* path = std::getenv("PPD");
+bool can_be_read_again(const char* path) {
   struct stat file {};
-  const bool usable = path == nullptr || stat(path, &file) != 0 || S_ISREG(file.st_mode);
-  return usable ? path : nullptr;
+  return path != nullptr && stat(path, &file) == 0 && S_ISREG(file.st_mode);
 }
 
-// What libcups could not finish for want of memory is not given to its next call, which would fall
-// over it. Each call is watched by itself: a later one may overwrite errno.
-bool mark_defaults(ppd_file_s* ppd) {
+// False at a sign that memory was refused, where signs count. What libcups could not finish for
+// want of memory is not given to its next call, which would fall over it.
+bool mark_choices(ppd_file_s* ppd, const char* options, bool signs_count) {
   const MemoryWatch watch;
-  ppdMarkDefaults(ppd);
-  return !watch.refused();
-}
-
-bool mark_options(ppd_file_s* ppd, int count, cups_option_t* parsed) {
-  const MemoryWatch watch;
-  cupsMarkOptions(ppd, count, parsed);
-  return !watch.refused();
-}
-
-bool mark_choices(ppd_file_s* ppd, const char* options) {
-  const MemoryWatch watch;
+  const auto refused = [&] { return signs_count && watch.refused(); };
   cups_option_t* parsed = nullptr;
   const int count = cupsParseOptions(options, 0, &parsed);
-  if (watch.refused()) {
+  if (refused()) {
     return false;  // a half-made list is not even safe to release
   }
-  const bool marked = mark_defaults(ppd) && mark_options(ppd, count, parsed);
+  ppdMarkDefaults(ppd);
+  if (!refused()) {
+    cupsMarkOptions(ppd, count, parsed);
+  }
   cupsFreeOptions(count, parsed);
-  return marked;
+  return !refused();
 }
 
 }  // namespace
 
+// Without memory libcups drops a line of the PPD, an option or a mark, goes on and succeeds. The
+// only sign is in errno, where a call that got all its memory may leave it as well. So a sign has
+// all of it done once more, where the PPD can be read again, and the second time it is no reason.
 ppd_file_s* open_marked_ppd(const char* options) {
-  const MemoryWatch watch;
-  ppd_file_s* ppd = ppdOpenFile(ppd_path());
-  if (!watch.refused() && mark_choices(ppd, options)) {
-    return ppd;
+  const char* path = std::getenv("PPD");
+  for (bool signs_count = can_be_read_again(path);; signs_count = false) {
+    const MemoryWatch watch;
+    ppd_file_s* ppd = ppdOpenFile(path);
+    const bool refused = watch.refused();
+    if (ppd == nullptr && refused) {
+      return nullptr;
+    }
+    if (!(signs_count && refused) && mark_choices(ppd, options, signs_count)) {
+      return ppd;
+    }
+    ppdClose(ppd);
   }
-  ppdClose(ppd);
-  errno = ENOMEM;
-  return nullptr;
 }

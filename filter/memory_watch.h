@@ -7,7 +7,7 @@
 
 #include <cerrno>
 
-/// Stands around one call. Where the call leaves errno alone, errno keeps what it told before.
+/// Stands around one call. Where the call leaves errno alone, errno keeps what it said before.
 class MemoryWatch {
  public:
   MemoryWatch() : before_(errno) { errno = 0; }
@@ -19,7 +19,8 @@ class MemoryWatch {
   MemoryWatch(const MemoryWatch&) = delete;
   MemoryWatch& operator=(const MemoryWatch&) = delete;
 
-  /// The allocator's own word, which is the only trace.
+  /// The allocator's own word. A reason only where the call failed: one that succeeded may leave
+  /// it.
   bool refused() const { return errno == ENOMEM; }
 
  private:

@@ -21,7 +21,7 @@ constexpr int kPercentRead = 50;  // printing the page takes the other half
 
 // Reads the page's lines into the page buffer. The header is hostile: a line holds as many bytes as
 // it says, never more, and what it does not hold stays white. False when libcups had no memory for
-// a line.
+// a line: the rest would print white.
 bool read_page(cups_raster_t* raster, const cups_page_header_t& header,
                const tagPRINTSETTING& settings) {
   const auto raster_width = static_cast<std::int32_t>(header.cupsWidth);
@@ -42,7 +42,6 @@ bool read_page(cups_raster_t* raster, const cups_page_header_t& header,
     const MemoryWatch watch;
     if (cupsRasterReadPixels(raster, Planes[0], header.cupsBytesPerLine) == 0) {
       if (watch.refused()) {
-        report_no_memory();  // or the rest would print white
         return false;
       }
       break;
@@ -78,9 +77,14 @@ bool print_pages(cups_raster_t* raster, ppd_file_t* ppd, const tagPRINTSETTING& 
     ++page;
     std::fprintf(stderr, "PAGE: %d %d\n", page, static_cast<int>(header.NumCopies));
     StartPage(ppd, &header, &settings);
-    if (Planes[0] == nullptr || Planes[1] == nullptr || !read_page(raster, header, settings)) {
+    if (Planes[0] == nullptr || Planes[1] == nullptr) {
       EndPage(nullptr, nullptr, nullptr);
       return false;
+    }
+    if (!read_page(raster, header, settings)) {
+      EndPage(nullptr, nullptr, nullptr);
+      next = Next::NoMemory;
+      break;
     }
     if (!EndPage(&header, &settings, module_path)) {
       return false;
@@ -88,9 +92,8 @@ bool print_pages(cups_raster_t* raster, ppd_file_t* ppd, const tagPRINTSETTING& 
   }
   if (next == Next::NoMemory) {
     report_no_memory();
-    return false;
   }
   print_last_page(&settings);
   wr_esc_printout(fpOut, &settings);
-  return true;
+  return next == Next::End;
 }

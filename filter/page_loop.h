@@ -10,8 +10,8 @@
 #include "filter/print_setting.h"
 
 /// Prints all pages of the stream, the half sheet that may wait at its end, and ends the job on the
-/// printer. `module_path` is the conversion library's directory. False when a page fails, or
-/// libcups has no memory for one, which ends the job there.
+/// printer. `module_path` is the conversion library's directory. False when a page fails, which
+/// ends the job there, or libcups has no memory for one: the pages end before it.
 bool print_pages(cups_raster_t* raster, ppd_file_t* ppd, const tagPRINTSETTING& settings,
                  const char* module_path);
 

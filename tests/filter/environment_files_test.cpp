@@ -65,12 +65,32 @@ TEST(PpdFile, ThatIsADeviceWithoutEndIsNone) {
   ExpectNoPpd("/dev/zero");
 }
 
-TEST(PpdFile, ThatIsAPipeNobodyWritesIsNotWaitedFor) {
+TEST(PpdFile, ThatIsAPipeIsRead) {
   const TemporaryFolder folder;
   const std::string path = folder.Path("pipe.ppd");
   ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+  std::thread writer([&] { folder.Write("pipe.ppd", Ppd{}.Text()); });
 
-  ExpectNoPpd(path);
+  ExpectPrinted(Print({.input = SmallRaster(), .environment = {{"PPD", path}}}));
+
+  writer.join();
+}
+
+TEST(PpdFile, ThatIsAnOpenDescriptorIsRead) {
+  const TemporaryFolder folder;
+  const Opened file(folder.Write("open.ppd", Ppd{}.Text()), O_RDONLY);
+
+  ExpectPrinted(Print({.input = SmallRaster(),
+                       .environment = {{"PPD", "/dev/fd/9"}},
+                       .given_descriptors = {{9, file.number()}}}));
+}
+
+TEST(PpdFile, ThatIsStandardInputIsReadBesideARasterFile) {
+  const TemporaryFolder folder;
+
+  ExpectPrinted(Print({.input = Ppd{}.Text(),
+                       .arguments = ArgumentsWithFile(folder.Write("page.ras", SmallRaster())),
+                       .environment = {{"PPD", "/dev/stdin"}}}));
 }
 
 TEST(PpdFile, ThatLinksToItselfIsNone) {

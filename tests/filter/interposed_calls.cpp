@@ -22,7 +22,10 @@
 //   FILTER_TEST_SHORT_WRITE "items result": the first write of so many bytes on standard output
 //                           writes nothing and has this result
 //   FILTER_TEST_NO_MEMORY   "bytes count": refuse the count-th array of this many bytes
+//   FILTER_TEST_NO_RASTER   "header 2" or "line 5": libcups has no memory for this header or line,
+//                           counted from 1 over the job, nor for any after it
 #include <cups/cups.h>
+#include <cups/raster.h>
 #include <cups/sidechannel.h>
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -32,6 +35,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <clocale>
 #include <csignal>
 #include <cstdarg>
@@ -113,6 +117,18 @@ bool RefuseArray(std::size_t bytes) {
   char* end = nullptr;
   const unsigned long long refused = std::strtoull(setting, &end, 10);
   return bytes == refused && ++seen == std::atoi(end);
+}
+
+/// Whether libcups has no memory for this header or line.
+bool RefuseRaster(const char* kind, long number) {
+  const char* setting = Setting("FILTER_TEST_NO_RASTER");
+  const std::size_t length = std::strlen(kind);
+  if (setting == nullptr || std::strncmp(setting, kind, length) != 0 ||
+      number < std::atol(setting + length)) {
+    return false;
+  }
+  errno = ENOMEM;
+  return true;
 }
 
 using WriteCounts = void (*)();
@@ -200,6 +216,21 @@ extern "C" ssize_t cupsBackChannelRead(char* buffer, size_t bytes, double timeou
   using Read = ssize_t (*)(char*, size_t, double);
   return Real<Read>("cupsBackChannelRead")(buffer, bytes,
                                            Scaled(timeout, "FILTER_TEST_READ_SCALE"));
+}
+
+extern "C" unsigned cupsRasterReadHeader(cups_raster_t* raster, cups_page_header_t* header) {
+  static long headers = 0;
+  using Read = unsigned (*)(cups_raster_t*, cups_page_header_t*);
+  return RefuseRaster("header ", ++headers) ? 0
+                                            : Real<Read>("cupsRasterReadHeader")(raster, header);
+}
+
+extern "C" unsigned cupsRasterReadPixels(cups_raster_t* raster, unsigned char* line,
+                                         unsigned bytes) {
+  static long lines = 0;
+  static const auto real =
+      Real<unsigned (*)(cups_raster_t*, unsigned char*, unsigned)>("cupsRasterReadPixels");
+  return RefuseRaster("line ", ++lines) ? 0 : real(raster, line, bytes);
 }
 
 extern "C" int cupsGetDests(cups_dest_t** destinations) {

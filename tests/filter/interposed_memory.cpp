@@ -9,6 +9,8 @@
 //                          behind it every later request too
 //   FILTER_TEST_REQUESTS   file that is left at exit with the number of requests, then a line for
 //                          each way of calls that led to one: its first request, a blank, its last
+//   FILTER_TEST_ERRNO      when set, each request that is granted leaves ENOMEM in errno, as one
+//                          does for which the heap could not grow in place
 //   FILTER_TEST_CRASH      file that is left by a crash with the function of libcups that was
 //                          called, or "no function of libcups"
 #include <dlfcn.h>
@@ -151,6 +153,14 @@ void TellCrash(int signal_number) {
   static_cast<void>(std::raise(signal_number));
 }
 
+void* Granted(void* block) {
+  static const bool noisy = std::getenv("FILTER_TEST_ERRNO") != nullptr;
+  if (noisy && g_counting) {
+    errno = ENOMEM;
+  }
+  return block;
+}
+
 using Main = int (*)(int, char**, char**);
 using Start = int (*)(Main, int, char**, void (*)(), void (*)(), void (*)(), void*);
 
@@ -178,15 +188,15 @@ int __libc_start_main(Main program, int argc, char** argv, void (*initialize)(),
 }
 
 void* malloc(std::size_t bytes) {
-  return Refused() ? nullptr : __libc_malloc(bytes);
+  return Refused() ? nullptr : Granted(__libc_malloc(bytes));
 }
 
 void* calloc(std::size_t count, std::size_t bytes) {
-  return Refused() ? nullptr : __libc_calloc(count, bytes);
+  return Refused() ? nullptr : Granted(__libc_calloc(count, bytes));
 }
 
 void* realloc(void* block, std::size_t bytes) {
-  return Refused() ? nullptr : __libc_realloc(block, bytes);
+  return Refused() ? nullptr : Granted(__libc_realloc(block, bytes));
 }
 
 void* memalign(std::size_t alignment, std::size_t bytes) {

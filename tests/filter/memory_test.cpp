@@ -76,6 +76,53 @@ TEST(MissingMemory, ForTheJoinedSheetEndsTheJobWithoutAWord) {
                 PageRead(1, "0") + Conversion(33, 33, 44, 88));
 }
 
+const std::string kNotEnough = "ERROR: Not enough memory for the job\n";
+
+Outcome PrintWithoutRaster(const std::string& at, int pages, const std::string& options = "") {
+  return Print({.input = SmallRaster(pages),
+                .options = options,
+                .environment = {{"FILTER_TEST_NO_RASTER", at}}});
+}
+
+TEST(MissingMemory, ForAHeaderEndsThePagesThereAndPrintsTheWaitingHalf) {
+  const Settings settings{.paper = &kJoined, .rgb_rate = 33, .op_rate = 88};
+
+  const Outcome outcome = PrintWithoutRaster("header 2", 2, "PageSize=RQ_5x15x2_2");
+
+  EXPECT_TRUE(SameStream(outcome.stream,
+                         StatusRequest() +
+                             Sheet(settings, BlankData(kJoined.page_width, kJoined.page_height) +
+                                                 SmallImage(1, kJoined)) +
+                             PrintOut()));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, "0") + Conversion(33, 33, 44, 88) +
+                                       kNotEnough + SheetLog(settings, 1, 1852, 1232)));
+  EXPECT_EQ(outcome.status, 1);
+}
+
+TEST(MissingMemory, ForALineEndsThePagesThereAndPrintsTheWaitingHalf) {
+  const Settings settings{.paper = &kJoined, .rgb_rate = 33, .op_rate = 88};
+
+  const Outcome outcome = PrintWithoutRaster("line 6", 2, "PageSize=RQ_5x15x2_2");
+
+  EXPECT_TRUE(SameStream(outcome.stream,
+                         StatusRequest() +
+                             Sheet(settings, BlankData(kJoined.page_width, kJoined.page_height) +
+                                                 SmallImage(1, kJoined)) +
+                             PrintOut()));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, "0") + Conversion(33, 33, 44, 88) +
+                                       "PAGE: 2 1\nINFO: Printing page 2, 0% complete...\n" +
+                                       kNotEnough + SheetLog(settings, 2, 1852, 1232)));
+  EXPECT_EQ(outcome.status, 1);
+}
+
+TEST(MissingMemory, ForTheFirstHeaderEndsTheJobOnThePrinter) {
+  const Outcome outcome = PrintWithoutRaster("header 1", 1);
+
+  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + PrintOut()));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + kNotEnough + kNoPages));
+  EXPECT_EQ(outcome.status, 1);
+}
+
 TEST(MissingMemory, ForTheImageTransferLeavesTheImageOutUnnoticed) {
   const Outcome outcome = Print(JobWithoutPlane(kStagingBuffer + " 1"));
 

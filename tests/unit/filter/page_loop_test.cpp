@@ -18,6 +18,7 @@ namespace {
 
 int g_pages = 0;       // headers that are there to read
 bool g_memory = true;  // what comes behind them, and their lines, can be had
+const std::string kPrintOut = {0x1B, 'B', 'Q', '1', 0x00, 0x05};
 const char kNoMemory[] = "ERROR: Not enough memory for the job\n";
 
 class PageLoop : public JobTest {
@@ -69,22 +70,21 @@ TEST_F(PageLoop, EndsTheJobOnThePrinterAtTheStreamsEnd) {
   Print(0, true);
   EXPECT_TRUE(printed_);
   EXPECT_EQ(log_, "");
-  const std::string print_out = {0x1B, 'B', 'Q', '1', 0x00, 0x05};
-  EXPECT_EQ(stream_, print_out);
+  EXPECT_EQ(stream_, kPrintOut);
 }
 
-TEST_F(PageLoop, EndsWithoutAPrintOutWhereThereIsNoMemoryForThePage) {
+TEST_F(PageLoop, EndsTheJobOnThePrinterWhereThereIsNoMemoryForThePage) {
   Print(0, false);
   EXPECT_FALSE(printed_);
   EXPECT_EQ(log_, kNoMemory);
-  EXPECT_EQ(stream_, "");
+  EXPECT_EQ(stream_, kPrintOut);
 }
 
 TEST_F(PageLoop, PrintsNoPageWhoseLinesThereIsNoMemoryFor) {
   Print(1, false);
   EXPECT_FALSE(printed_);
   EXPECT_EQ(log_, std::string("PAGE: 1 1\nINFO: Printing page 1, 0% complete...\n") + kNoMemory);
-  EXPECT_EQ(stream_, "");
+  EXPECT_EQ(stream_, kPrintOut);
   EXPECT_EQ(Planes[0], nullptr);
   EXPECT_EQ(Planes[1], nullptr);
 }
