@@ -21,16 +21,15 @@ constexpr unsigned int kPauseAfterRefusal = 1;  // seconds
 constexpr unsigned int kPauseAfterImage = 5;
 
 bool printer_takes_sheet(const tagPRINTSETTING* settings) {
-  std::string refusal = "ExaminePage() Error";
   try {
-    refusal = ExaminePage(settings);
-  } catch (const std::exception&) {
-    // Out of memory: the text above stands, and the sheet is not sent.
+    const std::string refusal = ExaminePage(settings);
+    if (refusal.empty()) {
+      return true;
+    }
+    std::fprintf(stderr, "DEBUG: %s\n", refusal.c_str());
+  } catch (const std::exception&) {  // no memory for the words
+    std::fprintf(stderr, "DEBUG: ExaminePage() Error\n");
   }
-  if (refusal.empty()) {
-    return true;
-  }
-  std::fprintf(stderr, "DEBUG: %s\n", refusal.c_str());
   sleep(kPauseAfterRefusal);
   return false;
 }

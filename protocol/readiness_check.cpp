@@ -5,6 +5,8 @@
 #include <poll.h>
 #include <unistd.h>
 
+#include <array>
+
 #include "diag/dump.h"
 #include "filter/job_state.h"
 #include "protocol/command_block.h"
@@ -25,12 +27,13 @@ constexpr unsigned int kBusyStep = 2;     // seconds between two queries of a bu
 constexpr unsigned int kBusyLimit = 180;  // seconds
 
 // A read that comes back empty is not the end, the answer may stand behind it. But a back channel
-// that is at its end, because the backend has closed it, reads as empty for ever, and at once. So
-// the first empty reads in a row, more than any backend makes, are followed by the next at once;
-// the next ones by a nap, which gives the processor away, up to ten seconds in all.
+// that is at its end, because the backend is gone, reads as empty for ever, and at once, while the
+// scheduler waits for the filter. So the first empty reads in a row, more than any backend makes,
+// are followed by the next at once; the next ones by a nap, which gives the processor away. In all
+// they are waited through for as long as a busy printer is.
 constexpr int kEmptyReadsAtOnce = 4096;
-constexpr int kNap = 20;    // milliseconds
-constexpr int kNaps = 500;  // then the channel counts as closed
+constexpr int kNap = 20;                              // milliseconds
+constexpr int kNaps = int{kBusyLimit} * 1000 / kNap;  // then the channel counts as closed
 
 // What to do about empty reads in a row. A channel that has brought nothing but them for all the
 // naps is to be read no more.
@@ -99,10 +102,11 @@ void report(const Refusal& refusal, int code) {
   std::fprintf(stderr, "ERROR: %s %#06x\n", refusal.error, static_cast<unsigned int>(code));
 }
 
-std::string code_name(int code) {
-  char name[32];
+// Takes no memory: a printer that is ready gets its sheet.
+std::array<char, 32> code_name(int code) {
+  std::array<char, 32> name{};
   const auto bits = static_cast<unsigned int>(code);
-  std::snprintf(name, sizeof name, "CMD_GET_ENABLE[%02X + %02X]", (bits >> 8U) & 0xFFU,
+  std::snprintf(name.data(), name.size(), "CMD_GET_ENABLE[%02X + %02X]", (bits >> 8U) & 0xFFU,
                 bits & 0xFFU);
   return name;
 }
@@ -110,14 +114,14 @@ std::string code_name(int code) {
 // Any answer but busy: writes its lines, returns the check's result.
 std::string classify(int code) {
   if (code == kReady) {
-    std::fprintf(stderr, "DEBUG: %s\n", code_name(code).c_str());
+    std::fprintf(stderr, "DEBUG: %s\n", code_name(code).data());
     return "";
   }
   for (const Refusal& refusal : kRefusals) {
     if (refusal.code == code) {
-      std::fprintf(stderr, "DEBUG: %s\n", code_name(code).c_str());
+      std::fprintf(stderr, "DEBUG: %s\n", code_name(code).data());
       report(refusal, code);
-      return "ERROR " + code_name(code);
+      return std::string("ERROR ") + code_name(code).data();
     }
   }
   std::fprintf(stderr, "DEBUG: PROTOCOL ERROR\n");
@@ -156,7 +160,7 @@ std::string ExaminePage(const tagPRINTSETTING* settings) {
     return "wr_esc_enable() Error";
   }
   for (unsigned int waited = 0; code == kBusy; waited += kBusyStep) {
-    std::fprintf(stderr, "DEBUG: %s\n", code_name(code).c_str());
+    std::fprintf(stderr, "DEBUG: %s\n", code_name(code).data());
     sleep(kBusyStep);
     code = wr_esc_enable(fpOut, settings);
     if (code == kBusy && waited == kBusyLimit) {

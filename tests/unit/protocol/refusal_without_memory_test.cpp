@@ -19,18 +19,19 @@
 
 namespace {
 
-/// While it is set, memory is refused for a text of 40 to 63 bytes: the words of a refusal as they
-/// grow. Nothing else on the way takes a block of that size.
+/// When it is set, the first request for memory is refused that comes after the printer's two
+/// answers have been read: that for the words of the refusal.
 bool g_words_refused = false;
 
-bool IsForWords(std::size_t size) {
-  return size >= 40 && size <= 63;
+bool IsForWords() {
+  return g_words_refused && Connection().pieces.empty() && Connection().journal.size() == 4;
 }
 
 }  // namespace
 
 void* operator new(std::size_t size) {
-  const bool refused = g_words_refused && IsForWords(size);
+  const bool refused = IsForWords();
+  g_words_refused = g_words_refused && !refused;
   void* block = refused ? nullptr : std::malloc(size == 0 ? 1 : size);
   if (block == nullptr) {
     throw std::bad_alloc();
@@ -59,7 +60,7 @@ TEST(RefusedSheet, WithoutMemoryForTheWordsIsStillNotSent) {
   Capture err(stderr);
   g_words_refused = true;
   const bool sent = print_image(&settings, &image);
-  g_words_refused = false;
+  EXPECT_FALSE(g_words_refused);
   const std::string log = err.Text();
   EXPECT_FALSE(sent);
   EXPECT_EQ(out.Arrived().size(), 8U + 512U);  // the status request and the query
