@@ -76,13 +76,16 @@ TEST(PpdFile, ThatIsAPipeIsRead) {
   writer.join();
 }
 
-TEST(PpdFile, ThatIsAnOpenDescriptorIsRead) {
-  const TemporaryFolder folder;
-  const Opened file(folder.Write("open.ppd", Ppd{}.Text()), O_RDONLY);
+TEST(PpdFile, ThatIsAnOpenPipeIsRead) {
+  const auto [read_end, write_end] = HighPipe();
+  const Opened reader(read_end);
+  const std::string text = Ppd{}.Text();
+  ASSERT_EQ(write(write_end, text.data(), text.size()), static_cast<ssize_t>(text.size()));
+  close(write_end);
 
   ExpectPrinted(Print({.input = SmallRaster(),
                        .environment = {{"PPD", "/dev/fd/9"}},
-                       .given_descriptors = {{9, file.number()}}}));
+                       .given_descriptors = {{9, reader.number()}}}));
 }
 
 TEST(PpdFile, ThatIsStandardInputIsReadBesideARasterFile) {
