@@ -2,9 +2,11 @@
 //
 // Finding the way back after bytes that belong to no command: the next command code is looked for.
 //
-// Image data cannot be mistaken for a code: no sample is above 0x3FFF, so every second byte is 0x3F
-// at most, and each code has two neighbouring bytes above that. In a matte plane, whose bytes may
-// be anything, a code may come up by chance; it is then reported as a command out of order.
+// Image data cannot be mistaken for a code as long as its samples keep to 14 bits, as those of the
+// conversion library do: every second byte is then 0x3F at most, and each code has two neighbouring
+// bytes above that. The protocol does not hold samples to it. In wider ones and in a matte plane,
+// whose bytes may be anything, a code may come up by chance, and is then reported as a command out
+// of order.
 #ifndef TQR7_DECODER_CODE_SCANNER_H
 #define TQR7_DECODER_CODE_SCANNER_H
 

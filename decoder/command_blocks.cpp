@@ -12,8 +12,6 @@ constexpr std::uint16_t kOffsetWait = 10;
 constexpr std::uint16_t kOffsetMarginCutOff = 14;
 constexpr std::uint16_t kOffsetFinish = 48;
 constexpr std::uint16_t kOffsetPrintMode = 49;
-constexpr std::uint16_t kOffsetRgbRate = 81;
-constexpr std::uint16_t kOffsetOpRate = 82;
 
 constexpr std::uint16_t kOffsetFlag = 3;
 constexpr std::uint16_t kOffsetYear = 32;

@@ -22,7 +22,7 @@ struct Sheet {
 /// What there is to say of a sheet when its last byte is in.
 struct SheetEnd {
   std::uint64_t offset;      ///< of the byte behind the sheet
-  std::uint64_t badSamples;  ///< samples above 14 bits; the first one was reported as an error
+  std::uint64_t badSamples;  ///< samples above 0x3FFF, which is no error of the stream
 };
 
 /// Receives a stream's content. A command is told when it is complete, its errors before it, and

@@ -144,6 +144,11 @@ bool check_sheet(const JobHeader& header, Command command, std::uint64_t blockOf
   return false;
 }
 
+bool may_carry_two_prints(const JobHeader& header) {
+  const SheetSize* const sheet = find_sheet(header.sheetWidth, header.sheetHeight);
+  return sheet == nullptr || is_two_up(header, *sheet);
+}
+
 bool check_image(const ImageHeader& image, const JobHeader& job, std::uint64_t blockOffset,
                  const ErrorSink& report) {
   const SheetSize* const sheet = find_sheet(job.sheetWidth, job.sheetHeight);

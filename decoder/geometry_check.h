@@ -17,6 +17,10 @@ namespace decoder {
 bool check_sheet(const JobHeader& header, Command command, std::uint64_t blockOffset,
                  const ErrorSink& report);
 
+/// The sheet carries two prints, by what most of its two-up fields say; also true when its size is
+/// no paper's, and nobody can tell.
+bool may_carry_two_prints(const JobHeader& header);
+
 /// The image covers the sheet of `job`, or leaves the white border where the sheet allows one; the
 /// matte plane is absent for gloss, and the sheet's size and 12 rows for matte. `job` must have
 /// passed check_sheet. True when all sizes are right.

@@ -4,13 +4,6 @@
 #include <algorithm>
 
 namespace decoder {
-namespace {
-
-bool is_bad(std::uint16_t sample) {
-  return sample > kSampleMaximum;
-}
-
-}  // namespace
 
 void PlaneReader::Begin(std::size_t rowBytes, std::uint32_t rows) {
   row_.clear();
@@ -38,16 +31,10 @@ void read_samples(std::span<const std::uint8_t> row, std::vector<std::uint16_t>&
   }
 }
 
-std::optional<std::size_t> first_bad_sample(std::span<const std::uint16_t> samples) {
-  const auto found = std::find_if(samples.begin(), samples.end(), is_bad);
-  if (found == samples.end()) {
-    return std::nullopt;
-  }
-  return static_cast<std::size_t>(found - samples.begin());
-}
-
 std::uint64_t count_bad_samples(std::span<const std::uint16_t> samples) {
-  return static_cast<std::uint64_t>(std::count_if(samples.begin(), samples.end(), is_bad));
+  return static_cast<std::uint64_t>(
+      std::count_if(samples.begin(), samples.end(),
+                    [](std::uint16_t sample) { return sample > kSampleMaximum; }));
 }
 
 }  // namespace decoder

@@ -6,14 +6,13 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <vector>
 
 namespace decoder {
 
 inline constexpr std::size_t kBytesPerPixel = 6;         ///< three samples of two bytes
-inline constexpr std::uint16_t kSampleMaximum = 0x3FFF;  ///< white; samples have 14 bits
+inline constexpr std::uint16_t kSampleMaximum = 0x3FFF;  ///< white, of the conversion library
 
 /// Counts a plane's bytes, whose sizes were checked before, and hands on whole rows.
 class PlaneReader {
@@ -49,9 +48,6 @@ class PlaneReader {
 
 /// A row's samples, which come low byte first. Keeps `samples`' memory.
 void read_samples(std::span<const std::uint8_t> row, std::vector<std::uint16_t>& samples);
-
-/// Index of the first sample above 14 bits, if any.
-std::optional<std::size_t> first_bad_sample(std::span<const std::uint16_t> samples);
 
 /// How many samples are above 14 bits.
 std::uint64_t count_bad_samples(std::span<const std::uint16_t> samples);

@@ -22,15 +22,31 @@ void RepeatedSettings::Compare(const Block& block, Command command, std::uint64_
           hex_byte(*theirs) + " as in the last readiness query"});
 }
 
-void RepeatedSettings::TakeQuery(const Block& block, std::uint64_t offset, bool sound,
-                                 const ErrorSink& report) {
-  wait_ = read_job_header(block).waitByte;
-  if (sound) {
-    Compare(block, Command::ReadinessQuery, offset, report);
-    query_ = block;
-  } else {
-    query_.reset();
+// A file has one set of options for all of its sheets; only the rates are each sheet's own.
+void RepeatedSettings::CompareWithFile(const Block& block, std::uint64_t offset,
+                                       const ErrorSink& report) const {
+  for (const FieldRule& rule : field_rules(Command::ReadinessQuery)) {
+    const bool rate = rule.offset == kOffsetRgbRate || rule.offset == kOffsetOpRate;
+    const std::uint16_t mine = read_field(block, rule);
+    const std::uint16_t theirs = read_field(*file_, rule);
+    if (mine != theirs && !rate) {
+      report({offset + rule.offset, Command::ReadinessQuery, rule.name,
+              value_words(mine, rule.notation),
+              value_words(theirs, rule.notation) + " as on the file's sheet before"});
+      return;
+    }
   }
+}
+
+void RepeatedSettings::TakeQuery(const Block& block, std::uint64_t offset, bool sound,
+                                 bool fileGoesOn, const ErrorSink& report) {
+  wait_ = read_job_header(block).waitByte;
+  if (sound && query_) {
+    Compare(block, Command::ReadinessQuery, offset, report);
+  } else if (sound && file_ && fileGoesOn) {
+    CompareWithFile(block, offset, report);
+  }
+  query_ = file_ = sound ? std::optional(block) : std::nullopt;
 }
 
 void RepeatedSettings::TakeJobHeader(const Block& block, std::uint64_t offset, bool sound,
@@ -42,11 +58,10 @@ void RepeatedSettings::TakeJobHeader(const Block& block, std::uint64_t offset, b
   query_.reset();
 }
 
-// The settings are a job's: the wait byte at its end is that of its sheets. A job without sheets
-// has said none.
-void RepeatedSettings::TakePrintOut(std::uint8_t wait, std::uint64_t offset,
+// The wait byte at a file's end is that of its sheets. A file without sheets has said none.
+void RepeatedSettings::TakePrintOut(std::uint8_t wait, std::uint64_t offset, bool fileGoesOn,
                                     const ErrorSink& report) {
-  if (wait_ && wait != *wait_) {
+  if (wait_ && fileGoesOn && wait != *wait_) {
     report({offset + kOffsetPrintOutWait, Command::PrintOut, "wait byte", std::to_string(wait),
             std::to_string(*wait_) + " as in the last settings block"});
   }

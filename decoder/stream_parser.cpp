@@ -29,12 +29,6 @@ std::string all_codes() {
   return text;
 }
 
-std::string place_of_sample(std::uint32_t row, std::size_t index) {
-  constexpr std::size_t kSamplesPerPixel = 3;
-  return "row " + std::to_string(row) + ", column " + std::to_string(index / kSamplesPerPixel) +
-         ", sample " + std::to_string(index % kSamplesPerPixel);
-}
-
 }  // namespace
 
 StreamParser::StreamParser(CommandListener& listener)
@@ -45,7 +39,8 @@ void StreamParser::Report(const StreamError& error) {
   listener_.OnError(error);
 }
 
-void StreamParser::Feed(Bytes bytes) {
+void StreamParser::Feed(Bytes bytes, StreamTime at) {
+  at_ = at;
   while (!bytes.empty()) {
     bytes = bytes.subspan(Step(bytes));
   }
@@ -109,7 +104,7 @@ std::size_t StreamParser::TakeSearch(Bytes bytes) {
 void StreamParser::BeginBlock(const CommandCode& code) {
   code_ = &code;
   mode_ = Mode::Block;
-  order_.Take(code.command, BlockOffset(), report_);
+  exchange_.Take(code.command, BlockOffset(), at_, report_);
 }
 
 std::size_t StreamParser::TakeBlock(Bytes bytes) {
@@ -155,7 +150,9 @@ void StreamParser::FinishReadinessQuery(std::uint64_t errorsBefore) {
   const JobHeader header = read_job_header(Block());
   check_sheet(header, code_->command, BlockOffset(), report_);
   job_.reset();
-  settings_.TakeQuery(block_, BlockOffset(), errorCount_ == errorsBefore, report_);
+  exchange_.TakeSettings(may_carry_two_prints(header));
+  settings_.TakeQuery(block_, BlockOffset(), errorCount_ == errorsBefore, exchange_.FileGoesOn(),
+                      report_);
   listener_.OnReadinessQuery(BlockOffset(), header);
 }
 
@@ -165,6 +162,7 @@ void StreamParser::FinishJobHeader(std::uint64_t errorsBefore) {
   if (check_sheet(header, code_->command, BlockOffset(), report_)) {
     job_ = header;
   }
+  exchange_.TakeSettings(may_carry_two_prints(header));
   settings_.TakeJobHeader(block_, BlockOffset(), errorCount_ == errorsBefore, report_);
   listener_.OnJobHeader(BlockOffset(), header);
 }
@@ -189,7 +187,7 @@ void StreamParser::FinishImageHeader() {
 
 void StreamParser::FinishPrintOut() {
   const std::uint8_t wait = read_print_out_wait(Block());
-  settings_.TakePrintOut(wait, BlockOffset(), report_);
+  settings_.TakePrintOut(wait, BlockOffset(), exchange_.FileGoesOn(), report_);
   job_.reset();
   listener_.OnPrintOut(BlockOffset(), wait);
 }
@@ -209,15 +207,7 @@ std::size_t StreamParser::TakeImage(Bytes bytes) {
 
 void StreamParser::FinishImageRow() {
   read_samples(plane_.Row(), samples_);
-  const std::optional<std::size_t> bad = first_bad_sample(samples_);
-  if (bad && badSamples_ == 0) {
-    Report({offset_ - plane_.Row().size() + 2 * *bad, Command::ImageData,
-            place_of_sample(plane_.RowNumber(), *bad), hex_word(samples_[*bad]),
-            hex_word(0) + " to " + hex_word(kSampleMaximum)});
-  }
-  if (bad) {
-    badSamples_ += count_bad_samples(samples_);
-  }
+  badSamples_ += count_bad_samples(samples_);
   listener_.OnImageRow(plane_.RowNumber(), samples_);
 }
 
@@ -274,7 +264,7 @@ void StreamParser::EndOfStream() {
     case Mode::Code:
       if (filled_ > 0) {
         ReportCut(Command::None, "command code", filled_, kCodeLength);
-      } else if (order_.ImageHeaderDue()) {
+      } else if (exchange_.ImageHeaderDue()) {
         ReportCut(Command::ImageHeader, "length", 0, kBlockLength);
       }
       break;

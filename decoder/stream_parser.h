@@ -12,8 +12,7 @@
 // - an image header with wrong sizes, or without a usable job header before it: how many bytes of
 //   pixels follow cannot be known, so the next command code is looked for;
 // - bytes that begin no command: the next command code is looked for, from the second byte on;
-// - a command out of order counts as come, and order goes on from there;
-// - a sample above 14 bits: reading goes on, and further ones of the sheet are only counted.
+// - a command out of order counts as come, and order goes on from there.
 // Every step takes at least one byte, so the parser ends with its input.
 #ifndef TQR7_DECODER_STREAM_PARSER_H
 #define TQR7_DECODER_STREAM_PARSER_H
@@ -27,7 +26,7 @@
 
 #include "decoder/code_scanner.h"
 #include "decoder/command_listener.h"
-#include "decoder/command_order.h"
+#include "decoder/exchange.h"
 #include "decoder/plane_reader.h"
 #include "decoder/repeated_settings.h"
 
@@ -42,8 +41,15 @@ class StreamParser {
   StreamParser& operator=(const StreamParser&) = delete;
   ~StreamParser() = default;
 
-  /// Takes the next bytes of the stream.
-  void Feed(std::span<const std::uint8_t> bytes);
+  /// Takes the next bytes of the stream, and when they came, where that is to be checked.
+  void Feed(std::span<const std::uint8_t> bytes, StreamTime at = {});
+
+  /// What the printer answers to the question that the listener was told last, and since when; as
+  /// Exchange has it.
+  void Answered(const Answer& answer, StreamTime at = {}) { exchange_.Answered(answer, at); }
+
+  /// What the questions and their answers so far make of the next sheet.
+  const Exchange& Course() const { return exchange_; }
 
   /// No more bytes come: reports what is incomplete and how many bytes are missing. A stream may
   /// end after any whole command but a job header. Feed nothing afterwards.
@@ -88,13 +94,14 @@ class StreamParser {
 
   CommandListener& listener_;
   ErrorSink report_;
-  CommandOrder order_;
+  Exchange exchange_;
   CodeScanner scanner_;
   PlaneReader plane_;
   std::vector<std::uint16_t> samples_;
 
   Mode mode_ = Mode::Code;
   std::uint64_t offset_ = 0;
+  StreamTime at_{};  ///< when the bytes being taken came
   std::uint64_t errorCount_ = 0;
   std::uint64_t searchFrom_ = 0;
   std::uint64_t badSamples_ = 0;

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "decoder/stream_error.h"
-#include "simulator/fault_rule.h"
+#include "simulator/printer_answers.h"
 #include "simulator/wording.h"
 
 namespace simulator {
@@ -50,12 +50,20 @@ std::string answer_words(const AnswerPlan& plan) {
   return text;
 }
 
-std::string seen_words(const AnswerPlan& plan) {
-  if (plan.silent) {
-    return "no answer";
+decoder::Answer told_by(const AnswerPlan& plan, Question question) {
+  using Meaning = decoder::Answer::Meaning;
+  decoder::Answer answer;
+  if (plan.silent || plan.cutTo) {
+    answer.meaning = Meaning::Bad;
+    answer.words = plan.silent ? "no answer" : "an answer of " + counted(*plan.cutTo, "byte");
+  } else {
+    const bool busy = question == Question::Readiness && plan.number == kEnableBusy;
+    answer.meaning = plan.number == 0 ? Meaning::Good : busy ? Meaning::Busy : Meaning::Bad;
+    answer.words = decoder::hex_word(plan.number);
   }
-  return plan.cutTo ? "an answer of " + counted(*plan.cutTo, "byte")
-                    : decoder::hex_word(plan.number);
+  answer.strayed = !plan.stray.empty();
+  answer.sure = !plan.silent && !plan.cutTo && !answer.strayed && plan.delay < kSurelyInTime;
+  return answer;
 }
 
 }  // namespace simulator

@@ -11,12 +11,16 @@
 #include <string>
 #include <vector>
 
-#include "simulator/printer_answers.h"
+#include "decoder/exchange.h"
+#include "simulator/fault_rule.h"
 
 namespace simulator {
 
 /// Pieces of an answer leave this far apart, so that they arrive as pieces.
 inline constexpr std::chrono::milliseconds kPieceDistance{50};
+
+/// A client gives an answer up that takes a second to come, on its way as well.
+inline constexpr std::chrono::milliseconds kSurelyInTime{900};
 
 /// One answer's number, and what is wrong with its way.
 struct AnswerPlan {
@@ -26,15 +30,6 @@ struct AnswerPlan {
   std::optional<std::uint64_t> cutTo;  ///< only so many bytes of it
   std::vector<std::uint8_t> stray;     ///< go out right before it
   bool silent = false;                 ///< no answer at all
-
-  /// Whether the client gets the whole number.
-  bool Whole() const { return !cutTo && !silent; }
-
-  /// Whether it does, and the number is zero: good, or ready.
-  bool Good() const { return Whole() && number == 0; }
-
-  /// Whether it does, and the code is busy.
-  bool Busy() const { return Whole() && number == kEnableBusy; }
 };
 
 /// What goes out of `answer`, piece by piece. Stray bytes go with the first piece; nothing of it is
@@ -46,8 +41,8 @@ std::vector<std::vector<std::uint8_t>> pieces_of(const AnswerPlan& plan,
 /// client went away in it.
 std::string answer_words(const AnswerPlan& plan);
 
-/// What the client could have seen: "0x2665", "no answer" or "an answer of 3 bytes".
-std::string seen_words(const AnswerPlan& plan);
+/// What the answer to a question tells the client: "0x2665", "no answer" or "an answer of 3 bytes".
+decoder::Answer told_by(const AnswerPlan& plan, Question question);
 
 }  // namespace simulator
 

@@ -89,6 +89,8 @@ void add_fault_options(CLI::App& app, Options& options) {
              });
   add_number(app, "--busy", _("answer the first K readiness queries with busy, 0x0100"), "K", 0,
              kCountMost, [&options](std::uint64_t number) { options.faults.busy = number; });
+  app.add_flag("--simulated-clock", options.simulatedClock,
+               _("do not check how soon a client asks again"));
 }
 
 void add_end_options(CLI::App& app, Options& options) {

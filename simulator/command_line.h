@@ -23,9 +23,10 @@ struct Options {
   std::string record;    ///< empty: no record
   std::string timeline;  ///< empty: none
   decoder::ProofChoice proof;
-  bool marks = false;         ///< cut and border drawn into the sheets
-  bool contactSheet = false;  ///< a page of all sheets
-  bool verbose = false;       ///< every field is said
+  bool marks = false;           ///< cut and border drawn into the sheets
+  bool contactSheet = false;    ///< a page of all sheets
+  bool verbose = false;         ///< every field is said
+  bool simulatedClock = false;  ///< no pace of clients is held
   std::optional<std::uint64_t> connections;
 };
 

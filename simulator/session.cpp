@@ -34,7 +34,9 @@ std::optional<Received> Session::ReceiveMore() {
   if (parser_.Offset() >= end) {
     return std::nullopt;
   }
-  client_.ReadSlowly(printer_.faults.BytesPerSecond());
+  const std::optional<std::uint64_t> rate = printer_.faults.BytesPerSecond();
+  readsSlowly_ = readsSlowly_ || rate.has_value();
+  client_.ReadSlowly(rate);
   // The client comes first: a sheet is drawn while it has nothing to send, as in the pause behind
   // the sheet.
   while (!client_.BytesWait() && printer_.sheets.Draw()) {
@@ -75,7 +77,7 @@ void Session::TakeBytes() {
   if (!failure.empty()) {
     log_.SayFailure("recording ends: " + failure);
   }
-  parser_.Feed(client_.Bytes());
+  parser_.Feed(client_.Bytes(), Now());
 }
 
 // Cut by the simulator itself: that is no error of the stream.
@@ -113,6 +115,9 @@ void Session::SendPieces(const AnswerPlan& plan, std::span<const std::uint8_t> a
     if (!waiter_.Until(time)) {
       return;  // the next wait for bytes ends the session
     }
+    if (!answered_) {
+      answered_ = Now();
+    }
     if (!client_.Send(piece)) {
       answersLost_ = true;
       log_.Say("answers are lost from here on: " + client_.Error());
@@ -123,10 +128,21 @@ void Session::SendPieces(const AnswerPlan& plan, std::span<const std::uint8_t> a
   }
 }
 
-void Session::SendAnswer(const AnswerPlan& plan, std::span<const std::uint8_t> answer) {
+void Session::GiveAnswer(const AnswerPlan& plan, Question question) {
+  answered_.reset();
   if (!answersLost_) {
-    SendPieces(plan, answer);
+    SendPieces(plan, question == Question::Status ? status_answer(plan.number)
+                                                  : readiness_answer(plan.number));
   }
+  decoder::Answer told = told_by(plan, question);
+  told.sure = told.sure && !answersLost_ && !readsSlowly_;
+  parser_.Answered(told, answered_);
+}
+
+decoder::StreamTime Session::Now() const {
+  return printer_.simulatedClock
+             ? std::nullopt
+             : decoder::StreamTime(std::chrono::steady_clock::now().time_since_epoch());
 }
 
 void Session::OnCommandBytes(std::uint64_t /*offset*/, decoder::Command command,
@@ -147,39 +163,25 @@ void Session::SayFields(decoder::Command command) const {
 
 void Session::OnStatusRequest(std::uint64_t /*offset*/) {
   NoteTime("status request");
-  const AnswerPlan plan = printer_.faults.Answer(Question::Status, !permission_.FileBegins());
-  permission_.StatusAnswered(plan);
-  SendAnswer(plan, status_answer(plan.number));
+  const AnswerPlan plan =
+      printer_.faults.Answer(Question::Status, parser_.Course().StatusAboutSheet());
+  GiveAnswer(plan, Question::Status);
   log_.Say("status request, " + answer_words(plan));
   SayFields(decoder::Command::StatusRequest);
   printer_.faults.EndByCount();
 }
 
-void Session::OnReadinessQuery(std::uint64_t offset, const decoder::JobHeader& header) {
+void Session::OnReadinessQuery(std::uint64_t /*offset*/, const decoder::JobHeader& header) {
   NoteTime("readiness query");
-  if (!permission_.QueryAllowed()) {
-    OnError({offset, decoder::Command::ReadinessQuery, "answer to the status request",
-             "a query after " + permission_.StatusSeen(), "a query after 0x0000"});
-  }
-  if (!permission_.RepeatAllowed()) {
-    OnError({offset, decoder::Command::ReadinessQuery, "answer to the readiness query",
-             "a repeated query after " + permission_.ReadinessSeen(),
-             "a repeated query after " + decoder::hex_word(kEnableBusy)});
-  }
   const AnswerPlan plan = printer_.faults.Answer(Question::Readiness, true);
-  permission_.ReadinessAnswered(plan);
-  SendAnswer(plan, readiness_answer(plan.number));
+  GiveAnswer(plan, Question::Readiness);
   log_.Say("readiness query, " + sheet_words(header) + ", " + answer_words(plan));
   SayFields(decoder::Command::ReadinessQuery);
   printer_.faults.EndByCount();
 }
 
-void Session::OnJobHeader(std::uint64_t offset, const decoder::JobHeader& header) {
+void Session::OnJobHeader(std::uint64_t /*offset*/, const decoder::JobHeader& header) {
   NoteTime("job header");
-  if (!permission_.JobHeaderAllowed()) {
-    OnError({offset, decoder::Command::JobHeader, "answer to the readiness query",
-             "a job header after " + permission_.ReadinessSeen(), "a job header after 0x0000"});
-  }
   log_.Say("job header, " + job_header_words(header));
   SayFields(decoder::Command::JobHeader);
   jobFields_ = fields_;
@@ -194,7 +196,7 @@ void Session::OnImageHeader(std::uint64_t /*offset*/, const decoder::ImageHeader
 
 void Session::OnSheetBegin(const decoder::Sheet& sheet) {
   sheet_ = sheet;
-  if (!permission_.SheetAllowed() || !printer_.faults.SuppliesLeft()) {
+  if (!parser_.Course().SheetAllowed() || !printer_.faults.SuppliesLeft()) {
     log_.Say("the sheet is not printed: the printer did not allow it");
     return;
   }
@@ -218,9 +220,8 @@ void Session::OnMatteRow(std::uint32_t row, std::span<const std::uint8_t> bytes)
 
 void Session::OnSheetEnd(const decoder::SheetEnd& end) {
   NoteTime("sheet");
-  permission_.SheetDone();
-  if (end.badSamples > 1) {
-    log_.Say(counted(end.badSamples, "sample") + " of the sheet above 0x3FFF");
+  if (end.badSamples > 0) {
+    log_.Say("note: " + counted(end.badSamples, "sample") + " of the sheet above 0x3FFF");
   }
   if (!printer_.sheets.Busy()) {
     return;
@@ -276,7 +277,6 @@ void Session::OnSheetCut() {
 
 void Session::OnPrintOut(std::uint64_t /*offset*/, std::uint8_t waitByte) {
   NoteTime("print-out");
-  permission_.PrintOutDone();
   log_.Say("print-out, wait byte " + std::to_string(waitByte));
   SayFields(decoder::Command::PrintOut);
 }

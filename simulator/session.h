@@ -18,7 +18,6 @@
 #include "simulator/connection_log.h"
 #include "simulator/contact_sheet.h"
 #include "simulator/fault_schedule.h"
-#include "simulator/permission.h"
 #include "simulator/sheet_printer.h"
 #include "simulator/sheet_progress.h"
 #include "simulator/stream_recorder.h"
@@ -37,6 +36,7 @@ struct Printer {
   Tally& tally;
   ContactSheet* contactSheet = nullptr;  ///< none: no such page is kept
   bool verbose = false;                  ///< every field is said
+  bool simulatedClock = false;           ///< the clients have a clock of their own: no pace is held
 };
 
 /// Serves one client.
@@ -71,7 +71,8 @@ class Session : private decoder::CommandListener {
   void OnError(const decoder::StreamError& error) override;
   void OnSkipped(std::uint64_t offset, std::uint64_t count) override;
 
-  void SendAnswer(const AnswerPlan& plan, std::span<const std::uint8_t> answer);
+  void GiveAnswer(const AnswerPlan& plan, Question question);
+  decoder::StreamTime Now() const;
   void SendPieces(const AnswerPlan& plan, std::span<const std::uint8_t> answer);
   std::optional<Received> ReceiveMore();
   void TakeBytes();
@@ -88,8 +89,9 @@ class Session : private decoder::CommandListener {
   ConnectionLog log_;
   decoder::StreamParser parser_;
 
-  Permission permission_;
   bool answersLost_ = false;
+  bool readsSlowly_ = false;      ///< at some time: questions may lie unread
+  decoder::StreamTime answered_;  ///< when the first bytes of the last answer went out
   decoder::Sheet sheet_{};
   SheetProgress progress_;
   std::vector<decoder::NamedField> fields_;  ///< of the last command

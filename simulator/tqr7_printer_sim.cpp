@@ -143,9 +143,10 @@ int run(const Options& options) {
   SheetPrinter sheets(folder, proof.get(), {options.marks, options.contactSheet});
   Tally tally;
   const Waiter waiter(*signals, faults, options.faults.script);
-  return serve(options, server, waiter,
-               {faults, sheets, recorder, timeline, tally,
-                options.contactSheet ? &contactSheet : nullptr, options.verbose});
+  return serve(
+      options, server, waiter,
+      {faults, sheets, recorder, timeline, tally, options.contactSheet ? &contactSheet : nullptr,
+       options.verbose, options.simulatedClock});
 }
 
 }  // namespace

@@ -45,7 +45,7 @@ struct StreamTotals {
   std::uint64_t sheets = 0;    ///< whole ones
   std::uint64_t printOuts = 0;
   std::uint64_t errors = 0;
-  std::uint64_t badSamples = 0;      ///< all samples above 14 bits
+  std::uint64_t badSamples = 0;      ///< samples above 0x3FFF, which is no error
   std::uint64_t errorsUnlisted = 0;  ///< of `errors`, those beyond the list's length
   std::uint64_t commandsUnlisted = 0;
 

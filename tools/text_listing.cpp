@@ -51,9 +51,8 @@ class TextListing : public StreamListing {
                    counted(totals.commandsUnlisted, "command").c_str(),
                    counted(totals.errorsUnlisted, "error").c_str());
     }
-    if (totals.badSamples > 1) {
-      std::fprintf(out_, "samples above 0x3FFF: %" PRIu64 ", the first of each sheet is listed\n",
-                   totals.badSamples);
+    if (totals.badSamples > 0) {
+      std::fprintf(out_, "note: %s above 0x3FFF\n", counted(totals.badSamples, "sample").c_str());
     }
     if (totals.bytes == 0) {
       std::fprintf(out_, "empty: no bytes, no commands\n");

@@ -27,7 +27,8 @@ fault() {
     rules+=(--fault "$rule")
     name+="${name:+ and }\`$rule\`"
   done
-  add_printer "$queue" --device-values "${rules[@]}"
+  # The filter's seconds are short: a busy printer would say that it asks again too soon.
+  add_printer "$queue" --device-values --simulated-clock "${rules[@]}"
   PATH=$PATH:/usr/sbin lpadmin -p "$queue" -o printer-error-policy="${FAULT_POLICY:-retry-job}"
   fault_names+=("${FAULT_NAME:-$name}")
   fault_queues+=("$queue")

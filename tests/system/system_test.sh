@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: Apache-2.0
 # shellcheck shell=bash
 # What every system test begins with: a private scheduler, and words to say what is expected.
-# Needs TQR7_BUILD, the build folder. A test ends with finish.
+# Needs TQR7_BUILD, the build folder. A test ends with finish. The filter does not sleep for long, unless
+# the test has set SCHEDULER_FILTER_PRELOAD to nothing before.
 set -u
 
 tests=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -173,5 +174,5 @@ trap stop_test EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM HUP
 export ASAN_OPTIONS="${ASAN_OPTIONS:+$ASAN_OPTIONS:}verify_asan_link_order=0"
-SCHEDULER_FILTER_PRELOAD=$tools/quick-sleep.so
+SCHEDULER_FILTER_PRELOAD=${SCHEDULER_FILTER_PRELOAD-$tools/quick-sleep.so}
 scheduler_start "$TQR7_BUILD" || exit 1

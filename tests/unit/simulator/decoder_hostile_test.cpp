@@ -61,51 +61,53 @@ TEST(Garbage, BetweenCommandsLeavesTheOrderAlone) {
 
 // Pixels hold no command code, whatever they show: the search ends at the next true command.
 TEST(WrongImageSize, PassesOverThePixels) {
-  Bytes sheet =
-      stream::sheet(stream::paper_5x15(), Finish::Gloss, {0x1B, 0x1B, 0x47, 0x30, 0x33, 0x1B});
-  sheet.at(1044) = 0x03;
+  Bytes sheet = stream::first_sheet(stream::paper_5x15(), Finish::Gloss,
+                                    {0x1B, 0x1B, 0x47, 0x30, 0x33, 0x1B});
+  sheet.at(1052) = 0x03;
   EventRecording recording;
   decode(join({sheet, stream::status_request(), stream::print_out()}), recording);
   EXPECT_THAT(recording.events,
-              ElementsAre("status request at 0", "readiness query at 8", "job header at 520",
-                          "offset 1044: image header, image height: came 887, allowed 631 on a "
+              ElementsAre("status request at 0", "status request at 8", "readiness query at 16",
+                          "job header at 528",
+                          "offset 1052: image header, image height: came 887, allowed 631 on a "
                           "sheet of 1852 x 631",
-                          "image header at 1032", "skipped 7011672 bytes from 1544",
-                          "status request at 7013216", "print-out at 7013224, wait byte 5"));
+                          "image header at 1040", "skipped 7011672 bytes from 1552",
+                          "status request at 7013224", "print-out at 7013232, wait byte 5"));
 }
 
 TEST(WrongImageSize, WithoutPixelsSkipsNothing) {
-  Bytes headers = stream::headers(stream::paper_5x15(), Finish::Gloss);
-  headers.at(1044) = 0x03;
+  Bytes headers = stream::first_headers(stream::paper_5x15(), Finish::Gloss);
+  headers.at(1052) = 0x03;
   EventRecording recording;
   decode(join({headers, stream::status_request()}), recording);
   EXPECT_THAT(recording.events,
-              ElementsAre("status request at 0", "readiness query at 8", "job header at 520",
-                          "offset 1044: image header, image height: came 887, allowed 631 on a "
+              ElementsAre("status request at 0", "status request at 8", "readiness query at 16",
+                          "job header at 528",
+                          "offset 1052: image header, image height: came 887, allowed 631 on a "
                           "sheet of 1852 x 631",
-                          "image header at 1032", "status request at 1544"));
+                          "image header at 1040", "status request at 1552"));
 }
 
 TEST(WrongField, LeavesTheSheetReadable) {
-  Bytes sheet = stream::sheet(stream::paper_5x15(), Finish::Gloss, {0, 0, 0, 0, 0, 0});
-  sheet.at(1066) = 77;
+  Bytes sheet = stream::first_sheet(stream::paper_5x15(), Finish::Gloss, {0, 0, 0, 0, 0, 0});
+  sheet.at(1074) = 77;
   EventRecording recording;
   decode(join({sheet, stream::print_out()}), recording);
   EXPECT_THAT(recording.errors,
-              ElementsAre("offset 1066: image header, month: came 77, allowed 1 to 12"));
-  EXPECT_EQ(recording.events.back(), "print-out at 7013216, wait byte 5");
+              ElementsAre("offset 1074: image header, month: came 77, allowed 1 to 12"));
+  EXPECT_EQ(recording.events.back(), "print-out at 7013224, wait byte 5");
 }
 
 TEST(AFinishThatIsNone, ReadsAsGloss) {
-  Bytes sheet = stream::sheet(stream::paper_5x15(), Finish::Gloss, {0, 0, 0, 0, 0, 0});
-  sheet.at(8 + 48) = 1;
-  sheet.at(520 + 48) = 1;
+  Bytes sheet = stream::first_sheet(stream::paper_5x15(), Finish::Gloss, {0, 0, 0, 0, 0, 0});
+  sheet.at(16 + 48) = 1;
+  sheet.at(528 + 48) = 1;
   EventRecording recording;
   decode(join({sheet, stream::print_out()}), recording);
   EXPECT_THAT(recording.errors,
-              ElementsAre("offset 56: readiness query, finish: came 1, allowed 0 or 3",
-                          "offset 568: job header, finish: came 1, allowed 0 or 3"));
-  EXPECT_EQ(recording.events.back(), "print-out at 7013216, wait byte 5");
+              ElementsAre("offset 64: readiness query, finish: came 1, allowed 0 or 3",
+                          "offset 576: job header, finish: came 1, allowed 0 or 3"));
+  EXPECT_EQ(recording.events.back(), "print-out at 7013224, wait byte 5");
 }
 
 class RandomBytes : public testing::TestWithParam<unsigned> {};
@@ -144,7 +146,7 @@ TEST_P(RandomBytes, OfCommandCodesAreReadToTheirEnd) {
 TEST_P(RandomBytes, InTheHeadersBeginNoSheetBeyondThePapers) {
   std::mt19937 random(GetParam());
   for (int round = 0; round < 200; ++round) {
-    Bytes bytes = stream::headers(stream::paper_10x15(), Finish::Matte);
+    Bytes bytes = stream::first_headers(stream::paper_10x15(), Finish::Matte);
     for (int i = 0; i < 8; ++i) {
       bytes.at(random() % bytes.size()) = static_cast<std::uint8_t>(random());
     }

@@ -24,7 +24,8 @@ void decode_in_pieces(const Bytes& bytes, std::size_t piece, EventRecording& rec
   parser.EndOfStream();
 }
 
-// Two sheets, the second one matte; the pixels count up, so that no two rows are alike.
+// Two files of a sheet each, the second one matte; the pixels count up, so that no two rows are
+// alike.
 Bytes two_sheets() {
   Bytes image = stream::pixels(stream::paper_5x15().imageBytes, {});
   for (std::size_t i = 0; i < image.size(); ++i) {
@@ -34,9 +35,10 @@ Bytes two_sheets() {
   for (std::size_t i = 0; i < matte.size(); ++i) {
     matte[i] = static_cast<std::uint8_t>(i % 251);
   }
-  return stream::join(
-      {stream::status_request(), stream::headers(stream::paper_5x15(), Finish::Gloss), image,
-       stream::headers(stream::paper_5x15(), Finish::Matte), image, matte, stream::print_out()});
+  return stream::join({stream::first_headers(stream::paper_5x15(), Finish::Gloss), image,
+                       stream::print_out(),
+                       stream::first_headers(stream::paper_5x15(), Finish::Matte), image, matte,
+                       stream::print_out()});
 }
 
 class Pieces : public testing::TestWithParam<std::size_t> {};
@@ -55,11 +57,11 @@ TEST_P(Pieces, GiveWhatTheWholeStreamGives) {
 
 TEST_P(Pieces, OfABadStreamGiveTheSameErrors) {
   Bytes bytes = stream::join({{0x1B, 0x1B, 0x47, 0x00},
-                              stream::headers(stream::paper_5x15(), Finish::Gloss),
+                              stream::first_headers(stream::paper_5x15(), Finish::Gloss),
                               {0xFF, 0xFF, 0x01},
                               stream::status_request(),
                               {0x1B, 0x5A}});
-  bytes.at(4 + 1042) = 0;  // an image width that is none: the pixels are passed over
+  bytes.at(4 + 1050) = 0;  // an image width that is none: the pixels are passed over
   EventRecording whole;
   decode(bytes, whole);
   ASSERT_EQ(whole.errors.size(), 3U);

@@ -19,6 +19,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
+const Bytes kFileWithoutPages = stream::join({stream::status_request(), stream::print_out()});
 constexpr std::size_t kTenRowsAndABit = 1552 + 10 * 11112 + 100;
 
 class Connections : public testing::Test {
@@ -136,7 +137,7 @@ TEST_F(Connections, OfAClientThatTakesNoAnswersDoNotDelayTheStop) {
   const PrintClient client(printer_.Port());
   // Nobody reads the lines: a full pipe would hold the printer as well.
   printer_.CloseOutput();
-  const Bytes questions = stream::repeated(stream::status_request(), 1'000'000);
+  const Bytes questions = stream::repeated(kFileWithoutPages, 1'000'000);
   ASSERT_LT(client.SendForAWhile(questions, 1000), questions.size());
   EXPECT_EQ(printer_.Stop(), 0);
 }
@@ -165,7 +166,8 @@ TEST_F(Connections, FullOfErrorsAreNotToldWithoutEnd) {
 }
 
 TEST_F(Connections, FullOfGarbageAreNotToldWithoutEnd) {
-  const Bytes bytes = stream::repeated(stream::join({{'X'}, stream::status_request()}), 200);
+  const Bytes bytes = stream::repeated(
+      stream::join({{'X'}, stream::status_request(), {'X'}, stream::print_out()}), 100);
   ASSERT_TRUE(print(printer_.Port(), bytes));
   EXPECT_EQ(printer_.Stop(), 1);
   EXPECT_EQ(CountOf(" error: "), 50);

@@ -142,9 +142,10 @@ TEST_F(Faults, DoNotAnswer) {
 
 TEST_F(Faults, ForbidAQueryBehindNoAnswer) {
   PrinterProcess printer(By({"status silent"}));
-  ASSERT_TRUE(print(printer.Port(), stream::join({stream::status_request(), query()})));
+  ASSERT_TRUE(print(printer.Port(),
+                    stream::join({stream::status_request(), stream::status_request(), query()})));
   EXPECT_EQ(printer.WaitForLine("error"),
-            "connection 1: error: offset 8: readiness query, answer to the status request: came a "
+            "connection 1: error: offset 16: readiness query, answer to the status request: came a "
             "query after no answer, allowed a query after 0x0000");
   EXPECT_EQ(printer.Stop(), 1);
 }
@@ -260,7 +261,8 @@ TEST_F(Faults, ComeBeforeTheShortForms) {
 
 TEST_F(Faults, OfAStrayByteExcuseARepeatedQuery) {
   PrinterProcess printer(By({"enable stray 00"}));
-  ASSERT_TRUE(print(printer.Port(), stream::join({stream::status_request(), query(), query()})));
+  ASSERT_TRUE(print(printer.Port(), stream::join({stream::status_request(),
+                                                  stream::status_request(), query(), query()})));
   EXPECT_EQ(printer.Stop(), 0);
 }
 

@@ -4,6 +4,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 #include "tests/unit/simulator/print_client.h"
 #include "tests/unit/simulator/printer_process.h"
 #include "tests/unit/simulator/stream_bytes.h"
@@ -27,6 +30,11 @@ class Replies : public testing::Test {
 
 Bytes query() {
   return stream::readiness_query(stream::paper_10x15(), Finish::Gloss);
+}
+
+// A file's questions up to its first sheet.
+Bytes questions() {
+  return stream::join({stream::status_request(), stream::status_request(), query()});
 }
 
 TEST_F(Replies, ToAStatusRequestSayThatAllIsWell) {
@@ -117,34 +125,74 @@ TEST_F(Replies, ThatForbidASheetAreHeldAgainstTheClientThatSendsIt) {
   EXPECT_THAT(folder_.Names(), IsEmpty());
 }
 
-TEST_F(Replies, OfABusyPrinterLetTheClientAskAgain) {
-  PrinterProcess printer(With({"--busy", "2"}));
-  ASSERT_TRUE(
-      print(printer.Port(), stream::join({stream::status_request(), query(), query(), query()})));
+TEST_F(Replies, OfABusyPrinterLetTheClientAskAgainAfterTwoSeconds) {
+  PrinterProcess printer(With({"--busy", "1"}));
+  const PrintClient client(printer.Port());
+  ASSERT_TRUE(client.Send(questions()));
+  ASSERT_EQ(client.Read(36).size(), 36U);
+  std::this_thread::sleep_for(std::chrono::seconds(2));
+  ASSERT_TRUE(client.Send(query()));
+  ASSERT_TRUE(client.Finish());
   EXPECT_EQ(printer.Stop(), 0);
+}
+
+TEST_F(Replies, OfABusyPrinterForbidToAskAgainAtOnce) {
+  PrinterProcess printer(With({"--busy", "1"}));
+  ASSERT_TRUE(print(printer.Port(), stream::join({questions(), query()})));
+  EXPECT_EQ(printer.WaitForLine("error"),
+            "connection 1: error: offset 528: readiness query, pace: came 0.0 s after busy, "
+            "allowed 2 s or more");
+  EXPECT_EQ(printer.Stop(), 1);
+}
+
+TEST_F(Replies, OfABusyPrinterLetAClientWithAClockOfItsOwnAskAgainAtOnce) {
+  PrinterProcess printer(With({"--busy", "2", "--simulated-clock"}));
+  ASSERT_TRUE(print(printer.Port(), stream::join({questions(), query(), query()})));
+  EXPECT_EQ(printer.Stop(), 0);
+}
+
+// A client may have given a late answer up, and what it does then is no error.
+TEST_F(Replies, ThatComeLateForbidNothing) {
+  PrinterProcess printer(With({"--fault", "status late 0.9 s once"}));
+  ASSERT_TRUE(print(printer.Port(), stream::join({stream::status_request(), questions()})));
+  EXPECT_EQ(printer.Stop(), 0);
+}
+
+TEST_F(Replies, OfASlowReaderForbidNothing) {
+  PrinterProcess printer(With({"--fault", "read 100000 bytes/s"}));
+  ASSERT_TRUE(print(printer.Port(), stream::join({stream::status_request(), questions()})));
+  EXPECT_EQ(printer.Stop(), 0);
+}
+
+TEST_F(Replies, ThatAreGoodForbidAThirdStatusRequest) {
+  PrinterProcess printer(With({}));
+  ASSERT_TRUE(print(printer.Port(), stream::join({stream::status_request(), questions()})));
+  EXPECT_EQ(printer.WaitForLine("error"),
+            "connection 1: error: offset 16: status request, answer to the status request: came a "
+            "status request after 0x0000, allowed a query after 0x0000");
+  EXPECT_EQ(printer.Stop(), 1);
 }
 
 TEST_F(Replies, OfAReadyPrinterForbidToAskAgain) {
   PrinterProcess printer(With({}));
-  ASSERT_TRUE(print(printer.Port(), stream::join({stream::status_request(), query(), query()})));
+  ASSERT_TRUE(print(printer.Port(), stream::join({questions(), query()})));
   EXPECT_EQ(printer.WaitForLine("error"),
-            "connection 1: error: offset 520: readiness query, answer to the readiness query: came "
+            "connection 1: error: offset 528: readiness query, answer to the readiness query: came "
             "a repeated query after 0x0000, allowed a repeated query after 0x0100");
   EXPECT_EQ(printer.Stop(), 1);
 }
 
 TEST_F(Replies, OfASheetAreForgottenAtTheNextStatusRequest) {
-  PrinterProcess printer(With({}));
-  ASSERT_TRUE(print(printer.Port(), stream::join({stream::status_request(), query(),
-                                                  stream::status_request(), query()})));
+  PrinterProcess printer(With({"--fault", "enable 0x0200 once"}));
+  ASSERT_TRUE(print(printer.Port(), stream::join({questions(), stream::small_job()})));
   EXPECT_EQ(printer.Stop(), 0);
 }
 
 TEST_F(Replies, OfAnErrorForbidTheQuery) {
-  PrinterProcess printer(With({"--status", "0x2665"}));
-  ASSERT_TRUE(print(printer.Port(), stream::join({stream::status_request(), query()})));
+  PrinterProcess printer(With({"--fault", "sheet 1: status 0x2665"}));
+  ASSERT_TRUE(print(printer.Port(), questions()));
   EXPECT_EQ(printer.WaitForLine("error"),
-            "connection 1: error: offset 8: readiness query, answer to the status request: came a "
+            "connection 1: error: offset 16: readiness query, answer to the status request: came a "
             "query after 0x2665, allowed a query after 0x0000");
 }
 

@@ -51,7 +51,7 @@ std::string hour_and_minute() {
 
 // White paper: the low byte of a sample comes first.
 Bytes white_sheet(const stream::Paper& paper) {
-  return stream::sheet(paper, Finish::Gloss, {0xFF, 0x3F, 0xFF, 0x3F, 0xFF, 0x3F});
+  return stream::first_sheet(paper, Finish::Gloss, {0xFF, 0x3F, 0xFF, 0x3F, 0xFF, 0x3F});
 }
 
 TEST_F(Views, GiveEveryLineButTheFirstItsTime) {
@@ -235,10 +235,10 @@ TEST_F(Views, RewriteTheContactSheetAfterEachSheet) {
   ASSERT_NE(printer.Port(), 0);
   EXPECT_THAT(Index(), HasSubstr("<h1>0 sheets, 0 errors</h1>"));
   const PrintClient client(printer.Port());
-  ASSERT_TRUE(client.Send(stream::sheet(stream::paper_5x15(), Finish::Gloss, {})));
+  ASSERT_TRUE(client.Send(stream::first_sheet(stream::paper_5x15(), Finish::Gloss, {})));
   // The page is written right behind the event; the answer to the next question comes behind both.
   ASSERT_TRUE(client.Send(stream::status_request()));
-  ASSERT_EQ(client.Read(36).size(), 36U);
+  ASSERT_EQ(client.Read(51).size(), 51U);
   EXPECT_THAT(Index(), HasSubstr("<h1>1 sheet, 0 errors</h1>"));
 }
 

@@ -217,9 +217,17 @@ Bytes sheet(const Paper& paper, Finish finish, const std::array<std::uint8_t, 6>
                finish == Finish::Matte ? matte(paper.matteBytes, matteValue) : Bytes{}});
 }
 
+Bytes first_headers(const Paper& paper, Finish finish) {
+  return join({status_request(), headers(paper, finish)});
+}
+
+Bytes first_sheet(const Paper& paper, Finish finish, const std::array<std::uint8_t, 6>& pixel,
+                  std::uint8_t matteValue) {
+  return join({status_request(), sheet(paper, finish, pixel, matteValue)});
+}
+
 Bytes small_job() {
-  return join({status_request(),
-               sheet(paper_5x15(), Finish::Gloss, {0x00, 0x20, 0x00, 0x20, 0x00, 0x20}),
+  return join({first_sheet(paper_5x15(), Finish::Gloss, {0x00, 0x20, 0x00, 0x20, 0x00, 0x20}),
                print_out()});
 }
 

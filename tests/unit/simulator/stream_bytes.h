@@ -65,6 +65,12 @@ Bytes headers(const Paper& paper, Finish finish);
 Bytes sheet(const Paper& paper, Finish finish, const std::array<std::uint8_t, 6>& pixel,
             std::uint8_t matteValue = 0xFF);
 
+/// The same as the first of a file, with the file's own status request before them: the headers are
+/// at 16, 528 and 1040, and the pixels would begin at 1552.
+Bytes first_headers(const Paper& paper, Finish finish);
+Bytes first_sheet(const Paper& paper, Finish finish, const std::array<std::uint8_t, 6>& pixel,
+                  std::uint8_t matteValue = 0xFF);
+
 /// A job of one 5x15 gloss sheet in mid grey: 7,013,230 bytes.
 Bytes small_job();
 
