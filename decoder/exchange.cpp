@@ -121,7 +121,7 @@ void Exchange::Take(Command command, std::uint64_t offset, StreamTime at, const 
   } else if (command == Command::ReadinessQuery) {
     CheckPace(offset, at, report);
   }
-  queries_ = command != Command::ReadinessQuery ? 0 : last_ == command ? queries_ + 1 : 1;
+  queries_ = command == Command::ReadinessQuery ? queries_ + 1 : 0;
   places_ = move.to != 0 ? move.to : PlacesAfter(command);
   last_ = command;
   if (is_question(command)) {

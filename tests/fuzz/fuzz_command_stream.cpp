@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // Fuzzes the command stream reader with what a broken filter or anyone at the simulated printer's
-// port may send. Fed at once and byte by byte, a stream gives the same; and a stream without errors
-// is written again by the filter's own writers, from the fields and rows that were read, byte for
-// byte.
+// port may send. Fed at once and byte by byte, a stream gives the same, with and without answers of
+// the printer; and a stream without errors is written again by the filter's own writers, from the
+// fields and rows that were read, byte for byte.
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -61,16 +61,42 @@ class Record : public decoder::CommandListener {
 
 using Bytes = std::span<const std::uint8_t>;
 
+// With a printer that answers each question, by the question's place in the stream.
+class AnsweredRecord : public Record {
+ public:
+  void OnStatusRequest(std::uint64_t offset) override {
+    Record::OnStatusRequest(offset);
+    Answer(offset);
+  }
+  void OnReadinessQuery(std::uint64_t offset, const decoder::JobHeader& header) override {
+    Record::OnReadinessQuery(offset, header);
+    Answer(offset);
+  }
+
+  decoder::StreamParser parser{*this};
+
+ private:
+  void Answer(std::uint64_t offset) {
+    const std::uint64_t kind = offset / 8;
+    parser.Answered({decoder::Answer::Meaning(kind % 3), "an answer", kind % 5 != 0, kind % 7 == 0},
+                    std::chrono::seconds(kind % 4));
+  }
+};
+
 // The number of errors.
-std::uint64_t read(decoder::CommandListener& listener, Bytes bytes, std::size_t piece) {
-  decoder::StreamParser parser(listener);
+std::uint64_t read(decoder::StreamParser& parser, Bytes bytes, std::size_t piece) {
   while (!bytes.empty()) {
     const std::size_t count = std::min(piece, bytes.size());
-    parser.Feed(bytes.first(count));
+    parser.Feed(bytes.first(count), std::chrono::seconds(3));
     bytes = bytes.subspan(count);
   }
   parser.EndOfStream();
   return parser.ErrorCount();
+}
+
+std::uint64_t read(decoder::CommandListener& listener, Bytes bytes, std::size_t piece) {
+  decoder::StreamParser parser(listener);
+  return read(parser, bytes, piece);
 }
 
 void write_again(Bytes bytes) {
@@ -92,6 +118,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::uint64_t errors = read(at_once, bytes, size);
   read(by_bytes, bytes, 1);
   fuzz::require(at_once.Text() == by_bytes.Text());
+  AnsweredRecord answered_at_once;
+  AnsweredRecord answered_by_bytes;
+  read(answered_at_once.parser, bytes, size);
+  read(answered_by_bytes.parser, bytes, 1);
+  fuzz::require(answered_at_once.Text() == answered_by_bytes.Text());
   if (errors == 0) {
     write_again(bytes);
   }

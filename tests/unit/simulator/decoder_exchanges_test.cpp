@@ -54,6 +54,9 @@ const Row kStatusRequests[] = {
      {"offset 16: status request, " AT_STATUS
       "status request after 0x0000, allowed a query after 0x0000"}},
     {"three, as the first file was given up at its beginning", "S- S+ S+ Q+", {}},
+    {"three, the second with an answer that nobody knows: its file may have been given up",
+     "S+ S S+ S+ Q+",
+     {}},
     {"four, as the first file was given up at its sheet", "S+ S- S+ S+ Q+", {}},
     {"one status request in the file after one that was given up",
      "S- S+ Q+",
