@@ -111,9 +111,11 @@ Exchange::Places Exchange::PlacesAfter(Command command) {
 void Exchange::Take(Command command, std::uint64_t offset, StreamTime at, const ErrorSink& report) {
   constexpr Places kWithinFile = AskedNext | Queried | AfterSheet;
   constexpr Places kAsked = AskedFirst | AskedNext;
-  const Places likely = MoveOf(command, sent_).to;
-  aboutSheet_ = command == Command::StatusRequest && (likely == 0 || (likely & kAsked) != 0);
   const Move move = MoveOf(command);
+  // By what was sent, if the client can have come here so; or else by what it may have seen.
+  const Places meant = MoveOf(command, sent_).to;
+  const Places likely = meant != 0 ? meant : move.to;
+  aboutSheet_ = command == Command::StatusRequest && (likely == 0 || (likely & kAsked) != 0);
   fileGoesOn_ = move.to != 0 && (move.from & ~kWithinFile) == 0;
   if (move.to == 0) {
     report(OutOfPlace(command, offset));

@@ -30,6 +30,7 @@ class Course : public testing::Test {
 
   const Answer kGood{Meaning::Good, "0x0000"};
   const Answer kRefused{Meaning::Bad, "0x0200"};
+  const Answer kLate{Meaning::Good, "0x0000", false};
   const Answer kNone{Meaning::Bad, "no answer", false};
   decoder::Exchange exchange_;
 };
@@ -59,6 +60,14 @@ TEST_F(AStatusRequest, BehindAQueryBeginsTheNextFile) {
   Asked(Command::StatusRequest, kGood);
   Asked(Command::StatusRequest, kGood);
   Asked(Command::ReadinessQuery, kRefused);
+  Came(Command::StatusRequest);
+  EXPECT_FALSE(exchange_.StatusAboutSheet());
+}
+
+TEST_F(AStatusRequest, BehindAReadyAnswerThatCameTooLateBeginsTheNextFile) {
+  Asked(Command::StatusRequest, kGood);
+  Asked(Command::StatusRequest, kGood);
+  Asked(Command::ReadinessQuery, kLate);
   Came(Command::StatusRequest);
   EXPECT_FALSE(exchange_.StatusAboutSheet());
 }
