@@ -23,21 +23,6 @@ constexpr int kArgumentOptions = 5;
 constexpr int kArgumentFile = 6;
 constexpr int kMostUnknownNamed = 16;  // a hostile file must not fill the log
 
-// Answered when the printer was asked, whatever it said: a command that failed for a printer in
-// error would stay in the queue.
-bool report_status(ppd_file_t* /*ppd*/) {
-  std::fprintf(stderr, printer_is_good()
-                           ? "INFO: The printer is good.\n"
-                           : "INFO: The printer is not good; the queue's reasons say why.\n");
-  return true;
-}
-
-struct KnownCommand {
-  const char* name;
-  bool (*carry_out)(ppd_file_t* ppd);
-  bool done;  // each is carried out once a job, however often a file asks for paper
-};
-
 // The commands of a job, in the order of the file.
 class Commands {
  public:
@@ -55,13 +40,31 @@ class Commands {
   }
 
  private:
+  struct KnownCommand {
+    const char* name;
+    bool (Commands::*carry_out)();
+    bool done;  // each is carried out once a job, however often a file asks for paper
+  };
+
+  // Answered when the printer was asked, whatever it said: a command that failed for a printer in
+  // error would stay in the queue.
+  bool report_status() {
+    found_good_ = printer_is_good();
+    std::fprintf(stderr, found_good_
+                             ? "INFO: The printer is good.\n"
+                             : "INFO: The printer is not good; the queue's reasons say why.\n");
+    return true;
+  }
+
+  bool print_test_page() { return print_self_test(ppd_, found_good_); }
+
   bool carry_out_once(KnownCommand& known) {
     if (known.done) {
       std::fprintf(stderr, "DEBUG: %s was carried out before\n", known.name);
       return true;
     }
     known.done = true;
-    return connected() && known.carry_out(ppd_);
+    return connected() && (this->*known.carry_out)();
   }
 
   // Asked once a job, as for a photo.
@@ -85,9 +88,10 @@ class Commands {
 
   ppd_file_t* ppd_;
   bool connected_ = false;
+  bool found_good_ = false;
   int unknown_ = 0;
-  KnownCommand known_[2] = {{"ReportStatus", report_status, false},
-                            {"PrintSelfTestPage", print_self_test, false}};
+  KnownCommand known_[2] = {{"ReportStatus", &Commands::report_status, false},
+                            {"PrintSelfTestPage", &Commands::print_test_page, false}};
 };
 
 int run_job(std::FILE* input, const char* options) {
