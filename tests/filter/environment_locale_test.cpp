@@ -30,8 +30,8 @@ TEST_P(Language, ChangesNeitherSheetNorLog) {
   EXPECT_EQ(outcome.status, 0);
 }
 
-TEST_P(Language, DoesNotChangeWhichLettersAreTheSame) {
-  // The PPD itself has the choices in capitals only: in Turkish an I is no i.
+/// The parameters of the conversion where the PPD and the job name two choices in capitals.
+std::string ParamsOfCapitals(std::map<std::string, std::string> environment) {
   std::string ppd = Ppd{.without = {"RQSharpness_Common", "RQColorConversion"}}.Text();
   for (const std::string option : {"RQSharpness_Common MINUS2", "RQColorConversion DISABLED"}) {
     const std::string keyword = option.substr(0, option.find(' '));
@@ -39,17 +39,21 @@ TEST_P(Language, DoesNotChangeWhichLettersAreTheSame) {
     ppd.append(": \"\"\n*CloseUI: *").append(keyword).append("\n");
   }
   const TemporaryFolder folder;
-  std::map<std::string, std::string> environment = Environment();
-  environment.erase("FILTER_TEST_LOCALE");  // the filter itself sets none
   environment["PPD"] = folder.Write("capitals.ppd", ppd);
-
   const Outcome outcome = Print({.input = SmallRaster(),
                                  .options = "RQSharpness_Common=MINUS2 RQColorConversion=DISABLED",
                                  .environment = environment});
-
-  EXPECT_NE(outcome.log.find("DEBUG: Params=0x00010006 (0:0:0, 0:0:0, 0:0:0) (0,0,5,0) 1\n"),
-            std::string::npos);
   EXPECT_EQ(outcome.status, 0);
+  const std::size_t start = outcome.log.find("DEBUG: Params=");
+  return outcome.log.substr(start, outcome.log.find('\n', start) - start);
+}
+
+TEST_P(Language, DoesNotChangeWhichLettersAreTheSame) {
+  std::map<std::string, std::string> environment = Environment();
+  environment.erase("FILTER_TEST_LOCALE");  // the filter itself sets none
+
+  EXPECT_EQ(ParamsOfCapitals(environment),
+            "DEBUG: Params=0x00010006 (0:0:0, 0:0:0, 0:0:0) (0,0,5,0) 1");
 }
 
 TEST_P(Language, DoesNotChangeWhatANumberIs) {
@@ -71,6 +75,14 @@ INSTANTIATE_TEST_SUITE_P(Locale, Language,
                                          [](unsigned char c) { return std::isalnum(c) == 0; });
                            return name;
                          });
+
+// In Turkish a capital I is another letter than i.
+TEST(Language, ThatALibraryHasSetIsTheOneInWhichLettersAreCompared) {
+  EXPECT_EQ(ParamsOfCapitals({{"LC_ALL", "tr_TR.ISO-8859-9"},
+                              {"LOCPATH", FILTER_TEST_LOCALES},
+                              {"FILTER_TEST_LOCALE", "early"}}),
+            "DEBUG: Params=0x00010007 (0:0:0, 0:0:0, 0:0:0) (0,0,1,0) 3");
+}
 
 TEST(Language, ThatTheSystemDoesNotKnowChangesNothing) {
   const Outcome outcome =

@@ -84,35 +84,26 @@ Outcome PrintWithoutRaster(const std::string& at, int pages, const std::string& 
                 .environment = {{"FILTER_TEST_NO_RASTER", at}}});
 }
 
-TEST(MissingMemory, ForAHeaderEndsThePagesThereAndPrintsTheWaitingHalf) {
+/// The sheet of the page that waited, after `second_page` of the log and the error.
+void ExpectTheWaitingHalf(const Outcome& outcome, const std::string& second_page, int page) {
   const Settings settings{.paper = &kJoined, .rgb_rate = 33, .op_rate = 88};
+  const std::string image =
+      BlankData(kJoined.page_width, kJoined.page_height) + SmallImage(1, kJoined);
 
-  const Outcome outcome = PrintWithoutRaster("header 2", 2, "PageSize=RQ_5x15x2_2");
-
-  EXPECT_TRUE(SameStream(outcome.stream,
-                         StatusRequest() +
-                             Sheet(settings, BlankData(kJoined.page_width, kJoined.page_height) +
-                                                 SmallImage(1, kJoined)) +
-                             PrintOut()));
+  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet(settings, image) + PrintOut()));
   EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, "0") + Conversion(33, 33, 44, 88) +
-                                       kNotEnough + SheetLog(settings, 1, 1852, 1232)));
+                                       second_page + kNotEnough +
+                                       SheetLog(settings, page, 1852, 1232)));
   EXPECT_EQ(outcome.status, 1);
 }
 
+TEST(MissingMemory, ForAHeaderEndsThePagesThereAndPrintsTheWaitingHalf) {
+  ExpectTheWaitingHalf(PrintWithoutRaster("header 2", 2, "PageSize=RQ_5x15x2_2"), "", 1);
+}
+
 TEST(MissingMemory, ForALineEndsThePagesThereAndPrintsTheWaitingHalf) {
-  const Settings settings{.paper = &kJoined, .rgb_rate = 33, .op_rate = 88};
-
-  const Outcome outcome = PrintWithoutRaster("line 6", 2, "PageSize=RQ_5x15x2_2");
-
-  EXPECT_TRUE(SameStream(outcome.stream,
-                         StatusRequest() +
-                             Sheet(settings, BlankData(kJoined.page_width, kJoined.page_height) +
-                                                 SmallImage(1, kJoined)) +
-                             PrintOut()));
-  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, "0") + Conversion(33, 33, 44, 88) +
-                                       "PAGE: 2 1\nINFO: Printing page 2, 0% complete...\n" +
-                                       kNotEnough + SheetLog(settings, 2, 1852, 1232)));
-  EXPECT_EQ(outcome.status, 1);
+  ExpectTheWaitingHalf(PrintWithoutRaster("line 6", 2, "PageSize=RQ_5x15x2_2"),
+                       "PAGE: 2 1\nINFO: Printing page 2, 0% complete...\n", 2);
 }
 
 TEST(MissingMemory, ForTheFirstHeaderEndsTheJobOnThePrinter) {
