@@ -3,24 +3,13 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
-#ifdef __linux__
-#include <linux/kcmp.h>
-#include <sys/syscall.h>
-#endif
 
 namespace {
 
 constexpr int kBackChannel = 3;
 
-// Where the system cannot tell, two descriptors of one file count as one open file.
-bool are_one_open_file(int one, int other) {
-#ifdef __linux__
-  const long order = syscall(SYS_kcmp, getpid(), getpid(), KCMP_FILE, one, other);
-  if (order >= 0) {
-    return order == 0;
-  }
-#endif
+// One file may have been opened twice, and then has flags for each; not every system can tell.
+bool may_share_flags(int one, int other) {
   struct stat first {};
   struct stat second {};
   return fstat(one, &first) == 0 && fstat(other, &second) == 0 && first.st_dev == second.st_dev &&
@@ -42,7 +31,7 @@ void reserve_scheduler_descriptors() {
 
 void unblock_back_channel() {
   for (int other = 0; other < 5; ++other) {
-    if (other != kBackChannel && are_one_open_file(kBackChannel, other)) {
+    if (other != kBackChannel && may_share_flags(kBackChannel, other)) {
       return;
     }
   }

@@ -11,7 +11,7 @@ void reserve_scheduler_descriptors();
 
 /// Has reads of the back channel return when there is nothing to read, as the scheduler does:
 /// libcups reads after its wait whether or not anything came. Not where the back channel is the
-/// same open file as another of the five: they share one set of flags, and the stream would lose
+/// same file as another of the five: they may share one set of flags, and the stream would lose
 /// what the printer does not take at once.
 void unblock_back_channel();
 

@@ -75,15 +75,6 @@ TEST(OneOpenFile, AsBackChannelAndAnyOtherDescriptorKeepsItsFlags) {
   }
 }
 
-TEST(OneOpenFile, IsNotADeviceThatIsOpenedTwice) {
-  const Opened forth("/dev/null", O_WRONLY);
-  const Opened back("/dev/null", O_RDONLY);
-  Print({.input = SmallRaster(), .given_descriptors = {{1, forth.number()}, {3, back.number()}}});
-
-  EXPECT_TRUE(Waits(forth));
-  EXPECT_FALSE(Waits(back));
-}
-
 TEST(BackChannel, KeepsItsFlagsWhereTheArgumentsAreExplained) {
   const auto [read_end, write_end] = HighPipe();
   const Opened back(read_end);

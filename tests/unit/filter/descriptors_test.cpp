@@ -44,8 +44,12 @@ void ReserveWithAllOpen() {
 
 /// Exits with 0 when the back channel, and it alone, does not wait for what is not there.
 void UnblockBackChannel() {
+  int ends[2];
+  if (pipe(ends) != 0) {
+    _exit(1);
+  }
   for (int descriptor = 0; descriptor < 5; ++descriptor) {
-    dup2(open("/dev/null", O_RDWR), descriptor);
+    dup2(descriptor == 3 ? ends[0] : open("/dev/null", O_RDWR), descriptor);
   }
   unblock_back_channel();
   for (int descriptor = 0; descriptor < 5; ++descriptor) {
