@@ -108,6 +108,10 @@ const char* ProfileFile::open_in(const char* directory) {
   if (directory == nullptr || directory[0] == '\0') {
     return "no module directory is known";
   }
+  if (descriptor_ >= 0) {
+    close(descriptor_);
+    descriptor_ = -1;
+  }
   const Descriptor folder(open(directory, kDirectoryAccess | O_DIRECTORY | O_CLOEXEC));
   if (folder.number < 0) {
     return errno == ENOENT ? nullptr : "the module directory cannot be opened";
@@ -117,9 +121,6 @@ const char* ProfileFile::open_in(const char* directory) {
       openat(folder.number, kProfileName, O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
   if (opened < 0) {
     return fault_of_open(errno, folder.number);
-  }
-  if (descriptor_ >= 0) {
-    close(descriptor_);
   }
   descriptor_ = opened;
   struct stat status {};

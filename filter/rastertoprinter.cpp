@@ -55,16 +55,13 @@ bool open_raster_file(int argc, char* argv[], JobInput* input) {
   return false;
 }
 
-// False without memory for the stream. What is no raster gives no stream either, and is no error
-// yet.
-bool open_raster(JobInput* input) {
+// What is no raster gives no stream, and neither does a lack of memory: the job then has no pages.
+void open_raster(JobInput* input) {
   const MemoryWatch watch;
   input->raster = cupsRasterOpen(input->descriptor, CUPS_RASTER_READ);
   if (input->raster == nullptr && watch.refused()) {
     report_no_memory();
-    return false;
   }
-  return true;
 }
 
 // The clean-up and the exit status of a job that came as far as its pages.
@@ -119,9 +116,10 @@ int main(int argc, char* argv[]) {
   unblock_back_channel();
   errno = 0;  // a reason for the log comes from the job's own calls
   JobInput input;
-  if (!open_raster_file(argc, argv, &input) || !open_raster(&input)) {
+  if (!open_raster_file(argc, argv, &input)) {
     return 1;
   }
+  open_raster(&input);
   input.ppd = open_marked_ppd(argv[kArgumentOptions]);
   try {
     return run_job(input);

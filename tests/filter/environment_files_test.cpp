@@ -69,11 +69,17 @@ TEST(PpdFile, ThatIsAPipeIsRead) {
   const TemporaryFolder folder;
   const std::string path = folder.Path("pipe.ppd");
   ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
-  std::thread writer([&] { folder.Write("pipe.ppd", Ppd{}.Text()); });
+  FilterProcess filter({.input = SmallRaster(), .environment = {{"PPD", path}}});
+  int pipe = -1;
+  while (pipe < 0 && !filter.Ended()) {
+    filter.PlayFor(std::chrono::milliseconds(1));
+    pipe = open(path.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);  // once somebody reads
+  }
+  const std::string text = Ppd{}.Text();
+  EXPECT_EQ(write(pipe, text.data(), text.size()), static_cast<ssize_t>(text.size()));
+  close(pipe);
 
-  ExpectPrinted(Print({.input = SmallRaster(), .environment = {{"PPD", path}}}));
-
-  writer.join();
+  ExpectPrinted(filter.Finish());
 }
 
 TEST(PpdFile, ThatIsAnOpenPipeIsRead) {
