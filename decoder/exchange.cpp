@@ -127,7 +127,7 @@ void Exchange::Take(Command command, std::uint64_t offset, StreamTime at, const 
   places_ = move.to != 0 ? move.to : PlacesAfter(command);
   last_ = command;
   if (is_question(command)) {
-    seen_ = sent_ = Any;
+    seen_ = sent_ = meant_ = Any;
     busySince_.reset();
   }
   if (command == Command::StatusRequest) {
@@ -140,19 +140,17 @@ void Exchange::Answered(const Answer& answer, StreamTime at) {
   const Answers meant = kKnown.at(static_cast<std::size_t>(answer.meaning));
   inStep_ = inStep_ && answer.sure;
   seen_ = inStep_ ? meant : Answers{Any};
-  sent_ = meant;
-  if (answer.strayed && last_ == Command::ReadinessQuery) {
-    sent_ |= Busy;
-  }
+  sent_ = answer.strayed ? Answers{Any} : meant;
+  meant_ = meant;
   words_ = answer.words;
   busySince_ = seen_ == Busy ? at : std::nullopt;
   if (last_ == Command::StatusRequest) {
-    status_ = sent_;
+    status_ = meant;
   }
 }
 
 bool Exchange::SheetAllowed() const {
-  return (status_ & sent_ & Good) != 0;
+  return (status_ & meant_ & Good) != 0;
 }
 
 void Exchange::CheckPace(std::uint64_t offset, StreamTime at, const ErrorSink& report) const {

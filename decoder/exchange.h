@@ -114,8 +114,9 @@ class Exchange {
 
   bool inStep_ = true;      // every answer so far was sure
   Answers seen_ = Any;      // what the client may have seen as the last answer
-  Answers sent_ = Any;      // what the printer sent; Any when that is not known
-  Answers status_ = Any;    // sent_ of the last status request
+  Answers sent_ = Any;      // what it would make of the answer by itself; Any where others mix in
+  Answers meant_ = Any;     // what the printer said; Any when that is not known
+  Answers status_ = Any;    // meant_ of the last status request
   std::string words_;       // of the last answer
   StreamTime busySince_{};  // when the last answer went out, if it surely was busy
 

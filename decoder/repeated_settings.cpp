@@ -23,7 +23,7 @@ void RepeatedSettings::Compare(const Block& block, Command command, std::uint64_
 }
 
 // A file has one set of options for all of its sheets; only the rates are each sheet's own.
-void RepeatedSettings::CompareWithFile(const Block& block, std::uint64_t offset,
+bool RepeatedSettings::CompareWithFile(const Block& block, std::uint64_t offset,
                                        const ErrorSink& report) const {
   for (const FieldRule& rule : field_rules(Command::ReadinessQuery)) {
     const bool rate = rule.offset == kOffsetRgbRate || rule.offset == kOffsetOpRate;
@@ -33,18 +33,22 @@ void RepeatedSettings::CompareWithFile(const Block& block, std::uint64_t offset,
       report({offset + rule.offset, Command::ReadinessQuery, rule.name,
               value_words(mine, rule.notation),
               value_words(theirs, rule.notation) + " as on the file's sheet before"});
-      return;
+      return false;
     }
   }
+  return true;
 }
 
 void RepeatedSettings::TakeQuery(const Block& block, std::uint64_t offset, bool sound,
                                  bool fileGoesOn, const ErrorSink& report) {
   wait_ = read_job_header(block).waitByte;
+  if (!query_) {
+    fileGoesOn_ = fileGoesOn && sound;
+  }
   if (sound && query_) {
     Compare(block, Command::ReadinessQuery, offset, report);
   } else if (sound && file_ && fileGoesOn) {
-    CompareWithFile(block, offset, report);
+    fileGoesOn_ = CompareWithFile(block, offset, report);
   }
   query_ = file_ = sound ? std::optional(block) : std::nullopt;
 }
@@ -55,6 +59,28 @@ void RepeatedSettings::TakeJobHeader(const Block& block, std::uint64_t offset, b
   if (sound) {
     Compare(block, Command::JobHeader, offset, report);
   }
+  query_.reset();
+}
+
+// A paper with a white border and one without have the same settings: the image's place tells them
+// apart.
+void RepeatedSettings::TakeImageHeader(const Block& block, std::uint64_t offset, bool sound,
+                                       const ErrorSink& report) {
+  for (const FieldRule& rule : field_rules(Command::ImageHeader)) {
+    const bool place = rule.offset >= kOffsetImageLeft && rule.offset <= kOffsetImageHeight;
+    if (!sound || !image_ || !fileGoesOn_ || !place) {
+      continue;
+    }
+    const std::uint16_t mine = read_field(block, rule);
+    const std::uint16_t theirs = read_field(*image_, rule);
+    if (mine != theirs) {
+      report({offset + rule.offset, Command::ImageHeader, rule.name,
+              value_words(mine, rule.notation),
+              value_words(theirs, rule.notation) + " as on the file's sheet before"});
+      break;
+    }
+  }
+  image_ = sound ? std::optional(block) : std::nullopt;
   query_.reset();
 }
 

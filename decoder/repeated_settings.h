@@ -27,6 +27,10 @@ class RepeatedSettings {
                  const ErrorSink& report);
   void TakeJobHeader(const Block& block, std::uint64_t offset, bool sound, const ErrorSink& report);
 
+  /// A whole image header, and whether its sizes are right.
+  void TakeImageHeader(const Block& block, std::uint64_t offset, bool sound,
+                       const ErrorSink& report);
+
   /// A whole print-out command's wait byte, and the command's offset.
   void TakePrintOut(std::uint8_t wait, std::uint64_t offset, bool fileGoesOn,
                     const ErrorSink& report);
@@ -37,11 +41,13 @@ class RepeatedSettings {
  private:
   void Compare(const Block& block, Command command, std::uint64_t offset,
                const ErrorSink& report) const;
-  void CompareWithFile(const Block& block, std::uint64_t offset, const ErrorSink& report) const;
+  bool CompareWithFile(const Block& block, std::uint64_t offset, const ErrorSink& report) const;
 
   /// The last readiness query, for as long as the next query or job header must repeat it.
   std::optional<Block> query_;
   std::optional<Block> file_;         ///< the query of the file's last sheet
+  std::optional<Block> image_;        ///< the image header of the sheet before
+  bool fileGoesOn_ = false;           ///< the sheet asked for surely is the same file's
   std::optional<std::uint8_t> wait_;  ///< of the last settings block since the last print-out
 };
 

@@ -181,7 +181,7 @@ void StreamParser::FinishImageHeader() {
   } else {
     BeginSearch(offset_);
   }
-  settings_.TakeOther();
+  settings_.TakeImageHeader(block_, BlockOffset(), good, report_);
   job_.reset();
 }
 

