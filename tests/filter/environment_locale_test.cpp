@@ -76,6 +76,7 @@ INSTANTIATE_TEST_SUITE_P(Locale, Language,
                            return name;
                          });
 
+#ifndef __SANITIZE_ADDRESS__  // whose own strcasecmp knows no locale
 // In Turkish a capital I is another letter than i.
 TEST(Language, ThatALibraryHasSetIsTheOneInWhichLettersAreCompared) {
   EXPECT_EQ(ParamsOfCapitals({{"LC_ALL", "tr_TR.ISO-8859-9"},
@@ -83,6 +84,7 @@ TEST(Language, ThatALibraryHasSetIsTheOneInWhichLettersAreCompared) {
                               {"FILTER_TEST_LOCALE", "early"}}),
             "DEBUG: Params=0x00010007 (0:0:0, 0:0:0, 0:0:0) (0,0,1,0) 3");
 }
+#endif
 
 TEST(Language, ThatTheSystemDoesNotKnowChangesNothing) {
   const Outcome outcome =
