@@ -6,6 +6,37 @@
 #include "decoder/command_blocks.h"
 
 namespace decoder {
+namespace {
+
+using Block = RepeatedSettings::Block;
+
+// A file has one set of options for all of its sheets; only the rates are each sheet's own.
+bool is_files_setting(const FieldRule& rule) {
+  return rule.offset != kOffsetRgbRate && rule.offset != kOffsetOpRate;
+}
+
+// A paper with a white border and one without have the same settings: the image's place tells them
+// apart.
+bool is_place(const FieldRule& rule) {
+  return rule.offset >= kOffsetImageLeft && rule.offset <= kOffsetImageHeight;
+}
+
+// Reports the first field of this kind that is not as on the file's sheet before; false then.
+bool repeats(const Block& block, const Block& before, bool (*counts)(const FieldRule&),
+             Command command, std::uint64_t offset, const ErrorSink& report) {
+  for (const FieldRule& rule : field_rules(command)) {
+    const std::uint16_t mine = read_field(block, rule);
+    const std::uint16_t theirs = read_field(before, rule);
+    if (counts(rule) && mine != theirs) {
+      report({offset + rule.offset, command, rule.name, value_words(mine, rule.notation),
+              value_words(theirs, rule.notation) + " as on the file's sheet before"});
+      return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace
 
 void RepeatedSettings::Compare(const Block& block, Command command, std::uint64_t offset,
                                const ErrorSink& report) const {
@@ -22,23 +53,6 @@ void RepeatedSettings::Compare(const Block& block, Command command, std::uint64_
           hex_byte(*theirs) + " as in the last readiness query"});
 }
 
-// A file has one set of options for all of its sheets; only the rates are each sheet's own.
-bool RepeatedSettings::CompareWithFile(const Block& block, std::uint64_t offset,
-                                       const ErrorSink& report) const {
-  for (const FieldRule& rule : field_rules(Command::ReadinessQuery)) {
-    const bool rate = rule.offset == kOffsetRgbRate || rule.offset == kOffsetOpRate;
-    const std::uint16_t mine = read_field(block, rule);
-    const std::uint16_t theirs = read_field(*file_, rule);
-    if (mine != theirs && !rate) {
-      report({offset + rule.offset, Command::ReadinessQuery, rule.name,
-              value_words(mine, rule.notation),
-              value_words(theirs, rule.notation) + " as on the file's sheet before"});
-      return false;
-    }
-  }
-  return true;
-}
-
 void RepeatedSettings::TakeQuery(const Block& block, std::uint64_t offset, bool sound,
                                  bool fileGoesOn, const ErrorSink& report) {
   wait_ = read_job_header(block).waitByte;
@@ -48,7 +62,7 @@ void RepeatedSettings::TakeQuery(const Block& block, std::uint64_t offset, bool 
   if (sound && query_) {
     Compare(block, Command::ReadinessQuery, offset, report);
   } else if (sound && file_ && fileGoesOn) {
-    fileGoesOn_ = CompareWithFile(block, offset, report);
+    fileGoesOn_ = repeats(block, *file_, is_files_setting, Command::ReadinessQuery, offset, report);
   }
   query_ = file_ = sound ? std::optional(block) : std::nullopt;
 }
@@ -62,23 +76,10 @@ void RepeatedSettings::TakeJobHeader(const Block& block, std::uint64_t offset, b
   query_.reset();
 }
 
-// A paper with a white border and one without have the same settings: the image's place tells them
-// apart.
 void RepeatedSettings::TakeImageHeader(const Block& block, std::uint64_t offset, bool sound,
                                        const ErrorSink& report) {
-  for (const FieldRule& rule : field_rules(Command::ImageHeader)) {
-    const bool place = rule.offset >= kOffsetImageLeft && rule.offset <= kOffsetImageHeight;
-    if (!sound || !image_ || !fileGoesOn_ || !place) {
-      continue;
-    }
-    const std::uint16_t mine = read_field(block, rule);
-    const std::uint16_t theirs = read_field(*image_, rule);
-    if (mine != theirs) {
-      report({offset + rule.offset, Command::ImageHeader, rule.name,
-              value_words(mine, rule.notation),
-              value_words(theirs, rule.notation) + " as on the file's sheet before"});
-      break;
-    }
+  if (sound && image_ && fileGoesOn_) {
+    repeats(block, *image_, is_place, Command::ImageHeader, offset, report);
   }
   image_ = sound ? std::optional(block) : std::nullopt;
   query_.reset();

@@ -41,7 +41,6 @@ class RepeatedSettings {
  private:
   void Compare(const Block& block, Command command, std::uint64_t offset,
                const ErrorSink& report) const;
-  bool CompareWithFile(const Block& block, std::uint64_t offset, const ErrorSink& report) const;
 
   /// The last readiness query, for as long as the next query or job header must repeat it.
   std::optional<Block> query_;
