@@ -1,0 +1,41 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: Apache-2.0
+# A change of what the PPD is made from is in the PPD after the next build.
+# rebuild.sh SOURCE-FOLDER CMAKE GENERATOR
+set -euo pipefail
+
+source=$1 cmake=$2 generator=$3
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+ppd=$work/build/tqr7.ppd
+
+# The folder by itself, with one language.
+cp -r "$source/ppd" "$work"
+cat >"$work/CMakeLists.txt" <<'PROJECT'
+cmake_minimum_required(VERSION 3.25)
+project(printer_description NONE)
+set(TQR7_LANGUAGES de)
+set(TQR7_FILTER_DIR /filters)
+set(TQR7_DATA_DIR /data)
+add_subdirectory(ppd)
+PROJECT
+"$cmake" -S "$work" -B "$work/build" -G "$generator" >"$work/words"
+
+# expect_rebuilt FILE SCRIPT TEXT: the text comes into the PPD with the change of the file.
+expect_rebuilt() {
+  local file=$work/$1 script=$2 text=$3
+  "$cmake" --build "$work/build" >"$work/words"
+  if grep -qF "$text" "$ppd"; then
+    echo "FAILED: \"$text\" is in the PPD before $1 is changed"
+    exit 1
+  fi
+  sed -i "$script" "$file"
+  "$cmake" --build "$work/build" >"$work/words"
+  if ! grep -qF "$text" "$ppd"; then
+    echo "FAILED: $1 is changed, and \"$text\" is not in the PPD"
+    exit 1
+  fi
+}
+
+expect_rebuilt ppd/tqr7.drv 's|"Gloss/Gloss"|"Gloss/Glossy"|' '*RQPrintFinish Gloss/Glossy:'
+expect_rebuilt ppd/po/de.po 's|"Matt"|"Stumpf"|' '*de.RQPrintFinish Matte/Stumpf:'
