@@ -8,7 +8,6 @@
 
 #include "language/display_width.h"
 #include "language/messages.h"
-#include "status/reason_table.h"
 #include "tools/command_line.h"
 #include "tools/error_text.h"
 #include "tools/exit_status.h"
@@ -87,13 +86,10 @@ int explain_one(const Options& options) {
   return told.inTable ? kExitGood : kExitNotGood;
 }
 
-int explain_all(const Options& options) {
-  constexpr std::uint16_t kGroup = 256;
+int list_all(const Options& options) {
   const language::English for_programs(options.json);
   Json rows = Json::array();
-  for (const PrinterStateReason& row : PRINTER_STATE_REASONS) {
-    const Explanation told = explain_number(
-        static_cast<std::uint16_t>(row.error_high * kGroup + (row.error_low & 0xFFU)));
+  for (const Explanation& told : explain_all()) {
     if (options.json) {
       rows.push_back(json_of(told));
     } else if (told.keyword.empty()) {
@@ -124,7 +120,7 @@ void add_explain(CommandLine& program) {
     if (!options->all && !text.Given()) {
       Subcommand::IsMissing(_("NUMBER|KEYWORD or --all"));
     }
-    return options->all ? explain_all(*options) : explain_one(*options);
+    return options->all ? list_all(*options) : explain_one(*options);
   });
 }
 

@@ -5,11 +5,11 @@
 #include <array>
 #include <charconv>
 #include <cstdio>
+#include <iterator>
 #include <system_error>
 #include <vector>
 
 #include "language/messages.h"
-#include "status/reason_table.h"
 #include "tools/other_words.h"
 
 namespace tools {
@@ -18,55 +18,46 @@ namespace {
 using language::_;
 using language::_n;
 using language::filled;
+using language::N_;
 
 constexpr std::string_view kMaker = "com.corvantiel-";
 constexpr std::string_view kError = "error";
 constexpr std::size_t kDigits = 4;
-constexpr std::uint16_t kCatchAll = 0x0004;  ///< also raised where no row matches
 
-struct Numbers {
-  std::uint16_t first;
-  std::uint16_t last;
+/// What people read about a row.
+struct Text {
+  const char* meaning;
+  const char* remedy;
 };
 
-// A row stands for one number, or for a run of details in one group.
-Numbers numbers_of(const PrinterStateReason& row) {
-  constexpr unsigned kByte = 0xFF;
-  const unsigned group = row.error_high * 256U;
-  if (row.error_low <= kByte) {
-    const auto number = static_cast<std::uint16_t>(group + row.error_low);
-    return {number, number};
-  }
-  return {static_cast<std::uint16_t>(group + (row.error_low & kByte)),
-          static_cast<std::uint16_t>(group + (row.error_low >> 8U))};
-}
+#define REASON_TEXT(name, shown, shown_with_class, meaning, remedy) \
+  constexpr Text name{meaning, remedy};
+#include "status/reason_list.def"
 
-const PrinterStateReason* find_row(std::uint16_t number) {
-  for (const PrinterStateReason& row : PRINTER_STATE_REASONS) {
-    const Numbers numbers = numbers_of(row);
-    if (number >= numbers.first && number <= numbers.last) {
-      return &row;
-    }
-  }
-  return nullptr;
-}
+/// One row of the printer's errors.
+struct Reason {
+  std::uint16_t number;
+  std::string_view error_class;  ///< empty for the good printer
+  const char* keyword;           ///< null for the good printer
+  const Text* text;
+};
 
-std::string_view keyword_of(const PrinterStateReason& row) {
-  return row.reasons[0] != nullptr ? row.reasons[0] : "";
-}
+constexpr Reason kReasons[] = {
+#define REASON(number, error_class, keyword, text) {0x##number, #error_class, keyword, &(text)},
+#include "status/reason_list.def"
+};
 
-// The four digits behind "error" in a keyword of the table; empty for the good printer.
-std::string_view class_of(const PrinterStateReason& row) {
-  const std::string_view keyword = keyword_of(row);
-  const std::size_t before = kMaker.size() + kError.size();
-  return keyword.size() < before + kDigits ? std::string_view{} : keyword.substr(before, kDigits);
+template <typename Condition>
+const Reason* find_reason(Condition holds) {
+  const auto* const found = std::find_if(std::begin(kReasons), std::end(kReasons), holds);
+  return found == std::end(kReasons) ? nullptr : found;
 }
 
 std::vector<std::uint16_t> numbers_of_class(std::string_view errorClass) {
   std::vector<std::uint16_t> numbers;
-  for (const PrinterStateReason& row : PRINTER_STATE_REASONS) {
-    if (class_of(row) == errorClass) {
-      numbers.push_back(numbers_of(row).first);
+  for (const Reason& reason : kReasons) {
+    if (reason.error_class == errorClass) {
+      numbers.push_back(reason.number);
     }
   }
   return numbers;
@@ -116,41 +107,21 @@ std::string class_sentence(std::uint16_t number, std::string_view errorClass) {
                 digits.c_str(), name.c_str(), numbers.size(), first.c_str(), last.c_str());
 }
 
-Explanation explain_good() {
-  return {true,
-          {},
-          std::uint16_t{0},
-          {},
-          _("The printer is good: it reports no error, and no reason is raised."),
-          _("Nothing to do.")};
-}
-
-Explanation explain_row(const PrinterStateReason& row, std::uint16_t number) {
-  if (keyword_of(row).empty()) {
-    return explain_good();
+Explanation explain_reason(const Reason& reason) {
+  if (reason.keyword == nullptr) {
+    return {true, {}, reason.number, {}, _(reason.text->meaning), _(reason.text->remedy)};
   }
-  const std::string digits = four_digits(number);
-  Explanation result{true, std::string(keyword_of(row)), number, std::string(class_of(row)), {},
-                     {}};
-  // TRANSLATORS: the second is a sentence of its own.
-  result.meaning = filled(_("The printer reported error %1$s. %2$s"), digits.c_str(),
-                          class_sentence(number, class_of(row)).c_str());
-  result.remedy = filled(
-      _("Read the printer's display, and look up %s in the printer's manual. See to what they ask "
-        "for; often that is paper, the ribbon or a cover. The job that stopped is still in the "
-        "queue: `tqr7 resume QUEUE` prints it again."),
-      digits.c_str());
-  if (number == kCatchAll) {
-    // TRANSLATORS: the first is a sentence of its own.
-    result.meaning = filled(_("%s The same reason is raised when the printer does not answer, and "
-                              "when it reports a number that the table does not know."),
-                            result.meaning.c_str());
-    // TRANSLATORS: the first are sentences of their own.
-    result.remedy = filled(
-        _("Check first that the printer is on and connected. %1$s The scheduler's log at the level "
-          "debug has a line that begins `DEBUG: %2$s` and ends in UNAVAILABLE when the printer did "
-          "not answer, and otherwise in the number that it reported."),
-        result.remedy.c_str(), result.keyword.c_str());
+  const bool any_other = reason.text == &kAnyOtherText;
+  const Text& text = any_other ? kErrorText : *reason.text;
+  const std::string digits = four_digits(reason.number);
+  const std::string error_class(reason.error_class);
+  Explanation result{true, reason.keyword, reason.number, error_class, {}, {}};
+  result.meaning =
+      filled(_(text.meaning), digits.c_str(), class_sentence(reason.number, error_class).c_str());
+  result.remedy = filled(_(text.remedy), digits.c_str());
+  if (any_other) {
+    result.meaning = filled(_(reason.text->meaning), result.meaning.c_str());
+    result.remedy = filled(_(reason.text->remedy), result.remedy.c_str(), reason.keyword);
   }
   return result;
 }
@@ -204,16 +175,6 @@ std::string_view without_severity(std::string_view keyword) {
   return keyword;
 }
 
-const PrinterStateReason* find_row_of_keyword(std::string_view keyword) {
-  for (const PrinterStateReason& row : PRINTER_STATE_REASONS) {
-    const std::string_view known = keyword_of(row);
-    if (!known.empty() && lower_case(known) == keyword) {
-      return &row;
-    }
-  }
-  return nullptr;
-}
-
 // What a keyword of the printer's form says that the table does not have: com.corvantiel-error….
 Explanation explain_unknown_error(std::string_view keyword) {
   const std::string_view digits = keyword.substr(kMaker.size() + kError.size());
@@ -251,8 +212,9 @@ std::string four_digits(std::uint16_t number) {
 }
 
 Explanation explain_number(std::uint16_t number) {
-  if (const PrinterStateReason* const row = find_row(number)) {
-    return explain_row(*row, number);
+  if (const Reason* const reason =
+          find_reason([number](const Reason& row) { return row.number == number; })) {
+    return explain_reason(*reason);
   }
   const std::string digits = four_digits(number);
   const std::vector<std::uint16_t> numbers = numbers_of_class(digits);
@@ -261,17 +223,24 @@ Explanation explain_number(std::uint16_t number) {
     result.number = number;
     return result;
   }
-  const std::string catchAll{keyword_of(*find_row(kCatchAll))};
+  const Reason* const any_other =
+      find_reason([](const Reason& row) { return row.text == &kAnyOtherText; });
   return {false,
-          catchAll,
+          any_other->keyword,
           number,
           {},
           filled(_("%1$s is not in the table of the printer's errors. When the printer reports it, "
                    "the queue shows %2$s."),
-                 digits.c_str(), catchAll.c_str()),
+                 digits.c_str(), any_other->keyword),
           filled(_("Read the printer's display, and look up %s in the printer's manual. The job "
                    "that stopped is still in the queue: `tqr7 resume QUEUE` prints it again."),
                  digits.c_str())};
+}
+
+std::vector<Explanation> explain_all() {
+  std::vector<Explanation> all;
+  std::transform(std::begin(kReasons), std::end(kReasons), std::back_inserter(all), explain_reason);
+  return all;
 }
 
 Explanation explain_keyword(std::string_view keyword) {
@@ -285,8 +254,11 @@ Explanation explain_keyword(std::string_view keyword) {
   }
   const std::string whole =
       (plain.starts_with(kMaker) ? "" : std::string(kMaker)) + std::string(plain);
-  if (const PrinterStateReason* const row = find_row_of_keyword(whole)) {
-    return explain_row(*row, numbers_of(*row).first);
+  const auto raises = [&whole](const Reason& row) {
+    return row.keyword != nullptr && lower_case(row.keyword) == whole;
+  };
+  if (const Reason* const reason = find_reason(raises)) {
+    return explain_reason(*reason);
   }
   if (std::string_view(whole).substr(kMaker.size()).starts_with(kError)) {
     return explain_unknown_error(whole);

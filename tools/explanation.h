@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tools {
 
@@ -24,6 +25,9 @@ struct Explanation {
 
 /// The printer's error number, as it comes in a status reply.
 Explanation explain_number(std::uint16_t number);
+
+/// Every number of the printer's table, in ascending order.
+std::vector<Explanation> explain_all();
 
 /// A state reason or a word of the log, in upper or lower case; with or without
 /// "com.corvantiel-" and with or without the severity "-error", "-warning" or "-report" behind it.

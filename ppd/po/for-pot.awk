@@ -2,7 +2,7 @@
 #
 # The texts of the PPD as entries of a catalogue without translations.
 #
-#   awk -f drv-texts.awk -f for-pot.awk tqr7.drv > ppd.pot
+#   awk -f drv-texts.awk -f for-pot.awk whole.drv > ppd.pot
 
 { add_drv_texts($0) }
 

@@ -3,7 +3,7 @@
 # A catalogue as the PPD compiler can read it: the texts of the PPD alone, each by itself. The
 # compiler's reader knows neither plurals nor contexts, and takes an unsure translation for a good one.
 #
-#   awk -f drv-texts.awk -f for-ppdc.awk tqr7.drv de.po > reduced/de.po
+#   awk -f drv-texts.awk -f for-ppdc.awk whole.drv de.po > reduced/de.po
 
 # What stands between the quotes of a line; quotes within stay escaped.
 function quoted(line) {

@@ -8,6 +8,7 @@ set -uo pipefail
 source=$1
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+ln -s "$source/status" "$work/status"
 failures=0
 fail() {
   echo "FAILED: $*"
@@ -19,8 +20,7 @@ expect_found() {
   local what=$1 words=$2 said
   shift 2
   rm -rf "$work/ppd"
-  mkdir "$work/ppd"
-  cp -r "$source/ppd/po" "$source/ppd/tqr7.drv" "$work/ppd/"
+  cp -r "$source/ppd" "$work"
   sed -i "$@" "$work/ppd/po/de.po"
   cmp -s "$source/ppd/po/de.po" "$work/ppd/po/de.po" && fail "$what: nothing was broken"
   said=$("$work/ppd/po/check" de 2>&1) && fail "$what: not found"
@@ -81,8 +81,10 @@ msgstr "{class}/{number}!"
 #~ msgid "Fast"
 #~ msgstr "gone"
 PO
+awk -f "$source/ppd/whole-drv.awk" "$source/status/reason_list.def" "$source/ppd/tqr7.drv" \
+  >"$work/whole.drv"
 got=$(awk -f "$source/ppd/po/drv-texts.awk" -f "$source/ppd/po/for-ppdc.awk" \
-  "$source/ppd/tqr7.drv" "$work/in.po")
+  "$work/whole.drv" "$work/in.po")
 [ "$(grep -c '^msgid' <<<"$got")" -eq 103 ] || fail "selected is $got"
 [[ $got == 'msgid "Print mode"
 msgstr "Modus"

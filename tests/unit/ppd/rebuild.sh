@@ -9,8 +9,10 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 ppd=$work/build/tqr7.ppd
 
-# The folder by itself, with one language.
+# The folder by itself and the list that it reads, with one language.
+mkdir "$work/status"
 cp -r "$source/ppd" "$work"
+cp "$source/status/reason_list.def" "$work/status"
 cat >"$work/CMakeLists.txt" <<'PROJECT'
 cmake_minimum_required(VERSION 3.25)
 project(printer_description NONE)
@@ -39,3 +41,8 @@ expect_rebuilt() {
 
 expect_rebuilt ppd/tqr7.drv 's|"Gloss/Gloss"|"Gloss/Glossy"|' '*RQPrintFinish Gloss/Glossy:'
 expect_rebuilt ppd/po/de.po 's|"Matt"|"Stumpf"|' '*de.RQPrintFinish Matte/Stumpf:'
+expect_rebuilt status/reason_list.def \
+  's|^REASON(7552,.*|&\nREASON(7553, 0018, "com.corvantiel-error0018_7553", kErrorText)|' \
+  '*cupsIPPReason com.corvantiel-error0018_7553/Printer error 7553 (class 0018). '
+expect_rebuilt status/reason_list.def 's|"Printer error {number} (class|"Error {number} (class|' \
+  '*cupsIPPReason com.corvantiel-error0008_2665/Error 2665 (class 0008). '
