@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: Apache-2.0
 #
-# The filter's five folders but for its main. MVChangeImage stays undefined here: whoever links them
+# The filter's folders but for its main. MVChangeImage stays undefined here: whoever links them
 # brings a conversion library, or a test's stand-in.
 #
 # There are two builds of them: what is installed has the C library's checked calls, and in the library
@@ -13,14 +13,14 @@ set(TQR7_CORE_SOURCES
   filter/descriptors.cpp
   filter/filter_hooks.cpp
   filter/job_options.cpp
-  filter/job_state.cpp
+  job/job_state.cpp
   filter/memory_watch.cpp
   filter/module_path.cpp
   filter/page_conversion.cpp
   filter/page_loop.cpp
-  filter/paper_table.cpp
+  job/paper_table.cpp
   filter/ppd_options.cpp
-  filter/progress.cpp
+  job/progress.cpp
   filter/sheet_assembly.cpp
   image/band_image.cpp
   image/page_memory.cpp

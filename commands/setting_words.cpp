@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <cstdio>
 
-#include "filter/paper_table.h"
+#include "job/paper_table.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "filter/print_setting.h"
+#include "job/print_setting.h"
 
 /// One line: what it is about, and what holds. Printable ASCII.
 struct SettingLine {

@@ -9,7 +9,7 @@
 
 #include "commands/canvas.h"
 #include "commands/setting_words.h"
-#include "filter/print_setting.h"
+#include "job/print_setting.h"
 
 /// What the page says.
 struct TestPageText {

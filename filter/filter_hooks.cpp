@@ -10,10 +10,10 @@
 #include <limits>
 #include <new>
 
-#include "filter/job_state.h"
 #include "filter/page_conversion.h"
 #include "filter/sheet_assembly.h"
 #include "image/page_memory.h"
+#include "job/job_state.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <cups/ppd.h>
 #include <cups/raster.h>
 
-#include "filter/print_setting.h"
+#include "job/print_setting.h"
 
 /// Called once before the first page. The printer needs nothing here.
 void Setup();

@@ -5,8 +5,8 @@
 #include <cstdio>
 #include <iterator>
 
-#include "filter/job_state.h"
 #include "image/mv_change_image.h"
+#include "job/job_state.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #ifndef TQR7_FILTER_PAGE_CONVERSION_H
 #define TQR7_FILTER_PAGE_CONVERSION_H
 
-#include "filter/print_setting.h"
 #include "image/band_image.h"
+#include "job/print_setting.h"
 
 /// Converts the page buffer into `converted`, a band that it makes (48 bits a pixel, top row first)
 /// and the caller deletes, also after a failure. A page that begins a sheet restarts the sheet's

@@ -7,10 +7,10 @@
 #include <cstring>
 
 #include "filter/filter_hooks.h"
-#include "filter/job_state.h"
 #include "filter/memory_watch.h"
-#include "filter/progress.h"
 #include "filter/sheet_assembly.h"
+#include "job/job_state.h"
+#include "job/progress.h"
 #include "protocol/job_header.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include <cups/ppd.h>
 #include <cups/raster.h>
 
-#include "filter/print_setting.h"
+#include "job/print_setting.h"
 
 /// Prints all pages of the stream, the half sheet that may wait at its end, and ends the job on the
 /// printer. `module_path` is the conversion library's directory. False when a page fails, which

@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <iterator>
 
-#include "filter/paper_table.h"
+#include "job/paper_table.h"
 
 namespace {
 

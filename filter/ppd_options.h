@@ -6,7 +6,7 @@
 
 #include <cups/ppd.h>
 
-#include "filter/print_setting.h"
+#include "job/print_setting.h"
 
 /// Fills every field of the record but its reserved first one. A keyword that the PPD lacks, a
 /// choice of another name and a null PPD leave the built-in defaults: 9x13, gloss, sharpness

@@ -14,12 +14,12 @@
 #include "filter/descriptors.h"
 #include "filter/filter_hooks.h"
 #include "filter/job_options.h"
-#include "filter/job_state.h"
 #include "filter/memory_watch.h"
 #include "filter/module_path.h"
 #include "filter/page_loop.h"
 #include "filter/ppd_options.h"
 #include "image/band_image.h"
+#include "job/job_state.h"
 #include "status/connection_check.h"
 #include "status/printer_check.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "filter/sheet_assembly.h"
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "protocol/print_image.h"
 
 namespace {

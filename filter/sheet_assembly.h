@@ -4,8 +4,8 @@
 #ifndef TQR7_FILTER_SHEET_ASSEMBLY_H
 #define TQR7_FILTER_SHEET_ASSEMBLY_H
 
-#include "filter/print_setting.h"
 #include "image/band_image.h"
+#include "job/print_setting.h"
 
 /// Prints the converted page (48 bits a pixel), or parks the first page of a joined sheet in
 /// gImageCache. False when printing failed or the sheet cache could not be made.

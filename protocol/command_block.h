@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <cstdio>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 
 inline constexpr std::size_t kCommandBlockSize = 512;  ///< bytes of a long command
 inline constexpr std::size_t kCommandCodeSize = 4;     ///< bytes of its code, which leads

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <ctime>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "protocol/command_block.h"
 
 namespace {

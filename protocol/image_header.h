@@ -6,8 +6,8 @@
 
 #include <cstdio>
 
-#include "filter/print_setting.h"
 #include "image/band_image.h"
+#include "job/print_setting.h"
 
 /// Fills bytes 4 … 511 of a 512-byte block: place, image size, matte size and the local time of the
 /// call. Bytes 0 … 3 are the caller's.

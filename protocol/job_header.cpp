@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "protocol/command_block.h"
 
 namespace {

@@ -7,7 +7,7 @@
 
 #include <cstdio>
 
-#include "filter/print_setting.h"
+#include "job/print_setting.h"
 
 /// Fills bytes 4 … 511 of a 512-byte block with the settings and the sheet's rates. Bytes 0 … 3,
 /// the command code, are the caller's.

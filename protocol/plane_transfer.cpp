@@ -8,8 +8,8 @@
 #include <memory>
 #include <new>
 
-#include "filter/job_state.h"
-#include "filter/progress.h"
+#include "job/job_state.h"
+#include "job/progress.h"
 
 namespace {
 

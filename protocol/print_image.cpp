@@ -7,7 +7,7 @@
 #include <exception>
 #include <string>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "protocol/image_header.h"
 #include "protocol/job_header.h"
 #include "protocol/plane_transfer.h"

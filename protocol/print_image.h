@@ -4,8 +4,8 @@
 #ifndef TQR7_PROTOCOL_PRINT_IMAGE_H
 #define TQR7_PROTOCOL_PRINT_IMAGE_H
 
-#include "filter/print_setting.h"
 #include "image/band_image.h"
+#include "job/print_setting.h"
 
 /// Prints one 48-bit band as a sheet (with gMatteImage for a matte finish). False when the printer
 /// is not good or does not take the sheet; nothing of the image was sent then.

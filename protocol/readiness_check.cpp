@@ -8,7 +8,7 @@
 #include <array>
 
 #include "diag/dump.h"
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "protocol/command_block.h"
 #include "protocol/job_header.h"
 #include "status/printer_exchange.h"

@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <string>
 
-#include "filter/print_setting.h"
+#include "job/print_setting.h"
 
 /// One exchange on standard output and the back channel: the printer's enable code, 0 … 65535, or
 /// −1 when the query could not be written or the reply not be read. `out` is not used.

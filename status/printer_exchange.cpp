@@ -6,7 +6,7 @@
 #include <cstdio>
 
 #include "diag/enum_names.h"
-#include "filter/job_state.h"
+#include "job/job_state.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <span>
 #include <string_view>
 
-#include "filter/paper_table.h"
+#include "job/paper_table.h"
 
 namespace tools {
 

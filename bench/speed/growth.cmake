@@ -3,7 +3,7 @@
 # Cost against pages, sizes and queues.
 find_package(CLI11 REQUIRED)
 tqr7_speed_program(growth
-  ../../filter/paper_table.cpp
+  ../../job/paper_table.cpp
   ../cpu_time.cpp
   growth.cpp
   growth_charts.cpp

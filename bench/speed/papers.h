@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "filter/paper_table.h"
+#include "job/paper_table.h"
 
 namespace bench {
 

@@ -9,9 +9,9 @@
 #include <limits>
 #include <vector>
 
-#include "filter/job_state.h"
 #include "image/band_image.h"
 #include "image/rect.h"
+#include "job/job_state.h"
 #include "protocol/plane_transfer.h"
 #include "tests/fuzz/input.h"
 #include "tests/fuzz/model_band.h"

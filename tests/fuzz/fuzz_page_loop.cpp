@@ -15,9 +15,9 @@
 #include <new>
 
 #include "decoder/stream_parser.h"
-#include "filter/job_state.h"
 #include "filter/page_loop.h"
 #include "image/mv_change_image.h"
+#include "job/job_state.h"
 #include "status/printer_check.h"
 #include "tests/fuzz/fake_printer.h"
 #include "tests/fuzz/small_papers.h"

@@ -17,8 +17,8 @@
 #include <vector>
 
 #include "filter/module_path.h"
-#include "filter/paper_table.h"
 #include "filter/ppd_options.h"
+#include "job/paper_table.h"
 #include "tests/fuzz/input.h"
 
 namespace {

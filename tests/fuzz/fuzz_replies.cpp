@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "protocol/readiness_check.h"
 #include "status/connection_check.h"
 #include "status/printer_check.h"

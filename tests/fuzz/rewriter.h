@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "decoder/command_listener.h"
-#include "filter/print_setting.h"
 #include "image/band_image.h"
+#include "job/print_setting.h"
 
 namespace fuzz {
 

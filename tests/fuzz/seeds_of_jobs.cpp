@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "protocol/image_header.h"
 #include "protocol/job_header.h"
 #include "protocol/plane_transfer.h"

@@ -9,7 +9,7 @@
 #include <array>
 
 #include "decoder/paper_sizes.h"
-#include "filter/print_setting.h"
+#include "job/print_setting.h"
 
 namespace fuzz {
 

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 
 namespace fuzz {
 

@@ -4,7 +4,7 @@
 #ifndef TQR7_TESTS_UNIT_SETTINGS_H
 #define TQR7_TESTS_UNIT_SETTINGS_H
 
-#include "filter/print_setting.h"
+#include "job/print_setting.h"
 
 /// A sheet of 10 × 15 cm with every option at its default.
 inline tagPRINTSETTING SettingsOf10x15() {

@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "filter/paper_table.h"
 #include "filter/ppd_options.h"
+#include "job/paper_table.h"
 #include "tests/unit/commands/picture.h"
 #include "tests/unit/ppd_file.h"
 

@@ -12,7 +12,7 @@
 #include <cstdio>
 #include <string>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "tests/unit/capture.h"
 #include "tests/unit/failing_allocator.h"
 #include "tests/unit/filter/job_fixture.h"

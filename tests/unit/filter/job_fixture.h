@@ -12,7 +12,7 @@
 #include <string>
 
 #include "filter/filter_hooks.h"
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "tests/unit/bytes.h"
 #include "tests/unit/capture.h"
 #include "tests/unit/scripted_connection.h"

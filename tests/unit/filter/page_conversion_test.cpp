@@ -9,7 +9,7 @@
 #include <string>
 
 #include "filter/filter_hooks.h"
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "tests/unit/capture.h"
 #include "tests/unit/failing_allocator.h"
 #include "tests/unit/filter/job_fixture.h"

@@ -9,7 +9,7 @@
 
 #include <cerrno>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "tests/unit/capture.h"
 #include "tests/unit/filter/job_fixture.h"
 #include "tests/unit/settings.h"

@@ -8,7 +8,7 @@
 #include <cstdio>
 #include <string>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "tests/unit/capture.h"
 #include "tests/unit/filter/job_fixture.h"
 #include "tests/unit/settings.h"

@@ -10,10 +10,10 @@
 #include <vector>
 
 #include "filter/filter_hooks.h"
-#include "filter/job_state.h"
-#include "filter/paper_table.h"
 #include "image/band_image.h"
 #include "image/page_memory.h"
+#include "job/job_state.h"
+#include "job/paper_table.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include <array>
 #include <string>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "tests/unit/bytes.h"
 #include "tests/unit/scripted_clock.h"
 #include "tests/unit/settings.h"

@@ -10,7 +10,7 @@
 #include <cstddef>
 #include <string>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "tests/unit/bytes.h"
 #include "tests/unit/settings.h"
 #include "tests/unit/single_writes.h"

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "tests/unit/bytes.h"
 #include "tests/unit/capture.h"
 #include "tests/unit/failing_allocator.h"

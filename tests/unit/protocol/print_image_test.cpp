@@ -10,7 +10,7 @@
 #include <cstdio>
 #include <string>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "tests/unit/bytes.h"
 #include "tests/unit/capture.h"
 #include "tests/unit/protocol/query_log.h"

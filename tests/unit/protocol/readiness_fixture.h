@@ -10,7 +10,7 @@
 #include <cstdio>
 #include <string>
 
-#include "filter/job_state.h"
+#include "job/job_state.h"
 #include "protocol/readiness_check.h"
 #include "tests/unit/capture.h"
 #include "tests/unit/scripted_connection.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "filter/paper_table.h"
+#include "job/paper_table.h"
 
 // Sheet width and height, image width, height, left and top; two-up mode, split and option; pages
 // joined, gap between them, lone half as a sheet of its own.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // Every row of the paper table, written out.
-#include "filter/paper_table.h"
+#include "job/paper_table.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // The print settings of a job: filled once from the PPD's marked choices, then only read.
-#ifndef TQR7_FILTER_PRINT_SETTING_H
-#define TQR7_FILTER_PRINT_SETTING_H
+#ifndef TQR7_JOB_PRINT_SETTING_H
+#define TQR7_JOB_PRINT_SETTING_H
 
 #include <cstdint>
 
@@ -39,4 +39,4 @@ using PRINTSETTING = tagPRINTSETTING;
 /// The finish that switches the matte plane on; every other value prints as gloss.
 inline constexpr std::uint8_t kFinishMatte = 3;
 
-#endif  // TQR7_FILTER_PRINT_SETTING_H
+#endif  // TQR7_JOB_PRINT_SETTING_H

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // The record of print settings: the order and the types of its fields.
-#include "filter/print_setting.h"
+#include "job/print_setting.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // The 13 paper sizes that the printer knows: sheet and image geometry, in dots at 300 dpi.
-#ifndef TQR7_FILTER_PAPER_TABLE_H
-#define TQR7_FILTER_PAPER_TABLE_H
+#ifndef TQR7_JOB_PAPER_TABLE_H
+#define TQR7_JOB_PAPER_TABLE_H
 
 #include <cstdint>
 
@@ -36,4 +36,4 @@ extern const tagPAPERINFO PAPER_10x15_WB;
 extern const tagPAPERINFO PAPER_13x18_WB;
 extern const tagPAPERINFO PAPER_15x20_WB;
 
-#endif  // TQR7_FILTER_PAPER_TABLE_H
+#endif  // TQR7_JOB_PAPER_TABLE_H

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // What a job starts from.
-#include "filter/job_state.h"
+#include "job/job_state.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // What the whole job shares: the printer's stream, the page being read, the sheet being assembled.
-#ifndef TQR7_FILTER_JOB_STATE_H
-#define TQR7_FILTER_JOB_STATE_H
+#ifndef TQR7_JOB_JOB_STATE_H
+#define TQR7_JOB_JOB_STATE_H
 
 #include <csignal>
 #include <cstdint>
@@ -33,4 +33,4 @@ class OutputCall {
   OutputCall& operator=(const OutputCall&) = delete;
 };
 
-#endif  // TQR7_FILTER_JOB_STATE_H
+#endif  // TQR7_JOB_JOB_STATE_H

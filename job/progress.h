@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // How far the current page is, told to whoever watches the job.
-#ifndef TQR7_FILTER_PROGRESS_H
-#define TQR7_FILTER_PROGRESS_H
+#ifndef TQR7_JOB_PROGRESS_H
+#define TQR7_JOB_PROGRESS_H
 
 /// Logs the line on the current page, 0 to 100 per cent. The first half of a page is reading or
 /// drawing it, the second half printing it.
 void report_progress(int percent);
 
-#endif  // TQR7_FILTER_PROGRESS_H
+#endif  // TQR7_JOB_PROGRESS_H

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "filter/job_state.h"
+#include "job/job_state.h"
 
 std::FILE* fpOut = stdout;
 int page = 0;
