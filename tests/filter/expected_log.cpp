@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <sstream>
 
-#include "tests/filter/reason_keywords.h"
+#include "tests/reason_keywords.h"
 
 namespace filter_test {
 namespace {
@@ -35,16 +35,6 @@ std::string Dump(const std::string& label, const std::string& bytes) {
     text += number;
   }
   return text + "\n";
-}
-
-std::string Withdrawals(const std::string& but) {
-  std::string text;
-  for (const ReasonKeyword& reason : kReasonKeywords) {
-    if (reason.keyword != but) {
-      text += std::string("STATE: -") + reason.keyword + "\n";
-    }
-  }
-  return text;
 }
 
 std::string StatusExchange(const std::string& reply) {

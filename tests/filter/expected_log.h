@@ -28,9 +28,6 @@ inline const std::string kPaused = "STATE: +paused\n";
 /// Bytes in hexadecimal, 16 a line, under a label.
 std::string Dump(const std::string& label, const std::string& bytes);
 
-/// The withdrawal of every reason of the printer's but one.
-std::string Withdrawals(const std::string& but = "");
-
 /// A status exchange with this reply, up to the dump of the reply.
 std::string StatusExchange(const std::string& reply = kGood);
 /// A status exchange whose reply did not come: `result` is the back channel's.

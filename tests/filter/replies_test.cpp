@@ -6,8 +6,8 @@
 
 #include "tests/filter/comparison.h"
 #include "tests/filter/filter_process.h"
-#include "tests/filter/reason_keywords.h"
 #include "tests/filter/small_job.h"
+#include "tests/reason_keywords.h"
 
 namespace filter_test {
 namespace {
@@ -279,7 +279,7 @@ TEST(Waits, OfAPrintedSheetAreTheseAndNoOthers) {
 
 TEST(ErrorNumbers, EachRaiseTheirOwnReasonAndWithdrawAllOthers) {
   const std::string start = kBanner + kTwoWays;
-  for (const ReasonKeyword& reason : kReasonKeywords) {
+  for (const ReasonKeyword& reason : ReasonKeywords()) {
     SCOPED_TRACE(reason.keyword);
     const std::string reply = StatusReply(static_cast<unsigned char>(reason.error_number >> 8),
                                           static_cast<unsigned char>(reason.error_number));

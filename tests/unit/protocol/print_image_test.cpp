@@ -11,6 +11,7 @@
 #include <string>
 
 #include "job/job_state.h"
+#include "tests/reason_keywords.h"
 #include "tests/unit/bytes.h"
 #include "tests/unit/capture.h"
 #include "tests/unit/protocol/query_log.h"
@@ -18,7 +19,6 @@
 #include "tests/unit/scripted_connection.h"
 #include "tests/unit/scripted_destinations.h"
 #include "tests/unit/settings.h"
-#include "tests/unit/status/withdrawals.h"
 
 using testing::ElementsAre;
 
@@ -33,7 +33,7 @@ const std::string kGoodStatus = std::string(kStatusRequested) +
                                 "DEBUG: [STS] size=15\n"
                                 "DEBUG: [STS] 0000: 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00\n"
                                 "DEBUG: =======> printer_state=GOOD\n" +
-                                kAllWithdrawals +
+                                Withdrawals() +
                                 "clean_printer_state() START\n"
                                 "STATE: -none\n"
                                 "clean_printer_state() END\n";
@@ -162,7 +162,7 @@ TEST_F(PrintImage, APrinterInErrorGetsNothingButTheRequest) {
                              "DEBUG: =======> printer_state=0x2665\n"
                              "STATE: +com.corvantiel-error0008_2665\n"
                              "DEBUG: com.corvantiel-error0008_2665 0x2665\n" +
-                             WithdrawalsWithout("com.corvantiel-error0008_2665") +
+                             Withdrawals("com.corvantiel-error0008_2665") +
                              "DEBUG: =======> exit(1) Because printer has error\n");
   EXPECT_TRUE(DestinationCalls().empty());
   EXPECT_THAT(Connection().journal, ElementsAre("drain 512 5.0, 8 sent", "read 512 1.0, 8 sent"));
@@ -178,7 +178,7 @@ TEST_F(PrintImage, AnUnavailablePrinterGetsNothingButTheRequest) {
                              "STATE: +com.corvantiel-error0004\n"
                              "DEBUG: com.corvantiel-error0004 UNAVAILABLE\n"
                              "DEBUG: error_number part mismatch processing \n" +
-                             WithdrawalsWithout("com.corvantiel-error0004") +
+                             Withdrawals("com.corvantiel-error0004") +
                              "DEBUG: =======> exit(1) Because printer has error\n");
   EXPECT_TRUE(DestinationCalls().empty());
 }

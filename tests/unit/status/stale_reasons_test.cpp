@@ -27,55 +27,26 @@ std::string Cleaned() {
 
 }  // namespace
 
-TEST(StaleReasons, NoneIsWithdrawnAsAnyOther) {
-  SetDefaultReasons("none");
-  EXPECT_EQ(Cleaned(),
-            "clean_printer_state() START\n"
-            "STATE: -none\n"
-            "clean_printer_state() END\n");
-}
-
-TEST(StaleReasons, EachIsWithdrawnInTheOrderListed) {
-  SetDefaultReasons("com.corvantiel-error0004,cups-insecure-filter-warning");
-  EXPECT_EQ(Cleaned(),
-            "clean_printer_state() START\n"
-            "STATE: -com.corvantiel-error0004\n"
-            "STATE: -cups-insecure-filter-warning\n"
-            "clean_printer_state() END\n");
-}
-
-TEST(StaleReasons, RunsOfCommasGiveNoEmptyOne) {
-  SetDefaultReasons(",media-low,,paused,");
-  EXPECT_EQ(Cleaned(),
-            "clean_printer_state() START\n"
-            "STATE: -media-low\n"
-            "STATE: -paused\n"
-            "clean_printer_state() END\n");
-}
-
-TEST(StaleReasons, BlanksAreKept) {
-  SetDefaultReasons("media-low, paused ");
-  EXPECT_EQ(Cleaned(),
-            "clean_printer_state() START\n"
-            "STATE: -media-low\n"
-            "STATE: - paused \n"
-            "clean_printer_state() END\n");
-}
-
-TEST(StaleReasons, AnEmptyListStillWithdrawsOnce) {
-  SetDefaultReasons("");
-  EXPECT_EQ(Cleaned(),
-            "clean_printer_state() START\n"
-            "STATE: -(null)\n"
-            "clean_printer_state() END\n");
-}
-
-TEST(StaleReasons, AListOfCommasOnlyWithdrawsOnce) {
-  SetDefaultReasons(",,,");
-  EXPECT_EQ(Cleaned(),
-            "clean_printer_state() START\n"
-            "STATE: -(null)\n"
-            "clean_printer_state() END\n");
+TEST(StaleReasons, AreWithdrawnAsTheSchedulerListsThem) {
+  struct List {
+    const char* reasons;
+    const char* withdrawn;
+  };
+  for (const List& list : {
+           List{"none", "STATE: -none\n"},
+           List{"com.corvantiel-error0004,cups-insecure-filter-warning",
+                "STATE: -com.corvantiel-error0004\n"
+                "STATE: -cups-insecure-filter-warning\n"},
+           // Between two commas there is none, blanks are kept, and there is always one line.
+           List{",media-low,,paused,", "STATE: -media-low\nSTATE: -paused\n"},
+           List{"media-low, paused ", "STATE: -media-low\nSTATE: - paused \n"},
+           List{"", "STATE: -(null)\n"},
+           List{",,,", "STATE: -(null)\n"},
+       }) {
+    SetDefaultReasons(list.reasons);
+    EXPECT_EQ(Cleaned(), std::string("clean_printer_state() START\n") + list.withdrawn +
+                             "clean_printer_state() END\n");
+  }
 }
 
 TEST(StaleReasons, ADestinationWithoutAListWithdrawsOnce) {
