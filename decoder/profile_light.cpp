@@ -9,13 +9,10 @@
 #include <cstdlib>
 #include <utility>
 
-#include "language/messages.h"
 #include "model/little_cms_handles.h"
 
 namespace decoder {
 namespace {
-
-using language::N_;
 
 // What the largest profile's tables can take when they are read, with room to spare. A profile that
 // claims more is lying.
@@ -82,14 +79,14 @@ bool is_matrix(cmsHPROFILE profile) {
 // Why a profile that can be read is none of a printer, or nothing.
 const char* unfitness(cmsHPROFILE profile) {
   if (cmsGetColorSpace(profile) != cmsSigRgbData) {
-    return N_("not the profile of an RGB device");
+    return "not the profile of an RGB device";
   }
   const cmsProfileClassSignature kind = cmsGetDeviceClass(profile);
   if (kind != cmsSigOutputClass && kind != cmsSigDisplayClass) {
-    return N_("not the profile of a printer or a display");
+    return "not the profile of a printer or a display";
   }
   if (has_any(profile, kElementTags)) {
-    return N_("it holds multi-process elements, which are not supported");
+    return "it holds multi-process elements, which are not supported";
   }
   return nullptr;
 }
@@ -112,12 +109,12 @@ struct ProfileLight::Engine {
   /// Why the profile cannot be used; empty when it can.
   std::string Begin(std::span<const std::uint8_t> bytes) {
     if (bytes.size() > kProfileBytesMost) {
-      return N_("larger than 4 MiB, which no printer's profile is");
+      return "larger than 4 MiB, which no printer's profile is";
     }
     cmsPluginMemHandler memory = limited_memory();
     context = cmsCreateContext(&memory, &words);
     if (context == nullptr) {
-      return N_("no memory for Little CMS");
+      return "no memory for Little CMS";
     }
     cmsSetLogErrorHandlerTHR(context, keep_first_words);
     const Profile device(cmsOpenProfileFromMemTHR(context, bytes.data(),
@@ -130,7 +127,7 @@ struct ProfileLight::Engine {
     }
     const Profile screen = linear_screen(context);
     if (screen == nullptr) {
-      return N_("no memory for Little CMS");
+      return "no memory for Little CMS";
     }
     // In floating point and as the profile says it: the tables that Little CMS else makes to be
     // quicker are off by up to fourteen of 255 in the shadows.

@@ -4,15 +4,10 @@
 #include <CLI/CLI.hpp>
 #include <cstdio>
 
-#include "language/command_line_words.h"
-#include "language/messages.h"
 #include "simulator/rule_words.h"
 
 namespace simulator {
 namespace {
-
-using language::_;
-using language::filled;
 
 constexpr std::uint64_t kPortMost = 65535;
 constexpr std::uint64_t kNumberMost = 0xFFFF;
@@ -32,85 +27,81 @@ CLI::Option* add_number(CLI::App& app, const std::string& name, const std::strin
         if (number && *number >= low && *number <= high) {
           return {};
         }
-        return filled(_("\"%1$s\" is not a number from %2$s to %3$s"), text.c_str(),
-                      std::to_string(low).c_str(), std::to_string(high).c_str());
+        return '"' + text + "\" is not " + number_words(low, high);
       },
       ""));
   return option;
 }
 
 void add_place_options(CLI::App& app, Options& options) {
-  app.add_option("--address", options.address, _("numeric address to listen on (127.0.0.1)"))
+  app.add_option("--address", options.address, "numeric address to listen on (127.0.0.1)")
       ->type_name("ADDRESS");
   add_number(
-      app, "--port", _("port to listen on; 0 takes a free one (9100)"), "PORT", 0, kPortMost,
+      app, "--port", "port to listen on; 0 takes a free one (9100)", "PORT", 0, kPortMost,
       [&options](std::uint64_t number) { options.port = static_cast<std::uint16_t>(number); });
-  app.add_option("--port-file", options.portFile, _("file to write the port's number to"))
+  app.add_option("--port-file", options.portFile, "file to write the port's number to")
       ->type_name("FILE");
-  app.add_option("--output", options.output, _("folder for the sheets (the current one)"))
+  app.add_option("--output", options.output, "folder for the sheets (the current one)")
       ->type_name("DIR");
-  app.add_option("--record", options.record, _("file to keep every byte that comes"))
+  app.add_option("--record", options.record, "file to keep every byte that comes")
       ->type_name("FILE");
-  app.add_option("--timeline", options.timeline,
-                 _("file to note when what came, to the microsecond"))
+  app.add_option("--timeline", options.timeline, "file to note when what came, to the microsecond")
       ->type_name("FILE");
 }
 
 void add_view_options(CLI::App& app, Options& options) {
   CLI::Option* const profile =
       app.add_option("--profile", options.proof.profile,
-                     _("ICC profile to show the colours of the print through (the model built in)"))
+                     "ICC profile to show the colours of the print through (the model built in)")
           ->type_name("FILE");
   app.add_flag("--device-values", options.proof.deviceValues,
-               _("show the printer's own values and not the colours of the print"))
+               "show the printer's own values and not the colours of the print")
       ->excludes(profile);
   app.add_flag("--marks", options.marks,
-               _("draw the cut and the white border's edge into the sheets"));
+               "draw the cut and the white border's edge into the sheets");
   app.add_flag("--contact-sheet", options.contactSheet,
-               _("keep a page of all sheets, index.html, in the folder"));
-  app.add_flag("--verbose", options.verbose, _("say every field of every command"));
+               "keep a page of all sheets, index.html, in the folder");
+  app.add_flag("--verbose", options.verbose, "say every field of every command");
 }
 
 void add_fault_options(CLI::App& app, Options& options) {
   app.add_option("--fault", options.faults.rules,
-                 _("a rule of what goes wrong; may come several times"))
+                 "a rule of what goes wrong; may come several times")
       ->type_name("RULE")
       ->expected(1)
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-  app.add_option("--script", options.faults.script, _("file with one such rule a line"))
+  app.add_option("--script", options.faults.script, "file with one such rule a line")
       ->type_name("FILE");
-  add_number(app, "--status", _("error number to answer status requests with (0)"), "NUMBER", 0,
+  add_number(app, "--status", "error number to answer status requests with (0)", "NUMBER", 0,
              kNumberMost, [&options](std::uint64_t number) {
                options.faults.status = static_cast<std::uint16_t>(number);
              });
-  add_number(app, "--enable", _("enable code to answer readiness queries with (0)"), "CODE", 0,
+  add_number(app, "--enable", "enable code to answer readiness queries with (0)", "CODE", 0,
              kNumberMost, [&options](std::uint64_t number) {
                options.faults.enable = static_cast<std::uint16_t>(number);
              });
-  add_number(app, "--busy", _("answer the first K readiness queries with busy, 0x0100"), "K", 0,
+  add_number(app, "--busy", "answer the first K readiness queries with busy, 0x0100", "K", 0,
              kCountMost, [&options](std::uint64_t number) { options.faults.busy = number; });
   app.add_flag("--simulated-clock", options.simulatedClock,
-               _("do not check how soon a client asks again"));
+               "do not check how soon a client asks again");
 }
 
 void add_end_options(CLI::App& app, Options& options) {
   CLI::Option* const jobs =
-      add_number(app, "--jobs", _("end after N connections"), "N", 1, kCountMost,
+      add_number(app, "--jobs", "end after N connections", "N", 1, kCountMost,
                  [&options](std::uint64_t number) { options.connections = number; });
   app.add_flag_callback(
-         "--once", [&options] { options.connections = 1; }, _("end after one connection"))
+         "--once", [&options] { options.connections = 1; }, "end after one connection")
       ->excludes(jobs);
-  app.set_version_flag("--version", "tqr7-printer-sim " TQR7_VERSION, _("say the version and end"));
-  app.get_option("--help")->description(_("say this and end"));
+  app.set_version_flag("--version", "tqr7-printer-sim " TQR7_VERSION, "say the version and end");
+  app.get_option("--help")->description("say this and end");
 }
 
 }  // namespace
 
 std::optional<int> read_command_line(int argc, const char* const* argv, Options& options) {
-  CLI::App app{
-      _("A simulated TQR7 printer: takes jobs over the network and prints them to PNG files"),
-      "tqr7-printer-sim"};
-  language::translate_help(app);
+  CLI::App app{"A simulated TQR7 printer: takes jobs over the network and prints them to PNG files",
+               "tqr7-printer-sim"};
   add_place_options(app, options);
   add_view_options(app, options);
   add_fault_options(app, options);
@@ -122,8 +113,7 @@ std::optional<int> read_command_line(int argc, const char* const* argv, Options&
       app.exit(error);  // help or version
       return kExitGood;
     }
-    const std::string what = language::translate_complaint(error.what());
-    std::fprintf(stderr, _("%s: %s (see --help)\n"), "tqr7-printer-sim", what.c_str());
+    std::fprintf(stderr, "tqr7-printer-sim: %s (see --help)\n", error.what());
     return kExitCannotStart;
   }
   return std::nullopt;

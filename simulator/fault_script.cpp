@@ -5,15 +5,11 @@
 #include <array>
 #include <optional>
 
-#include "language/messages.h"
 #include "simulator/printer_answers.h"
 #include "simulator/rule_words.h"
 
 namespace simulator {
 namespace {
-
-using language::_;
-using language::filled;
 
 constexpr std::uint64_t kCountMost = 1'000'000'000;
 constexpr std::uint64_t kNumberMost = 0xFFFF;
@@ -29,13 +25,10 @@ std::string fault_alternatives() {
   std::string text;
   for (const std::string_view word : kFaultWords) {
     const std::string quoted = '"' + std::string(word) + '"';
-    if (word == kFaultWords.front()) {
-      text = quoted;
-    } else if (word == kFaultWords.back()) {
-      text = filled(_("%1$s or %2$s"), text.c_str(), quoted.c_str());
-    } else {
-      text = filled(_("%1$s, %2$s"), text.c_str(), quoted.c_str());
+    if (word != kFaultWords.front()) {
+      text += word == kFaultWords.back() ? " or " : ", ";
     }
+    text += quoted;
   }
   return text;
 }
@@ -118,9 +111,7 @@ bool take_answer_fault(RuleWords& words, Question question, Fault& fault) {
   fault.question = Question::Status;
   fault.kind = question == Question::Status ? Fault::Kind::Status : Fault::Kind::Enable;
   const std::optional<std::uint64_t> number =
-      words.Number(0, kNumberMost,
-                   _("a number from %1$s to %2$s, \"late\", \"pieces\", \"short\", \"stray\" or "
-                     "\"silent\""));
+      words.Number(0, kNumberMost, R"(, "late", "pieces", "short", "stray" or "silent")");
   fault.number = static_cast<std::uint16_t>(number.value_or(0));
   return number.has_value();
 }
@@ -176,7 +167,7 @@ bool take_moment(RuleWords& words, Moment& moment) {
   } else {
     const auto* const end = kFaultWords.end();
     return std::find(kFaultWords.begin(), end, words.Next()) != end ||
-           words.Fail(filled(_("%1$s, %2$s"), "\"job\", \"sheet\"", fault_alternatives().c_str()));
+           words.Fail(R"("job", "sheet", )" + fault_alternatives());
   }
   return take_count(words, 1, kCountMost, moment.number) && words.Require(":");
 }
@@ -200,21 +191,20 @@ bool take_extent(RuleWords& words, const Fault& fault, Extent& extent) {
     extent.kind = Extent::Kind::Times;
     return take_count(words, 1, kCountMost, extent.times) && words.Require("times");
   }
-  return words.Fail(mayCount ? _("\"for\", a number of times, \"once\" or the end of the rule")
-                             : _("\"for\" or the end of the rule"));
+  return words.Fail(mayCount ? "\"for\", a number of times, \"once\" or the end of the rule"
+                             : "\"for\" or the end of the rule");
 }
 
 bool take_rule(RuleWords& words, FaultRule& rule) {
   return take_moment(words, rule.moment) && take_fault(words, rule.fault) &&
          take_extent(words, rule.fault, rule.extent) &&
-         (words.AtEnd() || words.Fail(_("the end of the rule")));
+         (words.AtEnd() || words.Fail("the end of the rule"));
 }
 
 }  // namespace
 
 std::string to_string(const ScriptError& error) {
-  // TRANSLATORS: what came in a rule, and what should have.
-  return filled(_("came %1$s, expected %2$s"), error.came.c_str(), error.expected.c_str());
+  return "came " + error.came + ", expected " + error.expected;
 }
 
 Script read_rule(std::string_view text, std::size_t line) {

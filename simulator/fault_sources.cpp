@@ -5,15 +5,11 @@
 #include <cerrno>
 #include <cstdio>
 
-#include "language/messages.h"
 #include "simulator/error_words.h"
 #include "simulator/fault_script.h"
 
 namespace simulator {
 namespace {
-
-using language::_;
-using language::filled;
 
 constexpr std::size_t kScriptLengthMost = 1U << 20U;
 
@@ -39,9 +35,7 @@ std::string read_file(const std::string& path, std::string& text) {
   if (errorNumber != 0) {
     return path + ": " + error_words(errorNumber);
   }
-  return text.size() > kScriptLengthMost
-             ? filled(_("%s: larger than 1 MiB, which no script is"), path.c_str())
-             : "";
+  return text.size() > kScriptLengthMost ? path + ": larger than 1 MiB, which no script is" : "";
 }
 
 FaultRule short_form(Fault::Kind kind, std::uint16_t number, std::uint64_t count) {

@@ -7,13 +7,8 @@
 #include <cstdio>
 #include <system_error>
 
-#include "language/messages.h"
-
 namespace simulator {
 namespace {
-
-using language::_;
-using language::filled;
 
 constexpr std::string_view kBlanks = " \t\r\v\f";
 constexpr std::size_t kShownMost = 40;
@@ -75,6 +70,10 @@ std::optional<std::uint64_t> read_number(std::string_view text) {
   return number;
 }
 
+std::string number_words(std::uint64_t low, std::uint64_t high) {
+  return "a number from " + std::to_string(low) + " to " + std::to_string(high);
+}
+
 RuleWords::RuleWords(std::string_view text) : endColumn_(1) {
   std::size_t at = 0;
   while ((at = text.find_first_not_of(kBlanks, at)) != std::string_view::npos) {
@@ -103,11 +102,10 @@ bool RuleWords::Require(std::string_view word) {
 }
 
 std::optional<std::uint64_t> RuleWords::Number(std::uint64_t low, std::uint64_t high,
-                                               const char* expected) {
+                                               std::string_view otherwise) {
   const std::optional<std::uint64_t> number = read_number(Next());
   if (!number || *number < low || *number > high) {
-    Fail(filled(expected != nullptr ? expected : _("a number from %1$s to %2$s"),
-                std::to_string(low).c_str(), std::to_string(high).c_str()));
+    Fail(number_words(low, high) + std::string(otherwise));
     return std::nullopt;
   }
   ++taken_;
@@ -117,7 +115,7 @@ std::optional<std::uint64_t> RuleWords::Number(std::uint64_t low, std::uint64_t 
 std::optional<std::chrono::milliseconds> RuleWords::Time() {
   const std::optional<std::uint64_t> time = read_milliseconds(Next());
   if (!time || *time == 0 || *time > kSecondsMost * kMilliseconds) {
-    Fail(_("a number of seconds from 0.001 to 86400 and then \"s\""));
+    Fail("a number of seconds from 0.001 to 86400 and then \"s\"");
     return std::nullopt;
   }
   ++taken_;
@@ -133,7 +131,7 @@ std::optional<std::uint8_t> RuleWords::Byte() {
   const char* const end = word.data() + word.size();
   const auto [stop, error] = std::from_chars(word.data(), end, value, 16);
   if (word.size() != kByteDigits || error != std::errc{} || stop != end) {
-    Fail(_("a byte as two hexadecimal digits"));
+    Fail("a byte as two hexadecimal digits");
     return std::nullopt;
   }
   ++taken_;
@@ -143,7 +141,7 @@ std::optional<std::uint8_t> RuleWords::Byte() {
 bool RuleWords::Fail(const std::string& expected) {
   if (expected_.empty()) {
     errorColumn_ = AtEnd() ? endColumn_ : words_[taken_].column;
-    came_ = AtEnd() ? _("the end of the rule") : quoted(Next());
+    came_ = AtEnd() ? "the end of the rule" : quoted(Next());
     expected_ = expected;
   }
   return false;

@@ -30,10 +30,10 @@ class RuleWords {
   /// As Take; a different word is an error.
   bool Require(std::string_view word);
 
-  /// Takes a number, decimal or hexadecimal behind 0x; anything else is an error. `expected`
-  /// is its message where more than a number may stand there, with %1$s and %2$s for the bounds.
+  /// Takes a number, decimal or hexadecimal after 0x; anything else is an error. `otherwise` says
+  /// in the message what else could be there, such as ", \"late\" or \"silent\"".
   std::optional<std::uint64_t> Number(std::uint64_t low, std::uint64_t high,
-                                      const char* expected = nullptr);
+                                      std::string_view otherwise = {});
 
   /// Takes a time, "2.5 s", of one millisecond to a day.
   std::optional<std::chrono::milliseconds> Time();
@@ -65,6 +65,9 @@ class RuleWords {
 /// A whole text as a number, decimal or hexadecimal behind 0x. A leading zero does not make it
 /// octal.
 std::optional<std::uint64_t> read_number(std::string_view text);
+
+/// "a number from 1 to 65535", as messages say what was expected.
+std::string number_words(std::uint64_t low, std::uint64_t high);
 
 }  // namespace simulator
 

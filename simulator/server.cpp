@@ -12,7 +12,6 @@
 #include <cerrno>
 #include <memory>
 
-#include "language/messages.h"
 #include "simulator/error_words.h"
 #include "simulator/event_log.h"
 #include "simulator/wording.h"
@@ -36,7 +35,7 @@ AddressList find_address(const std::string& address, std::uint16_t port, std::st
   addrinfo* list = nullptr;
   const int result = ::getaddrinfo(address.c_str(), std::to_string(port).c_str(), &hints, &list);
   if (result != 0) {
-    error = result == EAI_NONAME ? language::_("not a numeric address") : ::gai_strerror(result);
+    error = result == EAI_NONAME ? "not a numeric address" : ::gai_strerror(result);
     return nullptr;
   }
   return AddressList(list);

@@ -12,7 +12,6 @@
 #include <string_view>
 #include <system_error>
 
-#include "language/messages.h"
 #include "simulator/error_words.h"
 
 namespace simulator {
@@ -51,7 +50,7 @@ std::string SheetFolder::Open(const std::filesystem::path& folder) {
   std::error_code error;
   std::filesystem::create_directories(folder, error);
   if (!std::filesystem::is_directory(folder)) {
-    return error ? error.message() : language::_("not a folder");
+    return error ? error.message() : "not a folder";
   }
   if (::access(folder.c_str(), W_OK | X_OK) != 0) {
     return error_words(errno);

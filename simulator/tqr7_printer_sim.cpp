@@ -11,7 +11,6 @@
 
 #include "decoder/proof_choice.h"
 #include "decoder/soft_proof.h"
-#include "language/messages.h"
 #include "simulator/command_line.h"
 #include "simulator/contact_sheet.h"
 #include "simulator/error_words.h"
@@ -29,9 +28,6 @@
 
 namespace simulator {
 namespace {
-
-using language::_;
-using language::filled;
 
 int cannot_start(const std::string& why) {
   std::fprintf(stderr, "tqr7-printer-sim: %s\n", why.c_str());
@@ -89,8 +85,6 @@ void say_stopped(const Tally& tally) {
 }
 
 int serve(const Options& options, Server& server, const Waiter& waiter, Printer printer) {
-  // What is said from here on is the log of the events.
-  const language::English for_scripts;
   const std::string trouble = server.Serve(printer, waiter, options.connections);
   Tally& tally = printer.tally;
   if (!trouble.empty()) {
@@ -104,7 +98,7 @@ int serve(const Options& options, Server& server, const Waiter& waiter, Printer 
 int run(const Options& options) {
   const std::optional<SignalEnds> signals = catch_signals();
   if (!signals) {
-    return cannot_start(_("signals"), error_words(errno));
+    return cannot_start("signals", error_words(errno));
   }
   FaultSchedule faults(std::chrono::steady_clock::now, log_event);
   if (const std::string why = load_faults(options.faults, faults); !why.empty()) {
@@ -128,13 +122,11 @@ int run(const Options& options) {
   }
   std::unique_ptr<decoder::SoftProof> proof;
   if (const std::string why = decoder::make_proof(options.proof, proof); !why.empty()) {
-    return cannot_start(*options.proof.profile, _(why.c_str()));
+    return cannot_start(*options.proof.profile, why);
   }
   Server server;
   if (const std::string why = server.Listen(options.address, options.port); !why.empty()) {
-    // TRANSLATORS: a network address and its port.
-    return cannot_start(
-        filled(_("%1$s port %2$u"), options.address.c_str(), unsigned{options.port}), why);
+    return cannot_start(options.address + " port " + std::to_string(options.port), why);
   }
   if (const std::string why = write_port_file(options.portFile, server.Port()); !why.empty()) {
     return cannot_start(options.portFile, why);
@@ -154,7 +146,6 @@ int run(const Options& options) {
 
 int main(int argc, char** argv) {
   try {
-    language::begin();
     simulator::Options options;
     if (const auto status = simulator::read_command_line(argc, argv, options)) {
       return *status;

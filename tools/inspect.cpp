@@ -5,7 +5,6 @@
 #include <memory>
 #include <string>
 
-#include "language/messages.h"
 #include "tools/byte_source.h"
 #include "tools/command_line.h"
 #include "tools/exit_status.h"
@@ -14,8 +13,6 @@
 
 namespace tools {
 namespace {
-
-using language::_;
 
 struct Options {
   std::string file;
@@ -41,11 +38,11 @@ int inspect(const Options& options) {
 
 void add_inspect(CommandLine& program) {
   Subcommand sub =
-      program.Add("inspect", _("list a captured command stream and hold it against the protocol"));
+      program.Add("inspect", "list a captured command stream and hold it against the protocol");
   const auto options = std::make_shared<Options>();
-  sub.Text("FILE", options->file, _("the stream; - is the standard input")).Required();
-  sub.Flag("--brief", options->brief, _("leave the fields of the commands out"));
-  sub.Flag("--json", options->json, _("write one JSON document"));
+  sub.Text("FILE", options->file, "the stream; - is the standard input").Required();
+  sub.Flag("--brief", options->brief, "leave the fields of the commands out");
+  sub.Flag("--json", options->json, "write one JSON document");
   sub.Runs([options] { return inspect(*options); });
 }
 

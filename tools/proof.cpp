@@ -7,9 +7,9 @@
 
 #include "decoder/proof_choice.h"
 #include "decoder/soft_proof.h"
-#include "language/messages.h"
 #include "simulator/sheet_folder.h"
 #include "simulator/sheet_printer.h"
+#include "simulator/wording.h"
 #include "tools/byte_source.h"
 #include "tools/command_line.h"
 #include "tools/exit_status.h"
@@ -18,10 +18,6 @@
 
 namespace tools {
 namespace {
-
-using language::_;
-using language::_n;
-using language::filled;
 
 struct Options {
   std::string file;
@@ -52,7 +48,7 @@ int status_of(const ProofTotals& totals) {
 int proof(const Options& options) {
   std::unique_ptr<decoder::SoftProof> softProof;
   if (const std::string why = decoder::make_proof(options.proof, softProof); !why.empty()) {
-    return cannot(*options.proof.profile, _(why.c_str()));
+    return cannot(*options.proof.profile, why);
   }
   simulator::SheetFolder folder;
   if (const std::string why = folder.Open(options.folder); !why.empty()) {
@@ -66,10 +62,8 @@ int proof(const Options& options) {
   if (!why.empty()) {
     return cannot(options.file, why);
   }
-  const auto sheets = static_cast<std::size_t>(totals.sheets);
-  const auto errors = static_cast<std::size_t>(totals.errors);
-  std::printf("%s, %s\n", filled(_n("%zu sheet", "%zu sheets", sheets), sheets).c_str(),
-              filled(_n("%zu error", "%zu errors", errors), errors).c_str());
+  std::printf("%s, %s\n", simulator::counted(totals.sheets, "sheet").c_str(),
+              simulator::counted(totals.errors, "error").c_str());
   return status_of(totals);
 }
 
@@ -77,21 +71,20 @@ int proof(const Options& options) {
 
 void add_proof(CommandLine& program) {
   Subcommand sub =
-      program.Add("proof", _("show the sheets of a captured command stream as PNG files"));
+      program.Add("proof", "show the sheets of a captured command stream as PNG files");
   const auto options = std::make_shared<Options>();
-  sub.Text("FILE", options->file, _("the stream; - is the standard input")).Required();
-  sub.Text("-o,--output", options->folder, _("folder for the sheets, made where it is missing"))
+  sub.Text("FILE", options->file, "the stream; - is the standard input").Required();
+  sub.Text("-o,--output", options->folder, "folder for the sheets, made where it is missing")
       .Called("DIR")
       .Required();
   const Argument profile =
       sub.Text("--profile", options->proof.profile,
-               _("ICC profile to show the colours of the print through (the model built in)"))
+               "ICC profile to show the colours of the print through (the model built in)")
           .Called("FILE");
   sub.Flag("--device-values", options->proof.deviceValues,
-           _("show the printer's own values and not the colours of the print"))
+           "show the printer's own values and not the colours of the print")
       .NotWith(profile);
-  sub.Flag("--marks", options->marks,
-           _("draw the cut and the white border's edge into the sheets"));
+  sub.Flag("--marks", options->marks, "draw the cut and the white border's edge into the sheets");
   sub.Runs([options] { return proof(*options); });
 }
 

@@ -62,15 +62,15 @@ TEST(Message, IsUtf8InALocaleOfOtherLetters) {
 
 TEST(Message, GoesWithTheCount) {
   begin_with("de_DE.UTF-8", "de");
-  EXPECT_EQ(filled(_n("%zu sheet", "%zu sheets", 1), std::size_t{1}), "1 Blatt");
-  EXPECT_EQ(filled(_n("%zu sheet", "%zu sheets", 2), std::size_t{2}), "2 Blätter");
-  EXPECT_EQ(filled(_n("%zu sheet", "%zu sheets", 0), std::size_t{0}), "0 Blätter");
+  EXPECT_EQ(filled(_n("%zu dot", "%zu dots", 1), std::size_t{1}), "1 Punkt");
+  EXPECT_EQ(filled(_n("%zu dot", "%zu dots", 2), std::size_t{2}), "2 Punkte");
+  EXPECT_EQ(filled(_n("%zu dot", "%zu dots", 0), std::size_t{0}), "0 Punkte");
 }
 
 TEST(Message, GoesWithTheCountInEnglish) {
   begin_with("C", "");
-  EXPECT_EQ(filled(_n("%zu sheet", "%zu sheets", 1), std::size_t{1}), "1 sheet");
-  EXPECT_EQ(filled(_n("%zu sheet", "%zu sheets", 2), std::size_t{2}), "2 sheets");
+  EXPECT_EQ(filled(_n("%zu dot", "%zu dots", 1), std::size_t{1}), "1 dot");
+  EXPECT_EQ(filled(_n("%zu dot", "%zu dots", 2), std::size_t{2}), "2 dots");
 }
 
 TEST(Message, StaysEnglishForProgramsAndIsTranslatedAfterwards) {
@@ -79,7 +79,7 @@ TEST(Message, StaysEnglishForProgramsAndIsTranslatedAfterwards) {
     const English outer;
     const English inner;
     EXPECT_STREQ(_("Nothing to do."), "Nothing to do.");
-    EXPECT_STREQ(_n("%zu sheet", "%zu sheets", 2), "%zu sheets");
+    EXPECT_STREQ(_n("%zu dot", "%zu dots", 2), "%zu dots");
     EXPECT_EQ(decimal(2.5, 1), "2.5");
   }
   EXPECT_STREQ(_("Nothing to do."), "Nichts zu tun.");

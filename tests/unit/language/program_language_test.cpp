@@ -68,14 +68,21 @@ TEST(ProgramLanguage, IsThePersonsInComplaintsOnTheCommandLine) {
   EXPECT_EQ(run_in_german({TQR7_TOOL}).errors, "tqr7: Ein Unterbefehl fehlt (siehe --help)\n");
   EXPECT_EQ(run_in_german({TQR7_TOOL, "check", "photo.jpg"}).errors,
             "tqr7: --size fehlt (siehe --help)\n");
-  EXPECT_EQ(run_in_german({TQR7_SIMULATOR, "--port", "70000"}).errors,
-            "tqr7-printer-sim: --port: »70000« ist keine Zahl von 0 bis 65535 (siehe --help)\n");
 }
 
-TEST(ProgramLanguage, IsThePersonsInTheRulesOfTheSimulatedPrinter) {
+TEST(ProgramLanguage, IsEnglishInTheSimulatedPrinter) {
+  EXPECT_EQ(run_in_german({TQR7_SIMULATOR, "--port", "70000"}).errors,
+            "tqr7-printer-sim: --port: \"70000\" is not a number from 0 to 65535 (see --help)\n");
   EXPECT_EQ(run_in_german({TQR7_SIMULATOR, "--fault", "status 0x2665 for ever"}).errors,
-            "tqr7-printer-sim: --fault 1:19: es kam \"ever\", erwartet war eine Zahl von Sekunden "
-            "von 0.001 bis 86400 und dann \"s\"\n");
+            "tqr7-printer-sim: --fault 1:19: came \"ever\", expected a number of seconds "
+            "from 0.001 to 86400 and then \"s\"\n");
+}
+
+TEST(ProgramLanguage, IsEnglishInTheDevelopersCommands) {
+  EXPECT_THAT(run_in_german({TQR7_TOOL, "inspect", "--help"}).out,
+              HasSubstr("leave the fields of the commands out\n"));
+  EXPECT_THAT(run_in_german({TQR7_TOOL, "proof", "--help"}).out,
+              HasSubstr("show the printer's own values and not the colours of the print\n"));
 }
 
 TEST(ProgramLanguage, ChangesNoJson) {

@@ -15,33 +15,58 @@ fail() {
   failures=$((failures + 1))
 }
 
-# Breaks the German catalogue by a sed script, and expects the check's words for it.
-expect_found() {
-  local what=$1 words=$2 said
-  shift 2
+# Breaks the German catalogue by a sed script; leaves what the check says of it in said, and its status.
+check_broken() {
   rm -rf "$work/ppd"
   cp -r "$source/ppd" "$work"
   sed -i "$@" "$work/ppd/po/de.po"
   cmp -s "$source/ppd/po/de.po" "$work/ppd/po/de.po" && fail "$what: nothing was broken"
-  said=$("$work/ppd/po/check" de 2>&1) && fail "$what: not found"
+  status=0
+  said=$("$work/ppd/po/check" de 2>&1) || status=$?
+}
+
+# What the check must refuse, in these words.
+expect_refused() {
+  local what=$1 words=$2 said status
+  shift 2
+  check_broken "$@"
+  [ "$status" -ne 0 ] || fail "$what: not found"
   [[ $said == *"$words"* ]] || fail "$what: \"$words\" is not in \"$said\""
 }
 
-expect_found 'a message without a translation' 'untranslated' \
-  '/^msgid "Nothing to do."$/{n;s/".*"/""/}'
-expect_found 'an unsure translation' 'only-fuzzy' 's/^msgid "Nothing to do."$/#, fuzzy\n&/'
-expect_found 'a message that is gone' 'only-obsolete' '1i#~ msgid "gone"\n#~ msgstr "fort"\n'
-expect_found 'a message that the template does not have' 'does not go with tqr7.pot' \
+# What the check lists, and nothing else, but does not refuse.
+expect_listed() {
+  local what=$1 words=$2 said status
+  shift 2
+  check_broken "$@"
+  [ "$status" -eq 0 ] || fail "$what: refused"
+  [ "$said" = "$words" ] || fail "$what: \"$said\" is not \"$words\""
+}
+
+expect_refused 'a text of the PPD without a translation' \
+  'untranslated, in the printer description:
+msgid "Gloss"' '/^msgid "Gloss"$/{n;s/".*"/""/}'
+expect_refused 'an unsure translation of the PPD' \
+  'only-fuzzy, in the printer description:
+msgid "Gloss"' 's/^msgid "Gloss"$/#, fuzzy\n&/'
+expect_listed "a program's message without a translation" \
+  'ppd/po/de.po: untranslated, in English therefore:
+msgid "Nothing to do."' '/^msgid "Nothing to do."$/{n;s/".*"/""/}'
+expect_listed "an unsure translation of a program's message" \
+  'ppd/po/de.po: only-fuzzy, in English therefore:
+msgid "Nothing to do."' 's/^msgid "Nothing to do."$/#, fuzzy\n&/'
+expect_refused 'a message that is gone' 'left over' '1i#~ msgid "gone"\n#~ msgstr "fort"\n'
+expect_refused 'a message that the template does not have' 'does not go with tqr7.pot' \
   's/^msgid "Nothing to do."$/msgid "Nothing at all."/'
-expect_found 'a lost place for a value' 'format specifications' \
+expect_refused 'a lost place for a value' 'format specifications' \
   '/^msgid "there is no queue %s"$/{n;s/%s/%d/}'
-expect_found 'a lost word of the PPD' 'msgfmt finds' 's/^msgstr "Druckerfehler {number}\. /msgstr "Fehler. /'
-expect_found '81 bytes' '81 bytes, more than 80' \
+expect_refused 'a lost word of the PPD' 'msgfmt finds' 's/^msgstr "Druckerfehler {number}\. /msgstr "Fehler. /'
+expect_refused '81 bytes' '81 bytes, more than 80' \
   "/^msgid \"Gloss\"\$/{n;s/\".*\"/\"$(printf 'ü%.0s' {1..40})x\"/}"
-expect_found 'a colon' 'a colon' '/^msgid "Gloss"$/{n;s/".*"/"Glanz: viel"/}'
-expect_found 'angle brackets' '< >' '/^msgid "Gloss"$/{n;s/".*"/"Glanz <viel>"/}'
-expect_found 'a translated command' 'commands differ' '/^msgstr/s/resume QUEUE/resume SCHLANGE/'
-expect_found 'a head of another language' 'its head names another language' \
+expect_refused 'a colon' 'a colon' '/^msgid "Gloss"$/{n;s/".*"/"Glanz: viel"/}'
+expect_refused 'angle brackets' '< >' '/^msgid "Gloss"$/{n;s/".*"/"Glanz <viel>"/}'
+expect_refused 'a translated command' 'commands differ' '/^msgstr/s/resume QUEUE/resume SCHLANGE/'
+expect_refused 'a head of another language' 'its head names another language' \
   's/^"Language: de/"Language: nl/'
 
 "$source/ppd/po/check" tlh 2>/dev/null && fail 'a catalogue that is not there passed'
