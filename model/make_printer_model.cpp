@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Makes the printer's profile while the build runs: make-printer-model TEXT PROFILE SOURCE reads
-// the model's numbers and writes the ICC profile and the same bytes as a C++ source.
+// Makes the printer's profile while the build runs: make-printer-model PROFILE SOURCE writes the
+// ICC profile of the printer model, and the same bytes as a C++ source.
 #include <cstddef>
 #include <cstdio>
 #include <exception>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "model/model_numbers.h"
 #include "model/model_profile.h"
-#include "model/model_text.h"
 
 namespace {
 
@@ -29,7 +28,7 @@ bool write_file(const char* path, const std::string& content) {
 std::string source_of(const std::vector<unsigned char>& profile) {
   constexpr std::size_t kBytesALine = 20;
   std::ostringstream source;
-  source << "// Made by make-printer-model; change model/printer_model.txt instead.\n"
+  source << "// Made by make-printer-model; change model/model_numbers.h instead.\n"
             "#include \"model/printer_model.h\"\n\n"
             "namespace {\n\nconstexpr unsigned char kProfile[] = {";
   for (std::size_t i = 0; i < profile.size(); ++i) {
@@ -40,22 +39,11 @@ std::string source_of(const std::vector<unsigned char>& profile) {
   return source.str();
 }
 
-int make(const char* textPath, const char* profilePath, const char* sourcePath) {
-  std::ifstream file(textPath, std::ios::binary);
-  const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  if (!file) {
-    std::fprintf(stderr, "%s: cannot be read\n", textPath);
-    return 1;
-  }
-  PrinterModel model;
+int make(const char* profilePath, const char* sourcePath) {
   std::string why;
-  if (!parse_printer_model(text, model, why)) {
-    std::fprintf(stderr, "%s: %s\n", textPath, why.c_str());
-    return 1;
-  }
-  const std::vector<unsigned char> profile = make_model_profile(model, why);
+  const std::vector<unsigned char> profile = make_model_profile(kPrinterModel, why);
   if (profile.empty()) {
-    std::fprintf(stderr, "%s: %s\n", textPath, why.c_str());
+    std::fprintf(stderr, "model/model_numbers.h: %s\n", why.c_str());
     return 1;
   }
   const std::string bytes(profile.begin(), profile.end());
@@ -65,12 +53,12 @@ int make(const char* textPath, const char* profilePath, const char* sourcePath) 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 4) {
-    std::fputs("Usage: make-printer-model TEXT PROFILE SOURCE\n", stderr);
+  if (argc != 3) {
+    std::fputs("Usage: make-printer-model PROFILE SOURCE\n", stderr);
     return 2;
   }
   try {
-    return make(argv[1], argv[2], argv[3]);
+    return make(argv[1], argv[2]);
   } catch (const std::exception& fault) {
     std::fprintf(stderr, "make-printer-model: %s\n", fault.what());
     return 1;

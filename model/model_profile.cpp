@@ -98,9 +98,9 @@ Curve make_tone_response(const PrinterModel& model) {
   return Curve(cmsBuildParametricToneCurve(nullptr, kToeAndOffsets, parameters.data()));
 }
 
-bool write_text(void* profile, cmsTagSignature tag, const std::string& words) {
+bool write_text(void* profile, cmsTagSignature tag, const char* words) {
   const std::unique_ptr<cmsMLU, TextFreer> text(cmsMLUalloc(nullptr, 1));
-  return text != nullptr && cmsMLUsetASCII(text.get(), "en", "US", words.c_str()) != 0 &&
+  return text != nullptr && cmsMLUsetASCII(text.get(), "en", "US", words) != 0 &&
          cmsWriteTag(profile, tag, text.get()) != 0;
 }
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "model/model_text.h"
+#include "model/model_numbers.h"
 
 /// The profile's bytes: RGB, output class, version 4, connection space XYZ, three primaries and one
 /// curve. The same model always gives the same bytes. Empty when no profile can be made of the

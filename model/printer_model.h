@@ -7,7 +7,7 @@
 
 #include <span>
 
-/// The profile made from model/printer_model.txt: the same bytes as the file tqr7.icc that comes
+/// The profile made of model/model_numbers.h: the same bytes as the file tqr7.icc that comes
 /// with the filter. RGB, ICC version 4, matrix and curves.
 std::span<const unsigned char> printer_model_profile();
 

@@ -26,7 +26,7 @@ expect_sheet "$work/paper/sheet-0001.png" 1852 1232 "${photo[@]}"
 expect_other_colours "$work/sent/sheet-0001.png" 1852 1232 "${photo[@]}"
 
 # Beyond the printer's colours at least one channel is at its end. The others are the model's in
-# model/printer_model.txt, and what they show on paper.
+# model/model_numbers.h, and what they show on paper.
 read -ra ends <<<"$(quarters_of 0 0 1852 1232 f40003 4cff00 0000ff ffff00)"
 expect_sheet "$work/sent/sheet-0002.png" 1852 1232 "${ends[@]}"
 read -ra clipped <<<"$(quarters_of 0 0 1852 1232 ff1600 14f724 0048fd fff822)"

@@ -4,11 +4,7 @@
 # shellcheck source=tests/system/system_test.sh
 . "$(dirname "${BASH_SOURCE[0]}")/system_test.sh"
 
-# The model with a tone response and primaries of its own.
-numbers=$tests/../../model/printer_model.txt
-sed 's/^exponent .*/exponent 1.5/; s/^red .*/red 0.66 0.33/; s/^blue .*/blue 0.15 0.07/' "$numbers" \
-  >"$work/own.txt"
-"$TQR7_BUILD/make-printer-model" "$work/own.txt" "$work/own.icc" "$work/own.cpp" || exit 1
+"$TQR7_BUILD/tests/make-profile" "$work/own.icc" || exit 1
 
 add_printer own --profile "$work/own.icc"
 add_printer model

@@ -14,7 +14,7 @@
 namespace {
 
 PrinterModel some_model() {
-  PrinterModel model;
+  PrinterModel model{};
   model.description = "A printer";
   model.copyright = "Nobody's.";
   model.date = {2025, 1, 31};
