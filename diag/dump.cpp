@@ -20,7 +20,7 @@ void dump_line(const char* label, const unsigned char* data, int offset, int siz
   std::fprintf(stderr, "DEBUG: %s %04x:%s\n", label, static_cast<unsigned int>(offset), text);
 }
 
-// String fields of a header from outside need not be terminated: each is at most 64 bytes.
+// The string fields of a header from outside may not be terminated: each is at most 64 bytes.
 void dump_strings(const cups_page_header_t* header) {
   std::fprintf(stderr, "Standard Page Device Dictionary String Values\n");
   std::fprintf(stderr, "__MediaClass=%.64s        /* MediaClass string */\n", header->MediaClass);
@@ -113,7 +113,7 @@ void dump_mem(const char* label, const void* data, int size) {
     return;
   }
   const auto* bytes = static_cast<const unsigned char*>(data);
-  dump_line(label, bytes, 0, size);  // written for an empty block too
+  dump_line(label, bytes, 0, size);  // also written for an empty block
   for (int line = 1; line <= (size - 1) / kBytesPerLine; ++line) {
     dump_line(label, bytes, line * kBytesPerLine, size);
   }

@@ -27,7 +27,7 @@ const char* name_or_number(const char* name, Fallback& buffer, const char* forma
   return &buffer[0];
 }
 
-// An unknown value arrives in any of the enumeration's bits: it is read as the number it is.
+// A value from outside may be none of the enumerators: it is read as a plain number.
 template <typename Enum>
 unsigned int number_of(Enum value) {
   return static_cast<unsigned int>(value);

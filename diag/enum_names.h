@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Names of the CUPS enumerations that stand in side-channel replies and raster page headers.
+// Names of the CUPS enumerations in side-channel replies and raster page headers.
 #ifndef TQR7_DIAG_ENUM_NAMES_H
 #define TQR7_DIAG_ENUM_NAMES_H
 

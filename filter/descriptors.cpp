@@ -8,7 +8,7 @@ namespace {
 
 constexpr int kBackChannel = 3;
 
-// One file may have been opened twice, and then has flags for each; not every system can tell.
+// A file that was opened twice has flags for each opening. Not every system says which is the case.
 bool may_share_flags(int one, int other) {
   struct stat first {};
   struct stat second {};
@@ -23,7 +23,7 @@ void reserve_scheduler_descriptors() {
   constexpr int kWrongWay[] = {O_WRONLY, O_RDONLY, O_RDONLY, O_WRONLY, O_RDONLY};
   for (int descriptor = 0; descriptor < 5; ++descriptor) {
     if (fcntl(descriptor, F_GETFD) == -1) {
-      // The lowest free number is this one: all below are in use by now.
+      // open() takes the lowest free number. That is this one: all lower ones are in use by now.
       static_cast<void>(open("/dev/null", kWrongWay[descriptor]));
     }
   }

@@ -4,15 +4,16 @@
 #ifndef TQR7_FILTER_DESCRIPTORS_H
 #define TQR7_FILTER_DESCRIPTORS_H
 
-/// Occupies each of descriptors 0 … 4 that is closed, the wrong way round, so that its use fails at
-/// once: a file opened later never takes the place of the printer's stream, the log or a channel,
-/// and libcups, which waits for ever on a closed back channel, gets an error.
+/// Opens a file in the place of each of descriptors 0 … 4 that is closed, so that no file opened
+/// later gets the number of the printer's stream, the log or a channel. An input is opened for
+/// writing and an output for reading: any use of it fails at once. libcups would wait for ever on a
+/// closed back channel.
 void reserve_scheduler_descriptors();
 
-/// Has reads of the back channel return when there is nothing to read, as the scheduler does:
-/// libcups reads after its wait whether or not anything came. Not where the back channel is the
-/// same file as another of the five: they may share one set of flags, and the stream would lose
-/// what the printer does not take at once.
+/// Makes reads of the back channel return when there is nothing to read, as the scheduler does.
+/// libcups reads after its wait even when nothing came. A back channel that is the same file as
+/// another of the five descriptors is left alone: they may share one set of flags, and the
+/// printer's stream would then lose what the printer does not take at once.
 void unblock_back_channel();
 
 #endif  // TQR7_FILTER_DESCRIPTORS_H

@@ -91,22 +91,22 @@ bool EndPage(const cups_page_header_s* header, const tagPRINTSETTING* settings,
   return printed;
 }
 
-// SIGTERM is not blocked anywhere, since each wait of a page must end at once when the job is
+// SIGTERM is not blocked anywhere, because every wait of a page must end at once when the job is
 // cancelled: for the printer, for the next raster line, for the conversion, for a reader that takes
-// no more. So this runs at any moment of a page, on top of whatever holds a lock or has a structure
-// half changed: the allocator, libcups, the conversion library, a call on one of the streams. It
-// never goes back there, and does only what none of them can be in the way of:
+// no more. So this handler can interrupt the allocator, libcups, the conversion library or a call
+// on a stream while it holds a lock or has changed half of a structure. The handler never returns
+// to the interrupted code, and calls nothing that needs such a lock or structure:
 //
 //   - It takes and releases no memory. The page's buffers go with the process.
-//   - It uses one stream, the printer's, and that only when no call on it is under way: the flush
-//     then finds a whole buffer and a free lock. A slow reader may hold up the flush, nothing else.
+//   - It uses one stream, the printer's, and only when no call on it is under way: the flush then
+//     finds a whole buffer and a free lock. Only a slow reader can delay the flush.
 //   - It writes no message.
 //   - It ends the process by _exit. exit() would flush every stream, run the libraries' clean-up
 //     and take their locks.
 //
-// The scheduler cancels the backend with the filter. Where that was faster, the flush has nobody to
-// write to, and SIGPIPE must not stand for the job's status; libcups may or may not have had it
-// ignored already.
+// The scheduler cancels the backend together with the filter. If the backend ends first, nobody
+// reads what the flush writes, and SIGPIPE would end the filter with another status. libcups may or
+// may not have made the process ignore it already.
 void CancelJob(int /*signal_number*/) {
   g_cancelled = 1;
   set_action(SIGPIPE, SIG_IGN);

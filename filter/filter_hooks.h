@@ -12,19 +12,19 @@
 /// Called once before the first page. The printer needs nothing here.
 void Setup();
 
-/// From here until the page's end SIGTERM runs CancelJob. Takes the line buffer
-/// (cupsBytesPerLine bytes) and the page buffer, which starts out white. Where either cannot be
-/// had, an "ERROR: " line is written and both are null.
+/// From here until the page's end SIGTERM runs CancelJob. Allocates the line buffer
+/// (cupsBytesPerLine bytes) and the page buffer, which starts out white. When there is no memory
+/// for one of them, it writes an "ERROR: " line, and both are null.
 void StartPage(ppd_file_s* ppd, const cups_page_header_s* header, const tagPRINTSETTING* settings);
 
 /// Converts the page and prints or parks it, then releases the page's buffers and ignores SIGTERM.
-/// False when the page could not be converted or printed. With three null pointers only the
-/// release: the page is dropped.
+/// False when the page could not be converted or printed. With three null pointers it only releases
+/// them: the page is dropped.
 bool EndPage(const cups_page_header_s* header, const tagPRINTSETTING* settings,
              const char* module_path);
 
-/// The SIGTERM handler: drops the page, sends what was written unless it is in the middle of that,
-/// and ends the process with status 0. Safe at any moment.
+/// The SIGTERM handler: drops the page, flushes the printer's stream unless it has interrupted a
+/// call on it, and ends the process with status 0. Safe at any moment.
 void CancelJob(int signal_number);
 
 /// Called once when a job is cancelled. The printer needs nothing here.

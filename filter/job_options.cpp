@@ -15,8 +15,8 @@ bool can_be_read_again(const char* path) {
   return path != nullptr && stat(path, &file) == 0 && S_ISREG(file.st_mode);
 }
 
-// False at a sign that memory was refused, where signs count. What libcups could not finish for
-// want of memory is not given to its next call, which would fall over it.
+// False at a sign that memory was refused, if signs count. What libcups could not finish without
+// that memory is not passed to its next call, which would crash on it.
 bool mark_choices(ppd_file_s* ppd, const char* options, bool signs_count) {
   const MemoryWatch watch;
   const auto refused = [&] { return signs_count && watch.refused(); };
@@ -36,8 +36,8 @@ bool mark_choices(ppd_file_s* ppd, const char* options, bool signs_count) {
 }  // namespace
 
 // Without memory libcups drops a line of the PPD, an option or a mark, goes on and succeeds. The
-// only sign is in errno, where a call that got all its memory may leave it as well. So a sign has
-// all of it done once more, where the PPD can be read again, and the second time it is no reason.
+// only sign is ENOMEM in errno, but a call that got all its memory may leave that there, too. So a
+// sign makes us read the PPD a second time, if it can be read again, and then it no longer counts.
 ppd_file_s* open_marked_ppd(const char* options) {
   const char* path = std::getenv("PPD");
   for (bool signs_count = can_be_read_again(path);; signs_count = false) {

@@ -7,9 +7,8 @@
 #include <cups/ppd.h>
 
 /// Opens the PPD that the environment names, and marks its defaults, then the choices of the
-/// options text. Null when there is none that can be read, and, with ENOMEM in errno, when memory
-/// was refused on the way: a sheet must not print with other choices than the job made. The caller
-/// closes it.
+/// options text. Null when no PPD can be read. Also null, with ENOMEM in errno, when memory was
+/// refused: a sheet must not print with other choices than the job made. The caller closes it.
 ppd_file_s* open_marked_ppd(const char* options);
 
 #endif  // TQR7_FILTER_JOB_OPTIONS_H

@@ -42,8 +42,8 @@ bool skip_cost(std::string_view& rest) {
   return i > first_digit;
 }
 
-// The program of the first line that takes CUPS raster. A line without all three fields does not
-// count.
+// The program of the first line that takes CUPS raster. A line that lacks one of the three fields
+// is skipped.
 std::optional<std::string_view> raster_program(const ppd_file_s* ppd) {
   for (int i = 0; i < ppd->num_filters; ++i) {
     if (ppd->filters[i] == nullptr) {

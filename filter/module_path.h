@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Where the filter and its companion files are installed, as the PPD tells it.
+// Where the filter and its companion files are installed, according to the PPD.
 #ifndef TQR7_FILTER_MODULE_PATH_H
 #define TQR7_FILTER_MODULE_PATH_H
 

@@ -52,14 +52,16 @@ void log_params(const tagMVChangeParams& params) {
                option[3], params.nSharpness);
 }
 
-// A page that begins a sheet begins its rates and, for a matte finish, its matte plane.
+// The first page of a sheet resets the sheet's rates and, for a matte finish, makes its matte
+// plane.
 bool begin_sheet(const tagPRINTSETTING* settings, tagMVBandImageParams** matte) {
   gRgbRate = 0;
   gOpRate = 0;
   if (settings->byPrintFinish != kFinishMatte) {
     return true;
   }
-  // The plane of the sheet before is readable until here; two at once would be two in memory.
+  // The previous sheet's plane could be read until here. It goes first, so that memory never holds
+  // two.
   CImageUtility::DeleteBandImage(&gMatteImage);
   const MV_TYPEDEF::tagRECT plane{0, 0, settings->nPaperWidth,
                                   std::int64_t{settings->nPaperHeight} + kMatteExtraRows};

@@ -19,9 +19,9 @@ constexpr int kBytesPerPixel = 3;
 constexpr unsigned int kLinesPerReport = 128;
 constexpr int kPercentRead = 50;  // printing the page takes the other half
 
-// Reads the page's lines into the page buffer. The header is hostile: a line holds as many bytes as
-// it says, never more, and what it does not hold stays white. False when libcups had no memory for
-// a line: the rest would print white.
+// Reads the page's lines into the page buffer. The header may be hostile: of a line, no more bytes
+// are copied than the header says it has, and the rest of the row stays white. False when libcups
+// had no memory for a line: the rest of the page would print white.
 bool read_page(cups_raster_t* raster, const cups_page_header_t& header,
                const tagPRINTSETTING& settings) {
   const auto raster_width = static_cast<std::int32_t>(header.cupsWidth);
@@ -55,8 +55,8 @@ bool read_page(cups_raster_t* raster, const cups_page_header_t& header,
   return true;
 }
 
-// What comes next in the stream. libcups tells of an end also when it has no memory for the next
-// page, which would then be lost without a word.
+// What comes next in the stream. libcups also reports the stream's end when it has no memory for
+// the next page, which would then be lost silently.
 enum class Next { Page, End, NoMemory };
 
 Next read_header(cups_raster_t* raster, cups_page_header_t* header) {

@@ -9,9 +9,9 @@
 
 #include "job/print_setting.h"
 
-/// Prints all pages of the stream, the half sheet that may wait at its end, and ends the job on the
-/// printer. `module_path` is the conversion library's directory. False when a page fails, which
-/// ends the job there, or libcups has no memory for one: the pages end before it.
+/// Prints all pages of the stream and a half sheet that still waits at its end, and sends the
+/// print-out command. `module_path` is the conversion library's directory. False when a page fails,
+/// which ends the job there, or when libcups has no memory for a page: the pages before it print.
 bool print_pages(cups_raster_t* raster, ppd_file_t* ppd, const tagPRINTSETTING& settings,
                  const char* module_path);
 

@@ -144,7 +144,7 @@ int get_ppd_val(ppd_file_s* ppd, const char* keyword, int default_value) {
   if (choice == nullptr) {
     return default_value;
   }
-  // Reads as atoi does, and stays defined for numbers beyond its range.
+  // Reads as atoi does, but is also defined for numbers outside its range.
   return static_cast<std::int16_t>(std::strtol(choice, nullptr, 10));
 }
 

@@ -13,17 +13,17 @@
 /// normal, tone values 0.
 void get_print_setting(ppd_file_s* ppd, tagPRINTSETTING* settings);
 
-/// The number that the keyword's marked choice spells, in 16 bits: what does not fit wraps, what is
-/// no number is 0. Without a marked choice, the default.
+/// The number in the name of the keyword's marked choice, in 16 bits: a number that does not fit
+/// wraps, a name that is no number is 0. The default if no choice is marked.
 int get_ppd_val(ppd_file_s* ppd, const char* keyword, int default_value);
 
-/// get_ppd_val held to −5 … 5.
+/// get_ppd_val limited to −5 … 5.
 int get_setting_gamma(ppd_file_s* ppd, const char* keyword, int default_value);
 
-/// get_ppd_val held to −128 … 128.
+/// get_ppd_val limited to −128 … 128.
 int get_setting_brightness(ppd_file_s* ppd, const char* keyword, int default_value);
 
-/// get_ppd_val held to −128 … 128.
+/// get_ppd_val limited to −128 … 128.
 int get_setting_contrast(ppd_file_s* ppd, const char* keyword, int default_value);
 
 #endif  // TQR7_FILTER_PPD_OPTIONS_H

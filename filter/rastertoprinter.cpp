@@ -55,7 +55,7 @@ bool open_raster_file(int argc, char* argv[], JobInput* input) {
   return false;
 }
 
-// What is no raster gives no stream, and neither does a lack of memory: the job then has no pages.
+// There is no stream if the input is no raster or memory is lacking: the job then has no pages.
 void open_raster(JobInput* input) {
   const MemoryWatch watch;
   input->raster = cupsRasterOpen(input->descriptor, CUPS_RASTER_READ);
@@ -114,7 +114,7 @@ int main(int argc, char* argv[]) {
     return 1;
   }
   unblock_back_channel();
-  errno = 0;  // a reason for the log comes from the job's own calls
+  errno = 0;  // only the job's own calls may set the reason that the log reports
   JobInput input;
   if (!open_raster_file(argc, argv, &input)) {
     return 1;
@@ -124,8 +124,8 @@ int main(int argc, char* argv[]) {
   try {
     return run_job(input);
   } catch (const std::bad_alloc&) {
-    // The C++ library's own, from texts and sets. Every sheet is sent whole before: what was
-    // printed stays printed, and nothing follows it. The process's end gives the memory back.
+    // Strings and sets throw it. No sheet is half sent at such a moment: what was printed stays
+    // printed, and nothing follows it. The process's end releases the memory.
     report_no_memory();
     return 1;
   }

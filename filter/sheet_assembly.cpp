@@ -12,7 +12,7 @@ unsigned char g_white_pixel[] = {0xFF, 0x3F, 0xFF, 0x3F, 0xFF, 0x3F};
 // The first page of a sheet waits in its lower half.
 bool park_page(const tagPRINTSETTING* settings, const tagMVBandImageParams* image) {
   const MV_TYPEDEF::tagRECT sheet{0, 0, settings->nPaperWidth, settings->nPaperHeight};
-  // The page's own line order: copies are made between bands of one order.
+  // In the page's line order: both bands of a copy must have the same one.
   CImageUtility::CreateBandImage(&gImageCache, sheet, kImageDepth,
                                  static_cast<int>(image->lStride));
   if (gImageCache.pBits == nullptr) {
@@ -26,7 +26,7 @@ bool park_page(const tagPRINTSETTING* settings, const tagMVBandImageParams* imag
   return true;
 }
 
-// The second page takes the upper half, and the sheet is whole.
+// The second page goes into the upper half and completes the sheet.
 bool print_joined(const tagPRINTSETTING* settings, const tagMVBandImageParams* image) {
   CImageUtility::CopyBandImage(&gImageCache, image, kImageDepth);
   const bool printed = print_image(settings, &gImageCache);
@@ -34,8 +34,8 @@ bool print_joined(const tagPRINTSETTING* settings, const tagMVBandImageParams* i
   return printed;
 }
 
-// The lone image of a sheet as a sheet of image size. No paper asks for it yet; the sheet's own
-// height is the distance that such a paper would be made for.
+// Makes a sheet of image size of the only image of a sheet. No paper uses it yet. The image is
+// looked for one sheet height down, as a paper that uses it would place it.
 void cut_to_half(tagPRINTSETTING* settings, tagMVBandImageParams* band) {
   const std::int64_t stride = band->lStride;
   unsigned char* top = band->pBits;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// From converted pages to sheets: most sizes print each page, one size joins two pages in a sheet.
+// From converted pages to sheets: most sizes print one page a sheet, one size joins two pages.
 #ifndef TQR7_FILTER_SHEET_ASSEMBLY_H
 #define TQR7_FILTER_SHEET_ASSEMBLY_H
 
@@ -15,7 +15,7 @@ bool print_page(const tagPRINTSETTING* settings, tagMVBandImageParams* image);
 /// waits, else print_image's result.
 bool print_last_page(const tagPRINTSETTING* settings);
 
-/// Gives the sheet's memory back: the cache of a joined one and the matte plane.
+/// Releases the sheet's memory: the cache of a joined sheet and the matte plane.
 void release_sheet();
 
 #endif  // TQR7_FILTER_SHEET_ASSEMBLY_H

@@ -12,13 +12,13 @@ namespace {
 
 using MV_TYPEDEF::tagRECT;
 
-// Rectangles come with any edges: arithmetic on them wraps instead of being undefined.
+// A rectangle may have any edges: arithmetic on them wraps instead of being undefined.
 std::int64_t product(std::int64_t a, std::int64_t b) {
   return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) * static_cast<std::uint64_t>(b));
 }
 
-// Bytes of a buffer over the rectangle. An inverted rectangle, and one beyond the number range,
-// asks for more than any allocator has, never for a small buffer.
+// Bytes of a buffer for the rectangle. An inverted rectangle, or one outside the number range, asks
+// for more than any allocator has, never for a small buffer.
 std::size_t buffer_size(const tagRECT& rect, std::int64_t bytes_per_pixel) {
   std::int64_t width = 0;
   std::int64_t height = 0;
@@ -33,8 +33,7 @@ std::size_t buffer_size(const tagRECT& rect, std::int64_t bytes_per_pixel) {
   return static_cast<std::size_t>(size);
 }
 
-// Fills `size` bytes with a pixel: what is there already is copied behind itself, each time as
-// much.
+// Fills `size` bytes with a pixel: copies what is there already, which doubles it each time.
 void repeat_pixel(unsigned char* line, std::size_t size, const void* pixel,
                   std::size_t pixel_size) {
   if (size == 0) {
@@ -82,7 +81,7 @@ bool CImageUtility::CopyBandImage(tagMVBandImageParams* dest, const tagMVBandIma
 
   const unsigned char* from = src->pBits;
   unsigned char* to = dest->pBits;
-  // The source alone decides: callers pass two bands of one line order.
+  // The source's line order counts for both: callers pass two bands of the same order.
   if (src->lStride >= 0) {
     const auto source_height = static_cast<std::int32_t>(src->rcBand.bottom - src->rcBand.top);
     const auto dest_height = static_cast<std::int32_t>(dest->rcBand.bottom - dest->rcBand.top);
@@ -111,7 +110,7 @@ bool CImageUtility::FillBandImage(tagMVBandImageParams* image, int bitsPerPixel,
   }
   const std::int64_t bytes_per_pixel = bitsPerPixel / 8;
   if (bytes_per_pixel <= 0) {
-    return true;  // a pixel without bytes leaves nothing to write
+    return true;  // a pixel without bytes: there is nothing to write
   }
   const std::int64_t height = rect_height(image->rcBand);
   const std::int64_t stride = image->lStride;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A band image: a block of pixels in one buffer, with its place and its line order. The record is
-// what the filter and the conversion library hand to each other.
+// A band image: a block of pixels in one buffer, with its place and its line order. The filter
+// and the conversion library pass this record to each other.
 #ifndef TQR7_IMAGE_BAND_IMAGE_H
 #define TQR7_IMAGE_BAND_IMAGE_H
 
@@ -10,8 +10,8 @@
 
 #include "image/rect.h"
 
-/// A band of pixels. The record does not know its depth: every operation is told the bits per
-/// pixel, which must be those that the band was made with. Copying the record copies the pointer.
+/// A band of pixels. The record does not contain its depth: the caller of each operation passes the
+/// bits per pixel that the band was made with. A copy of the record points to the same pixels.
 struct tagMVBandImageParams {
   unsigned char* pBits;        ///< first byte of the buffer; null for a band without pixels
   std::int64_t lStride;        ///< bytes from line to line; negative: top row first in memory
@@ -30,13 +30,13 @@ static_assert(offsetof(tagMVBandImageParams, rcBand.bottom) == 40);
 inline constexpr int kImageDepth = 48;  ///< bits a pixel of a converted page: three 16-bit channels
 inline constexpr int kMatteDepth = 8;   ///< bits a pixel of a matte plane
 
-/// The operations on band images. A row's line follows its upper neighbour's at −lStride bytes, for
-/// both line orders.
+/// The operations on band images. In both line orders the row below begins −lStride bytes after the
+/// row above it.
 class CImageUtility {
  public:
-  /// Gives the band a buffer of its own over `rect`, every byte 0xFF. A negative `direction` puts
-  /// the top row first in memory, any other the bottom row. False when the memory cannot be had;
-  /// stride and rectangle are set even then. A buffer the record already has is not released.
+  /// Allocates a buffer for `rect`, with every byte 0xFF. A negative `direction` puts the top row
+  /// first in memory, any other the bottom row. False without memory; stride and rectangle are set
+  /// even then. Does not release a buffer that the record already has.
   static bool CreateBandImage(tagMVBandImageParams* image, const MV_TYPEDEF::tagRECT& rect,
                               int bitsPerPixel, int direction);
 
@@ -44,7 +44,7 @@ class CImageUtility {
   static void DeleteBandImage(tagMVBandImageParams* image);
 
   /// Copies the pixels of the area that both rectangles cover, to the same coordinates. Both bands
-  /// must hold buffers of one line order. Always true.
+  /// must have buffers, of the same line order. Always true.
   static bool CopyBandImage(tagMVBandImageParams* dest, const tagMVBandImageParams* src,
                             int bitsPerPixel);
 

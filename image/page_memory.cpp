@@ -9,11 +9,11 @@
 
 namespace {
 
-// Below this a fault for each page costs no more than the hint.
+// In a smaller buffer the page faults cost no more than the hint.
 constexpr std::size_t kWorthTheHint = std::size_t{1} << 20U;
 
-// Whether memory of the page before has come back: nothing is left to do for it. Its middle and its
-// end tell; a buffer of whole pages of the system begins at `first`.
+// Whether the allocator has reused memory of the last page: then there is nothing to do. The middle
+// and the end of the buffer show it. `first` is the buffer's first whole page of the system.
 bool written_before([[maybe_unused]] void* first, [[maybe_unused]] std::size_t size,
                     [[maybe_unused]] std::size_t page) {
 #ifdef __linux__
@@ -37,7 +37,7 @@ void expect_writes(void* bytes, std::size_t size) {
     return;
   }
   const int before = errno;
-  // What shares the last page may be another's.
+  // The last page may be shared with other data.
   const std::size_t whole = left / page * page;
   if (!written_before(first, whole, page)) {
 #ifdef MADV_HUGEPAGE

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// What the system is told of the memory of pages and bands. A photo job is mostly one page,
-// whose some 20 MB of fresh buffers would otherwise cost more processor time, a fault for each
-// 4 KiB, than all work on its pixels.
+// Hints to the system about the memory of pages and bands. Most photo jobs have one page. Without
+// the hints, its 20 MB of new buffers would cost more processor time (a page fault for each 4 KiB)
+// than all the work on its pixels.
 #ifndef TQR7_IMAGE_PAGE_MEMORY_H
 #define TQR7_IMAGE_PAGE_MEMORY_H
 
 #include <cstddef>
 
-/// Tells the system that all `size` bytes of a buffer are about to be written, so that it backs
-/// them at once, with large pages where it has them. Changes no byte, and errno as little; a system
-/// that knows no such hint backs each page at its first write.
+/// Tells the system that all `size` bytes of a buffer are about to be written, so that it provides
+/// the memory at once, in large pages if it has them. Changes neither the bytes nor errno. A system
+/// without such a hint provides each page at its first write.
 void expect_writes(void* bytes, std::size_t size);
 
 #endif  // TQR7_IMAGE_PAGE_MEMORY_H

@@ -33,7 +33,7 @@ int IntersectRect(MV_TYPEDEF::tagRECT* result, const MV_TYPEDEF::tagRECT* first,
 
 namespace {
 
-// An edge at the end of the number range wraps instead of being undefined.
+// An edge that leaves the number range wraps instead of being undefined.
 std::int64_t moved(std::int64_t edge, int distance) {
   return static_cast<std::int64_t>(static_cast<std::uint64_t>(edge) +
                                    static_cast<std::uint64_t>(std::int64_t{distance}));

@@ -19,8 +19,8 @@ struct tagRECT {
 
 }  // namespace MV_TYPEDEF
 
-/// The distance from one edge to another. Edges come from outside too: one beyond the number range
-/// wraps instead of being undefined.
+/// The distance from one edge to another. Edges may come from outside: a distance outside the
+/// number range wraps instead of being undefined.
 inline std::int64_t edge_distance(std::int64_t from, std::int64_t to) {
   return static_cast<std::int64_t>(static_cast<std::uint64_t>(to) -
                                    static_cast<std::uint64_t>(from));

@@ -20,11 +20,11 @@ extern std::uint8_t gRgbRate;             ///< the sheet's rates, from its conve
 extern std::uint8_t gOpRate;
 extern int curLine;
 
-/// Calls on the printer's stream that are under way: a signal handler that finds one must leave the
-/// stream alone, whose buffer is then half changed.
+/// Number of calls on the printer's stream that are under way. A signal handler that interrupts one
+/// must not touch the stream: its buffer is half changed.
 extern volatile std::sig_atomic_t gOutputCalls;
 
-/// Stands around each call on the printer's stream.
+/// Lives for the time of one call on the printer's stream, and counts it.
 class OutputCall {
  public:
   OutputCall() { gOutputCalls = gOutputCalls + 1; }

@@ -2,7 +2,7 @@
 #include "job/paper_table.h"
 
 // Sheet width and height, image width, height, left and top; two-up mode, split and option; pages
-// joined, gap between them, lone half as a sheet of its own.
+// joined, gap between them, whether a single half prints as a sheet of its own.
 // clang-format off
 const tagPAPERINFO PAPER_9x13      = {1550, 1082, 1550, 1082,    0,    0,  0, 0, 0,  0, 0, 0};
 const tagPAPERINFO PAPER_10x15     = {1852, 1232, 1852, 1232,    0,    0,  0, 0, 0,  0, 0, 0};

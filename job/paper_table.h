@@ -19,7 +19,7 @@ struct tagPAPERINFO {
   std::uint8_t byTwoUpOption;
   std::int32_t nJoinPages;
   std::int32_t nJoinGap;
-  std::uint8_t bHalfSheetLast;  ///< lowest bit counts
+  std::uint8_t bHalfSheetLast;  ///< true if its lowest bit is set
 };
 
 extern const tagPAPERINFO PAPER_9x13;

@@ -6,9 +6,9 @@
 
 #include <cstdint>
 
-/// The job's settings. Distances are in printer dots (300 a inch); a line is one row of dots.
+/// The job's settings. Distances are in printer dots (300 to the inch); a line is one row of dots.
 struct tagPRINTSETTING {
-  std::int32_t nReserved;  ///< unused, keeps its place
+  std::int32_t nReserved;  ///< unused
   std::int32_t nPaperWidth;
   std::int32_t nPaperHeight;
   std::int32_t nImageWidth;
@@ -25,9 +25,9 @@ struct tagPRINTSETTING {
   std::uint8_t byReserved[3];
   std::uint8_t byPrintMode;        ///< the printer's code: 0 auto, 5 fast
   std::uint8_t byPrintFinish;      ///< the printer's code: 0 gloss, 3 matte
-  std::uint8_t byColorConversion;  ///< lowest bit: on
-  std::uint8_t byMarginCutOff;     ///< lowest bit: on
-  std::uint8_t byWaitNextImage;    ///< lowest bit: on
+  std::uint8_t byColorConversion;  ///< on if its lowest bit is set
+  std::uint8_t byMarginCutOff;     ///< on if its lowest bit is set
+  std::uint8_t byWaitNextImage;    ///< on if its lowest bit is set
   std::uint8_t byWaitTime;         ///< the printer's own unit
   std::int16_t nGamma[3];          ///< R, G, B, −5 … 5
   std::int16_t nContrast[3];       ///< R, G, B, −128 … 128

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// How far the current page is, told to whoever watches the job.
+// The progress of the current page, for people who watch the job.
 #ifndef TQR7_JOB_PROGRESS_H
 #define TQR7_JOB_PROGRESS_H
 

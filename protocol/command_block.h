@@ -11,7 +11,7 @@
 #include "job/job_state.h"
 
 inline constexpr std::size_t kCommandBlockSize = 512;  ///< bytes of a long command
-inline constexpr std::size_t kCommandCodeSize = 4;     ///< bytes of its code, which leads
+inline constexpr std::size_t kCommandCodeSize = 4;     ///< bytes of its code, which comes first
 
 /// Stores the low 16 bits at `offset`, high byte first.
 inline void put_big_endian_16(unsigned char* block, std::size_t offset, std::uint32_t value) {
@@ -19,7 +19,7 @@ inline void put_big_endian_16(unsigned char* block, std::size_t offset, std::uin
   block[offset + 1] = static_cast<unsigned char>(value);
 }
 
-/// Writes a command in one call. A write that fails shows at the next exchange with the printer.
+/// Writes a command in one call. The next exchange with the printer notices a write that failed.
 inline void write_command(std::FILE* out, const unsigned char* bytes, std::size_t size) {
   const OutputCall call;
   static_cast<void>(std::fwrite(bytes, 1, size, out));

@@ -27,13 +27,13 @@ constexpr std::size_t kOffsetSecond = 38;
 
 constexpr int kLastSecond = 59;  // the printer knows no leap seconds
 
-// Width and height of a band as two numbers that stand side by side.
+// Stores the width and the height of a band as two neighbouring numbers.
 void put_size(unsigned char* block, std::size_t offset, const tagMVBandImageParams& band) {
   put_big_endian_16(block, offset, static_cast<std::uint32_t>(rect_width(band.rcBand)));
   put_big_endian_16(block, offset + 2, static_cast<std::uint32_t>(rect_height(band.rcBand)));
 }
 
-// Local time. A clock that cannot be read leaves the fields zero.
+// Stores the local time. The fields stay zero if the clock cannot be read.
 void put_time(unsigned char* block) {
   const std::time_t now = std::time(nullptr);
   const std::tm* local = std::localtime(&now);

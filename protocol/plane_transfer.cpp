@@ -13,13 +13,13 @@
 
 namespace {
 
-// 32,768 image pixels: a multiple of 6, so that a full buffer ends between pixels, though seldom
-// between rows.
+// 32,768 image pixels. A multiple of 6, so that a full buffer ends after a whole pixel, though
+// seldom after a whole row.
 constexpr std::size_t kStagingSize = 0x30000;
 constexpr std::size_t kBytesPerImagePixel = 6;
 static_assert(kStagingSize % kBytesPerImagePixel == 0);
 
-constexpr int kPercentBeforeTransfer = 50;  // reading the page has reported the first half
+constexpr int kPercentBeforeTransfer = 50;  // reading the page was the first half
 constexpr int kPercentOfTransfer = 50;
 constexpr int kPercentSent = 99;
 
@@ -49,7 +49,7 @@ Lines lines_of(const tagMVBandImageParams* band) {
   return lines;
 }
 
-// The printer takes samples low byte first, whatever the order of this machine.
+// The printer takes the low byte of a sample first, on machines of either byte order.
 void stage_pixels(unsigned char* to, const unsigned char* from, std::size_t pixels) {
   if constexpr (std::endian::native == std::endian::little) {
     std::memcpy(to, from, pixels * kBytesPerImagePixel);
@@ -67,8 +67,8 @@ void stage_bytes(unsigned char* to, const unsigned char* from, std::size_t bytes
   std::memcpy(to, from, bytes);
 }
 
-// Walks the band's rows from the top, stages each and hands every full buffer on. `wrote` is told
-// the row in which a full buffer ended, and −1 for what was left at the end.
+// Copies the band's rows, from the top, into a buffer, and writes the buffer each time it is full.
+// Then `wrote` is called with the row in which that buffer ended, and at last with −1 for the rest.
 template <typename Stage, typename Wrote>
 bool send_rows(std::FILE* out, const tagMVBandImageParams* band, std::size_t bytes_per_pixel,
                Stage stage, Wrote wrote) {

@@ -27,14 +27,14 @@ bool printer_takes_sheet(const tagPRINTSETTING* settings) {
       return true;
     }
     std::fprintf(stderr, "DEBUG: %s\n", refusal.c_str());
-  } catch (const std::exception&) {  // no memory for the words
+  } catch (const std::exception&) {  // no memory for the text
     std::fprintf(stderr, "DEBUG: ExaminePage() Error\n");
   }
   sleep(kPauseAfterRefusal);
   return false;
 }
 
-// Writes that fail are not looked at here: the next exchange with the printer finds out.
+// A write that fails is not noticed here: the next exchange with the printer notices it.
 void send_sheet(const tagPRINTSETTING* settings, tagMVBandImageParams* image) {
   wr_esc_SP(fpOut, settings);
   wr_esc_ZT(fpOut, settings, image, kImageFlag);

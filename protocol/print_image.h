@@ -8,7 +8,7 @@
 #include "job/print_setting.h"
 
 /// Prints one 48-bit band as a sheet (with gMatteImage for a matte finish). False when the printer
-/// is not good or does not take the sheet; nothing of the image was sent then.
+/// is not good or does not take the sheet; nothing of the image is sent in that case.
 bool print_image(const tagPRINTSETTING* settings, tagMVBandImageParams* image);
 
 #endif  // TQR7_PROTOCOL_PRINT_IMAGE_H

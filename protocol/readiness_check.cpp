@@ -26,17 +26,16 @@ constexpr std::size_t kOffsetCodeLow = 5;
 constexpr unsigned int kBusyStep = 2;     // seconds between two queries of a busy printer
 constexpr unsigned int kBusyLimit = 180;  // seconds
 
-// A read that comes back empty is not the end, the answer may stand behind it. But a back channel
-// that is at its end, because the backend is gone, reads as empty for ever, and at once, while the
-// scheduler waits for the filter. So the first empty reads in a row, more than any backend makes,
-// are followed by the next at once; the next ones by a nap, which gives the processor away. In all
-// they are waited through for as long as a busy printer is.
+// An empty read does not mean that the back channel has ended: the answer may come with the next
+// one. But if the backend is gone, every read returns empty at once and for ever, while the
+// scheduler waits for the filter. So empty reads in a row are counted. After each of the first few,
+// which are more than any backend causes, we read again at once. After each later one we first take
+// a nap, so that other processes run. The naps add up to the time that we wait for a busy printer.
 constexpr int kEmptyReadsAtOnce = 4096;
 constexpr int kNap = 20;                              // milliseconds
-constexpr int kNaps = int{kBusyLimit} * 1000 / kNap;  // then the channel counts as closed
+constexpr int kNaps = int{kBusyLimit} * 1000 / kNap;  // after them the channel counts as closed
 
-// What to do about empty reads in a row. A channel that has brought nothing but them for all the
-// naps is to be read no more.
+// Counts empty reads in a row and takes the naps. After the last nap the channel is read no more.
 class EmptyReads {
  public:
   bool channel_is_closed() {
@@ -76,8 +75,8 @@ int read_reply(char* buffer) {
   return static_cast<int>(total);
 }
 
-// What the printer's answer means to the operator. A mismatch of paper and ribbon that is found
-// before the sheet (0x0001) leaves the queue running; every other refusal pauses it.
+// What the printer's answer means to the operator. If paper and ribbon do not match (0x0001), the
+// queue goes on; every other refusal pauses it.
 struct Refusal {
   int code;
   bool pauses;
@@ -102,7 +101,7 @@ void report(const Refusal& refusal, int code) {
   std::fprintf(stderr, "ERROR: %s %#06x\n", refusal.error, static_cast<unsigned int>(code));
 }
 
-// Takes no memory: a printer that is ready gets its sheet.
+// Allocates no memory: a printer that is ready gets its sheet in any case.
 std::array<char, 32> code_name(int code) {
   std::array<char, 32> name{};
   const auto bits = static_cast<unsigned int>(code);
@@ -111,7 +110,7 @@ std::array<char, 32> code_name(int code) {
   return name;
 }
 
-// Any answer but busy: writes its lines, returns the check's result.
+// Writes the lines of any answer but busy, and returns the check's result.
 std::string classify(int code) {
   if (code == kReady) {
     std::fprintf(stderr, "DEBUG: %s\n", code_name(code).data());

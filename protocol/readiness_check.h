@@ -9,8 +9,8 @@
 
 #include "job/print_setting.h"
 
-/// One exchange on standard output and the back channel: the printer's enable code, 0 … 65535, or
-/// −1 when the query could not be written or the reply not be read. `out` is not used.
+/// One exchange on standard output and the back channel. Returns the printer's enable code, 0 …
+/// 65535, or −1 when the query could not be written or no reply could be read. `out` is not used.
 int wr_esc_enable(std::FILE* out, const tagPRINTSETTING* settings);
 
 /// Asks until the printer is no longer busy, for at most about three minutes, and reports what it

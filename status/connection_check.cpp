@@ -13,7 +13,7 @@ constexpr double kBidiTimeout = 30.0;  // seconds
 
 }  // namespace
 
-// The printer's answers are needed throughout the job: without a way back there is no printing.
+// The job needs the printer's answers all the time: nothing prints without a way back.
 bool connection_is_bidirectional() {
   char reply[512] = {};
   int length = sizeof reply;

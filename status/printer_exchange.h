@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The way of a request to the printer: into the print stream, then through the backend. The answer
-// comes back over the back channel, which each exchange reads by its own rule.
+// How a request gets to the printer: into the print stream, then through the backend. The answer
+// comes over the back channel, which each kind of exchange reads by its own rule.
 #ifndef TQR7_STATUS_PRINTER_EXCHANGE_H
 #define TQR7_STATUS_PRINTER_EXCHANGE_H
 
@@ -14,9 +14,9 @@ inline constexpr double kReplyTimeout = 1.0;          ///< seconds that one read
 /// fails.
 bool send_request(const unsigned char* request, std::size_t size);
 
-/// Has the backend pass on all it holds, the request included, within 5 seconds, and logs what it
-/// said. `buffer` of kReplyBufferSize bytes is overwritten. A backend that cannot say that it is
-/// done may have passed the request on all the same, so there is no result.
+/// Asks the backend to send all it holds, including the request, within 5 seconds, and logs its
+/// answer. Overwrites `buffer`, of kReplyBufferSize bytes. There is no result: a backend that
+/// cannot confirm may still have sent the request.
 void drain_output(char* buffer);
 
 #endif  // TQR7_STATUS_PRINTER_EXCHANGE_H

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// What is known of the printer's condition, as one small value.
+// The printer's condition as far as it is known, in one small value.
 #ifndef TQR7_STATUS_PRINTER_STATE_H
 #define TQR7_STATUS_PRINTER_STATE_H
 
 #include <cstdint>
 #include <string>
 
-/// Nothing usable from the printer, or its 16-bit error number (0: all is well), or a wildcard.
+/// The printer's 16-bit error number (0: all is well), or that it gave no usable reply, or a
+/// wildcard.
 class PrinterState {
  public:
   enum class Type : std::int32_t {
@@ -21,11 +22,12 @@ class PrinterState {
 
   static PrinterState Unavailable();
   static PrinterState Good();
-  /// With number 0 the same value as Good().
+  /// Error(0) is the same value as Good().
   static PrinterState Error(unsigned short number);
   static PrinterState Any();
 
-  /// The wildcard equals all; available states equal by number; unavailable ones equal each other.
+  /// The wildcard equals every state. Available states are equal if their numbers are. Unavailable
+  /// states equal each other.
   bool operator==(const PrinterState& other) const;
   bool operator!=(const PrinterState& other) const;
 

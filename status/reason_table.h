@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The printer's error numbers and the state-reason keywords that stand for them.
+// The printer's error numbers and the state-reason keywords that they raise.
 #ifndef TQR7_STATUS_REASON_TABLE_H
 #define TQR7_STATUS_REASON_TABLE_H
 
 #include <cstdint>
 
-/// One error number, or a run of them in one group, and what it raises.
+/// One error number, or a range of them in one group, and the keywords that it raises.
 struct PrinterStateReason {
   std::uint16_t error_high;  ///< error group
   std::uint16_t error_low;   ///< up to 0xFF: the detail; above: details (low byte) … (high byte)

@@ -80,7 +80,7 @@ void update_printer_state(const PrinterState& state) {
 
 namespace {
 
-// A text without a keyword still gives its one line, which then names none.
+// A text without a keyword also gets its line, which then names none.
 // strtok_r cuts up the copy.
 // cppcheck-suppress passedByValue
 void withdraw_each(std::string reasons) {
@@ -92,10 +92,10 @@ void withdraw_each(std::string reasons) {
   }
 }
 
-// Where Avahi runs, libcups also looks for printers on the network, for a quarter of a second,
-// before each sheet. Where the scheduler has named the job's queue, that queue is the default, and
-// libcups is kept from the bus on which it would find Avahi. A queue called "lp" is not taken from
-// PRINTER, and LPDEST comes first: then the default may be a printer of the network.
+// If Avahi runs, libcups also looks for printers on the network, which takes a quarter of a second
+// before each sheet. If the scheduler has named the job's queue, that queue is the default, and we
+// keep libcups away from the bus on which it finds Avahi. libcups takes LPDEST before PRINTER, and
+// ignores a PRINTER of "lp": then the default may be a printer on the network.
 void look_at_the_scheduler_only() {
   const char* queue = std::getenv("PRINTER");
   if (std::getenv("FINAL_CONTENT_TYPE") != nullptr && std::getenv("LPDEST") == nullptr &&

@@ -17,8 +17,8 @@ constexpr int kOffsetErrorGroup = 4;
 constexpr int kOffsetErrorDetail = 5;
 static_assert(STATUS_BUFFER_SIZE == kReplyBufferSize);
 
-// Bytes of the reply, or −1. Silence ends it at once: a printer that is there answers within the
-// second.
+// Bytes of the reply, or −1. The first silent second ends it: a printer that is there answers
+// earlier.
 int read_reply(char* buffer) {
   int total = 0;
   while (total < STATUS_REPLY_MIN) {
