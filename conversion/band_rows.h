@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A checked band as rows from top to bottom, whichever way its lines lie in memory.
+// A checked band as rows from top to bottom, in either order of its lines in memory.
 #ifndef TQR7_CONVERSION_BAND_ROWS_H
 #define TQR7_CONVERSION_BAND_ROWS_H
 
@@ -8,7 +8,7 @@
 
 #include "image/band_image.h"
 
-/// Rows of pixels; the owner of the memory is whoever filled the band record.
+/// Rows of pixels. The memory belongs to the caller who filled the band record.
 struct BandRows {
   unsigned char* topRow;  ///< first pixel of the top row
   std::ptrdiff_t step;    ///< bytes from a row to the row below it
@@ -18,7 +18,7 @@ struct BandRows {
   unsigned char* row(std::size_t y) const { return topRow + static_cast<std::ptrdiff_t>(y) * step; }
 };
 
-/// The rows of a band that check_request() has passed: its numbers are relied on here.
+/// The rows of a band that check_request() has accepted: nothing is checked again here.
 inline BandRows rows_of(const tagMVBandImageParams& band) {
   const auto height = band.rcBand.bottom - band.rcBand.top;
   const auto width = band.rcBand.right - band.rcBand.left;

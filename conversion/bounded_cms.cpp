@@ -9,19 +9,19 @@
 
 namespace {
 
-/// The object whose context is being made in this thread: Little CMS asks for a context's first
-/// block before it can tell the context's owner.
+/// The object whose context is being made in this thread: Little CMS allocates a context's first
+/// block before it passes on the context's owner.
 thread_local BoundedCms* beingMade = nullptr;
 
 void say_nothing(cmsContext /*context*/, cmsUInt32Number /*code*/, const char* /*text*/) {}
 
 }  // namespace
 
-/// Stands before each block.
+/// The head of each block.
 struct alignas(std::max_align_t) BoundedCms::Block {
   BoundedCms* owner;
   std::size_t whole;  ///< bytes with this head, a multiple of its alignment
-  bool isBeginning;   ///< lies in beginning_
+  bool isBeginning;   ///< the block is in beginning_
   Block* previous;
   Block* next;
 };
@@ -58,7 +58,7 @@ const char* BoundedCms::run(const char* (*work)(cmsContext context, void* argume
   if (context_ == nullptr) {
     return noMemory;
   }
-  // The frames between are a C library's, which exceptions may not cross.
+  // The frames in between belong to a C library, which no exception may cross.
   if (setjmp(refusal_) != 0) {  // NOLINT(cert-err52-cpp)
     running_ = false;
     return noMemory;
@@ -108,7 +108,7 @@ void* BoundedCms::take(cmsContext context, cmsUInt32Number size) {
   auto* owner =
       beingMade != nullptr ? beingMade : static_cast<BoundedCms*>(cmsGetContextUserData(context));
   constexpr std::size_t kStep = alignof(Block);
-  // A profile may ask for nearly 4 GiB: with the head that is more than 32 bits hold.
+  // A profile may ask for nearly 4 GiB: together with the head this needs more than 32 bits.
   const std::uint64_t whole = sizeof(Block) + (std::uint64_t{size} + kStep - 1) / kStep * kStep;
   Block* block = owner->allocate(whole);
   if (block == nullptr && owner->running_) {

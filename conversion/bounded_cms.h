@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Little CMS with a limit to its memory and without a voice: what a profile from outside may be
-// read with, since a small file can ask for large tables.
+// Little CMS with a limit on its memory, and without messages. A profile from outside is read with
+// it, because a small file can ask for large tables.
 #ifndef TQR7_CONVERSION_BOUNDED_CMS_H
 #define TQR7_CONVERSION_BOUNDED_CMS_H
 
@@ -14,12 +14,12 @@
 #include <cstdint>
 #include <span>
 
-/// A Little CMS context of its own for one piece of work: nothing it does touches the context that
-/// the rest of the process may use, it writes no message, and its memory is limited.
+/// A separate Little CMS context for one piece of work. It does not touch the context that the rest
+/// of the process may use, writes no message, and its memory is limited.
 ///
-/// Little CMS does not look at every block that it asks for, and uses a null pointer here and
-/// there. So a request that cannot be granted never returns: run() ends the work there and then.
-/// All memory belongs to this object and goes with it, whatever the work has left open.
+/// Little CMS does not check every allocation, and sometimes uses a null pointer. So a request that
+/// cannot be granted never returns: run() ends the work at that point. All memory belongs to this
+/// object, which releases it with everything that the work has left open.
 class BoundedCms {
  public:
   /// `limit`: bytes that the work may take, beside kBeginning.
@@ -28,15 +28,15 @@ class BoundedCms {
   BoundedCms(const BoundedCms&) = delete;
   BoundedCms& operator=(const BoundedCms&) = delete;
 
-  /// Does `work(context, argument)`, and gives what it returns; `noMemory` when it could not be
-  /// done within the limit. The work may be left at any call of Little CMS, without its frames
-  /// being cleaned up: no object with a destructor may live across one.
+  /// Calls `work(context, argument)` and returns its result, or `noMemory` when the limit is too
+  /// low for it. The work may end at any call of Little CMS without running destructors: no object
+  /// that has one may exist during such a call.
   const char* run(const char* (*work)(cmsContext context, void* argument), void* argument,
                   const char* noMemory);
 
  private:
   struct Block;
-  /// What a context takes for itself comes from here, so that making one cannot fail.
+  /// The context's own memory comes from here, so that making one cannot fail.
   static constexpr std::size_t kBeginning = 32768;
 
   static void* take(cmsContext context, cmsUInt32Number size);
@@ -55,8 +55,8 @@ class BoundedCms {
   cmsContext context_ = nullptr;
 };
 
-/// Bytes in memory as a file to Little CMS, which for its own kind of such file takes a second copy
-/// of them. Must outlive the profile that is opened with it.
+/// Bytes in memory, as a file for Little CMS. Little CMS's own file in memory would copy them. Must
+/// outlive the profile that is opened with it.
 class MemoryFile {
  public:
   MemoryFile(cmsContext context, std::span<const unsigned char> bytes);

@@ -6,8 +6,8 @@
 
 #include "conversion/colour_table.h"
 
-/// What make_colour_table() makes of printer_model_profile(): constant data, ready without Little
-/// CMS.
+/// The table that make_colour_table() makes of printer_model_profile(): constant data, which needs
+/// no Little CMS at run time.
 const ColourTable& builtin_table();
 
 #endif  // TQR7_CONVERSION_BUILTIN_TABLE_H

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// What MVChangeImage returns, number by number: the filter's log shows them.
+// The numbers that MVChangeImage returns. The filter's log shows them.
 #ifndef TQR7_CONVERSION_CHANGE_CODES_H
 #define TQR7_CONVERSION_CHANGE_CODES_H
 
-/// 0 for a converted page. In every other code the tens tell what was wrong (1 a pointer, 2 the
-/// source, 3 the destination, 4 the matte band, 5 this computer), and nothing has been written.
-/// When several things are wrong the lowest code is returned.
+/// 0 for a converted page. The tens of every other code say what is wrong: 1 a pointer, 2 the
+/// source, 3 the destination, 4 the matte band, 5 this computer. Then nothing was written. When
+/// several things are wrong, the lowest code is returned.
 enum ChangeCode : long {
   kChangeDone = 0,
 
@@ -32,7 +32,7 @@ enum ChangeCode : long {
   kChangeMatteTooLarge = 43,
   kChangeMatteShortStride = 44,
 
-  kChangeNoMemory = 51,  ///< the few lines of working memory cannot be had
+  kChangeNoMemory = 51,  ///< no memory for a few lines to work on
 };
 
 #endif  // TQR7_CONVERSION_CHANGE_CODES_H

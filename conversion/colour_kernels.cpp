@@ -28,10 +28,10 @@ constexpr int kCellShift = 9;
 constexpr std::size_t kBlock = 2 * kLineMargin;
 constexpr std::size_t kPixelBytes = 3 * sizeof(EngineSample);
 
-/// Where a block's pixels lie in the table, and how much of each of their cell's corners they take.
-/// The way from the black corner to the white one goes along the axis with the largest fraction
-/// first: corner 0, corner 1 after that axis, corner 2 ahead of the axis with the smallest,
-/// corner 3.
+/// For each pixel of a block: its cell in the table, and the shares of four of the cell's corners.
+/// They are on the way from the black corner (0) to the white one (3). The way first goes along the
+/// axis with the largest fraction, to corner 1, and last along the one with the smallest, from
+/// corner 2.
 struct Block {
   alignas(64) std::uint16_t corner[kBlock];      ///< node of the cell's black corner
   alignas(64) std::uint16_t first[kBlock];       ///< node of corner 1
@@ -40,8 +40,8 @@ struct Block {
   alignas(64) std::uint16_t rest[2 * kBlock];    ///< of corners 2 and 3
 };
 
-/// From a scale on which white is 16320 to one on which it is 16384, rounded: for n within 0 …
-/// 16320 that is n + n / 255, and (n + 128 + (n + 128) / 256) / 256 is n / 255 to the nearest.
+/// From a scale whose white is 16320 to one whose white is 16384, rounded. For n in 0 … 16320 this
+/// is n + n / 255, and (n + 128 + (n + 128) / 256) / 256 is n / 255 rounded.
 HWY_INLINE Numbers Widen(Numbers number) {
   const auto biased = hn::Add(number, hn::Set(Wide(), std::uint16_t{128}));
   return hn::Add(number, hn::ShiftRight<8>(hn::Add(biased, hn::ShiftRight<8>(biased))));
@@ -59,7 +59,7 @@ HWY_INLINE Numbers PlacesAt(const std::uint16_t* numbers) {
   }
 }
 
-/// The last grid point has no cell of its own: white is the far end of the last cell.
+/// No cell begins at the last grid point: white is the far end of the last cell.
 HWY_INLINE Numbers CellOf(Numbers position) {
   return hn::Min(hn::ShiftRight<kCellShift>(position),
                  hn::Set(Wide(), std::uint16_t{kGridPoints - 2}));
@@ -69,8 +69,8 @@ HWY_INLINE Numbers FractionOf(Numbers position, Numbers cell) {
   return hn::Sub(position, hn::ShiftLeft<kCellShift>(cell));
 }
 
-/// Of axes with equal fractions any may be taken for the largest or the smallest: the corner that
-/// this decides on gets no share.
+/// Of axes with equal fractions any may count as the largest or the smallest: the corner that
+/// depends on it gets no share.
 template <LineScale kScale>
 HWY_INLINE void LocateVector(const LinePlanes& line, std::size_t x, Block& block, std::size_t i) {
   const Wide d;
@@ -143,8 +143,8 @@ HWY_INLINE std::uint64_t MixBlock(const ColourTable& table, const Block& block, 
 
 using Pair = hn::Full128<std::int16_t>;  // two pixels' samples, four numbers each
 
-/// a[0] × b[0] + a[1] × b[1], and so on for each two neighbours. Some processors add them up at
-/// once, others leave a part in `rest`.
+/// a[0] × b[0] + a[1] × b[1], and so on for each two neighbours. Some processors add both products
+/// at once, others leave a part in `rest`.
 template <typename V>
 HWY_INLINE auto MultiplyNeighbours(V a, V b) {
   const hn::RepartitionToWide<hn::DFromV<V> > d;
@@ -153,7 +153,7 @@ HWY_INLINE auto MultiplyNeighbours(V a, V b) {
   return hn::RearrangeToOddPlusEven(sums, rest);
 }
 
-/// The samples of which these are 512ths, rounded.
+/// Samples from 512ths of samples, rounded.
 template <typename V>
 HWY_INLINE V Rounded(V sums) {
   const hn::DFromV<V> d;
@@ -167,7 +167,7 @@ HWY_INLINE V WithinScale(V samples) {
                  hn::Set(d, static_cast<std::int16_t>(kEngineWhite)));
 }
 
-/// Leaves out each pixel's fourth number; each half ends in four bytes of no use.
+/// Drops each pixel's fourth number. The last four bytes of each half are of no use.
 template <typename V>
 HWY_INLINE auto Pack(V mixed) {
   alignas(16) static constexpr std::uint8_t kOrder[16] = {0,  1,  2,  3,  4, 5, 8, 9,
@@ -179,7 +179,7 @@ HWY_INLINE auto Pack(V mixed) {
 #if HWY_ARCH_X86 && HWY_MAX_BYTES >= 32
 
 // Four pixels at a time: pixels 0 and 2 in the halves of one vector, 1 and 3 in those of another.
-// Put together half by half, they come out in their order.
+// Joined half by half, they are in order.
 constexpr std::size_t kAtOnce = 4;
 using Four = hn::FixedTag<std::int16_t, 16>;
 using FourBytes = hn::Repartition<std::uint8_t, Four>;
@@ -193,8 +193,7 @@ alignas(32) constexpr std::uint8_t kSharesOfOdd[32] = {4,  5,  6,  7,  4,  5,  6
                                                        7,  4,  5,  6,  7,  12, 13, 14, 15, 12, 13,
                                                        14, 15, 12, 13, 14, 15, 12, 13, 14, 15};
 
-// Each node is read together with eight bytes behind it; behind the last one the table is filled
-// up.
+// A node is read together with the eight bytes after it. After the last node the table is padded.
 static_assert(sizeof(ColourTable) >= sizeof(ColourTable::nodes) + sizeof(ColourNode));
 
 /// Pixel i's node in the lower half, pixel i + 2's in the upper.
@@ -278,8 +277,8 @@ HWY_INLINE void StoreMixed(hn::Vec<Pair> mixed, unsigned char* samples) {
 
 #endif  // HWY_ARCH_X86 && HWY_MAX_BYTES >= 32
 
-/// Writes the block's `count` pixels and returns their sum. `samples` has room for `room` pixels; a
-/// little more is written than was mixed, so the last ones that fit go by way of a buffer.
+/// Writes the block's `count` pixels and returns their sum. `samples` has room for `room` pixels. A
+/// write may reach past its pixels, so the last ones go through a buffer.
 HWY_INLINE std::uint64_t MixBlock(const ColourTable& table, const Block& block, std::size_t count,
                                   std::size_t room, unsigned char* samples) {
   using Mixed = hn::DFromV<decltype(Mix(table, block, 0))>;

@@ -9,13 +9,12 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Grid points along each of red, green and blue: point i stands for the sRGB-encoded level i / 32.
+/// Grid points along each of red, green and blue: point i is the sRGB-encoded level i / 32.
 inline constexpr std::size_t kGridPoints = 33;
 
-/// Engine samples of R, G and B, and a 0 that makes the node eight bytes. They are not clipped: a
-/// colour that the printer cannot print may lie outside 0 … 0x3FFF, and is clipped after the
-/// interpolation. So the bend where clipping sets in lies where it belongs, and is not spread over
-/// the cells around it.
+/// Engine samples of R, G and B, and a 0 that makes the node eight bytes. They are not clipped: the
+/// samples of a colour that the printer cannot print may be outside 0 … 0x3FFF. They are clipped
+/// after the interpolation, so that clipping begins at the right colour, not at a grid point.
 using ColourNode = std::array<std::int16_t, 4>;
 
 /// Node (r, g, b) is nodes[(r * kGridPoints + g) * kGridPoints + b]. White is 0x3FFF three times.

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// What the print engine takes: one channel's amount of light, 14 bits of 16.
+// The print engine's samples: one channel's amount of light, in 14 of 16 bits.
 #ifndef TQR7_CONVERSION_ENGINE_SAMPLE_H
 #define TQR7_CONVERSION_ENGINE_SAMPLE_H
 
 #include <cstdint>
 
-/// Black is 0; in a page the bytes are in the machine's own order.
+/// Black is 0. A page has the bytes in the machine's own order.
 using EngineSample = std::uint16_t;
 inline constexpr EngineSample kEngineWhite = 0x3FFF;
 

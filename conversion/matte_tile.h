@@ -7,8 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Dots along each side (22 mm at 300 dpi): twice the distance within which nothing may repeat, and
-/// 64 KiB, which stay in a processor's cache.
+/// Dots along each side (22 mm at 300 dpi): twice the distance within which nothing may repeat. The
+/// tile has 64 KiB, which fit into a processor's cache.
 inline constexpr std::size_t kMatteTileSide = 256;
 
 /// Overcoat of each dot, rows from the top.

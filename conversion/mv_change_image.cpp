@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The library's one operation: checks the request, takes the memory it needs, then converts the
-// page and lays the matte texture.
+// The library's one operation: checks the request, allocates all memory, then converts the page and
+// writes the matte texture.
 #include "image/mv_change_image.h"
 
 #include "conversion/band_rows.h"

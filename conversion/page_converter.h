@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// One page's way from the photo's bytes to the print engine's samples, a line at a time:
-// sharpening, tone, colour. All that is held beside the page is a few lines and the tables.
+// Converts one page from the photo's bytes to the print engine's samples, a line at a time:
+// sharpening, tone, colour. It keeps only a few lines and the tables in memory.
 #ifndef TQR7_CONVERSION_PAGE_CONVERTER_H
 #define TQR7_CONVERSION_PAGE_CONVERTER_H
 
@@ -19,8 +19,8 @@
 
 class PageConverter {
  public:
-  /// Takes all memory that a page of this width needs, and works out its tables: after that a page
-  /// is converted whole. False when there is not the memory.
+  /// Allocates all memory that a page of this width needs, and computes its tables: after that the
+  /// conversion cannot fail. False without memory.
   bool prepare(const tagMVChangeParams& params, std::size_t width);
 
   /// Converts the page, and returns the sum of the samples written. Only once after prepare().
@@ -32,8 +32,8 @@ class PageConverter {
 
   bool sharpen_ = false;
   bool conversion_ = false;   ///< colours go through the printer's table
-  bool neutralTone_ = false;  ///< the sliders need no tables on the way to the printer's
-  bool onlyWiden_ = false;    ///< nothing is asked for: bytes only change their scale
+  bool neutralTone_ = false;  ///< the tone sliders need no tables
+  bool onlyWiden_ = false;    ///< no change is requested: only the scale changes
   LineScale scale_ = LineScale::kPlaces;
   int strength_ = 0;
   LinePlanes line_{};

@@ -22,7 +22,7 @@ using WideSigned = hn::RebindToSigned<Wide>;
 using Bytes = hn::Rebind<std::uint8_t, Wide>;
 using Numbers = hn::Vec<Wide>;
 
-/// The channels of as many pixels as a vector holds.
+/// The channels of one vector of pixels.
 struct Pixels {
   Numbers red, green, blue;
 };
@@ -37,7 +37,7 @@ HWY_INLINE Pixels LoadPixels(const unsigned char* rgb) {
   return {hn::PromoteTo(d, red), hn::PromoteTo(d, green), hn::PromoteTo(d, blue)};
 }
 
-/// Calls body(x, pixels) for each vector of a line; the last one is filled up with black.
+/// Calls body(x, pixels) for each vector of a line. The last one is padded with black.
 template <typename Body>
 HWY_INLINE void ForEachVector(const unsigned char* rgb, std::size_t pixels, Body body) {
   const std::size_t lanes = hn::Lanes(Wide());
@@ -76,7 +76,7 @@ void LumaLine(const unsigned char* rgb, std::size_t pixels, std::uint16_t* luma)
   });
 }
 
-/// At most 16 × kFineWhite and a half: just within 16 bits.
+/// At most 16 × kFineWhite and a half, which just fits into 16 bits.
 HWY_INLINE Numbers Weigh(Numbers a, Numbers b, Numbers c, Numbers d, Numbers e) {
   const auto outer = hn::Add(a, e);
   const auto inner = hn::ShiftLeft<2>(hn::Add(hn::Add(b, d), c));

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // The inner loops that read the photo and sharpen it, a line at a time, in the widest vectors that
-// the processor has. Every processor gives the same numbers.
+// the processor has. The numbers are the same on every processor.
 //
-// Lines of numbers have kLineMargin numbers of room to each side, which the loops may overwrite.
+// A line has kLineMargin more numbers on each side, which the loops may overwrite.
 #ifndef TQR7_CONVERSION_PHOTO_KERNELS_H
 #define TQR7_CONVERSION_PHOTO_KERNELS_H
 
@@ -13,7 +13,7 @@
 
 #include "conversion/line_planes.h"
 
-/// Takes `pixels` R, G, B bytes apart.
+/// Splits `pixels` R, G, B bytes into planes.
 void split_line(const unsigned char* rgb, std::size_t pixels, const LinePlanes& line);
 
 /// The fine scale: sixteen steps to each of the photo's 8-bit ones, white 4080.
@@ -24,20 +24,21 @@ inline constexpr std::uint16_t kFineWhite = 255 * kFineSteps;
 /// weights of ITU-R BT.709 in 1/256.
 void luma_line(const unsigned char* rgb, std::size_t pixels, std::uint16_t* luma);
 
-/// Weighs each number with its neighbours along the line: 1 4 6 4 1 sixteenths, rounded. Beyond an
-/// end the end counts on; `line`'s margins are set to it. A flat line comes out as it went in.
+/// The weighted mean of each number and its neighbours along the line: 1 4 6 4 1 sixteenths,
+/// rounded. Past an end the number at the end is repeated; `line`'s margins are set to it. A flat
+/// line does not change.
 void blur_along(std::uint16_t* line, std::size_t pixels, std::uint16_t* blurred);
 
-/// The same across five lines, above to below.
+/// The same across five lines, from top to bottom.
 void blur_across(const std::array<const std::uint16_t*, 5>& lines, std::size_t pixels,
                  std::uint16_t* blurred);
 
-/// How far luma may differ from its surroundings and still be left alone: three 8-bit steps, which
-/// is where the grain of skies and skin ends.
+/// Smaller differences between a pixel's luma and its surroundings are not sharpened: three 8-bit
+/// steps, the most that the grain of skies and skin has.
 inline constexpr std::uint16_t kSharpeningThreshold = 3 * kFineSteps;
 
-/// Sharpens one line: each pixel's luma less its blurred luma, less the threshold, times strength /
-/// 8, is added to all three of its channels, which are kept within 0 … kFineWhite. `strength` is
+/// Sharpens one line: each pixel's luma minus its blurred luma, minus the threshold, times strength
+/// / 8, is added to all three of its channels, which are limited to 0 … kFineWhite. `strength` is
 /// 0 … 7.
 void sharpen_line(const unsigned char* rgb, const std::uint16_t* blurred, std::size_t pixels,
                   int strength, const LinePlanes& fine);

@@ -16,7 +16,7 @@ namespace {
 
 constexpr const char* kNoMemory = "there is no memory";
 
-/// The last profile that was not the model's, with what came of it: a table, or a fault.
+/// The last profile that was not the model's, and the table or the fault that it led to.
 struct Kept {
   std::mutex lock;
   unsigned char* content = nullptr;  ///< null: none
@@ -25,14 +25,14 @@ struct Kept {
   ColourTable table;
 };
 
-/// Never destroyed: a process may end in the middle of its use, in another thread or by a signal.
+/// Never destroyed: a process may end while another thread uses it, or by a signal.
 Kept& kept_profile() {
   alignas(Kept) static std::array<std::byte, sizeof(Kept)> place;
   static Kept* const kept = new (place.data()) Kept;
   return *kept;
 }
 
-/// Puts the file's profile in the place of the one that is kept.
+/// Replaces the profile that is kept with the file's.
 const char* keep(const ProfileFile& file, Kept& kept) {
   delete[] kept.content;
   kept.content = nullptr;
@@ -50,7 +50,7 @@ const char* keep(const ProfileFile& file, Kept& kept) {
   return kept.fault;
 }
 
-/// The table of an owner's profile, into `table`. Null, or why there is none.
+/// Copies the table of an owner's profile into `table`. Returns null, or why there is none.
 const char* take_owners_table(const ProfileFile& file, std::unique_ptr<ColourTable>& table) {
   Kept& kept = kept_profile();
   const std::lock_guard<std::mutex> guard(kept.lock);
@@ -63,7 +63,7 @@ const char* take_owners_table(const ProfileFile& file, std::unique_ptr<ColourTab
   return table == nullptr ? kNoMemory : nullptr;
 }
 
-/// A path for the log: its beginning, and no character that would break the line.
+/// A path for the log: its beginning, without characters that would break the line.
 struct ShownPath {
   std::array<char, 1001> text{};
   const char* separator = "/";

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The colour table for a page: of the profile in the module directory, or of the compiled-in model.
+// The colour table for a page: from the profile in the module directory or the compiled-in model.
 #ifndef TQR7_CONVERSION_PRINTER_TABLE_H
 #define TQR7_CONVERSION_PRINTER_TABLE_H
 
@@ -12,15 +12,15 @@
 /// One page's colour table. Any number of threads may each have their own.
 class PrinterTable {
  public:
-  /// Takes the table of tqr7.icc in this directory, whose path may be null. This never fails: where
-  /// the file is missing, damaged or not to be trusted, and where there is no memory, it takes the
-  /// model's table. The first time in a process that a profile is refused, one line on standard
-  /// error says so. The last profile's table is kept in the process, and serves again while the
-  /// file's content is the same.
+  /// Loads the table of tqr7.icc in this directory, whose path may be null. This never fails: it
+  /// loads the model's table when the file is missing, damaged or not to be trusted, or without
+  /// memory. The first time in a process that a profile is refused, one line on standard error says
+  /// so. The last profile's table stays in the process, and is used again while the file's content
+  /// is the same.
   void load(const char* modulePath) noexcept;
 
-  /// The table that load() took, the model's before it. Stays as it is until the next load() of
-  /// this object, whatever becomes of the file.
+  /// The table that load() loaded; the model's before the first load(). It does not change until
+  /// the next load() of this object, even if the file does.
   const ColourTable& table() const { return owners_ != nullptr ? *owners_ : builtin_table(); }
 
  private:

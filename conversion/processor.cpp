@@ -12,7 +12,7 @@
 
 namespace {
 
-/// A target, and the features without which it must not run.
+/// A target, and the features that it needs.
 struct Version {
   std::int64_t target;
   unsigned needs;
@@ -22,7 +22,7 @@ constexpr unsigned kForSse4 = kSsse3 | kSse42 | kPclmul | kAes;
 constexpr unsigned kForAvx2 = kForSse4 | kAvx2 | kBmi | kBmi2 | kFma | kF16c;
 constexpr unsigned kForAvx3 = kForAvx2 | kAvx512f | kAvx512vl | kAvx512dq | kAvx512bw | kAvx512cd;
 
-/// Best first. Elsewhere than on x86 what every processor of the kind has (NEON) serves.
+/// Best first. Only x86 has several: elsewhere every processor of the kind has what we use (NEON).
 constexpr Version kVersions[] = {
     {HWY_AVX3, kForAvx3}, {HWY_AVX2, kForAvx2}, {HWY_SSE4, kForSse4}, {HWY_SSSE3, kSsse3}};
 
@@ -40,7 +40,7 @@ int has_half_floats() {
   return static_cast<int>(__get_cpuid(1, &a, &b, &c, &d) != 0 && (c & bit_F16C) != 0);
 }
 
-/// The operating system's part, saving the wide registers, is in the compiler's answers.
+/// The compiler's answers also say whether the operating system saves the wide registers.
 unsigned features_here() {
   return bit_if(__builtin_cpu_supports("ssse3"), kSsse3) |
          bit_if(__builtin_cpu_supports("sse4.2"), kSse42) |

@@ -2,16 +2,16 @@
 //
 // Which of the inner loops' versions this computer's processor runs.
 //
-// Highway compiles the loops for each kind of processor. Its own choice among them comes with a
-// library that measures the processor's clock for some milliseconds whenever a program starts: as
-// long as the whole filter takes to start. So the choice is made here.
+// Highway compiles the loops for each kind of processor. Its own choice among them needs a library
+// that measures the processor's clock for some milliseconds at each start of a program. That is as
+// long as the start of the whole filter. So the choice is made here.
 #ifndef TQR7_CONVERSION_PROCESSOR_H
 #define TQR7_CONVERSION_PROCESSOR_H
 
 #include <cstdint>
 #include <vector>
 
-/// What Highway lets the compiler use for one version or another on x86, a bit each.
+/// The features that Highway lets the compiler use in the x86 versions, a bit each.
 enum ProcessorFeature : unsigned {
   kSsse3 = 1U << 0U,
   kSse42 = 1U << 1U,
@@ -33,15 +33,15 @@ enum ProcessorFeature : unsigned {
 /// last.
 std::vector<std::int64_t> targets_for(unsigned features);
 
-/// One of Highway's targets (HWY_AVX2, …): the best that was compiled and that runs here. 0 where
-/// nothing beyond what every processor of this kind has was compiled.
+/// One of Highway's targets (HWY_AVX2, …): the best that was compiled and that runs here. 0 if only
+/// the version for every processor of this kind was compiled.
 std::int64_t processor_target();
 
-/// targets_for() this computer.
+/// targets_for() of this computer.
 std::vector<std::int64_t> usable_targets();
 
-/// Has the loops run as on that processor, for holding them against each other. Only one of
-/// usable_targets(), and not while another thread converts.
+/// Makes the loops run as on that processor, to compare the versions with each other. Takes only
+/// one of usable_targets(), and only while no other thread converts.
 void use_target(std::int64_t target);
 
 #endif  // TQR7_CONVERSION_PROCESSOR_H

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t kPiece = 16384;
 
-// A directory that may be searched but not listed serves as well.
+// A directory that may be searched but not listed is enough.
 #ifdef O_PATH
 constexpr int kDirectoryAccess = O_PATH;
 #else
@@ -68,7 +68,7 @@ const char* fault_of_status(const struct stat& status) {
   return nullptr;
 }
 
-/// Reads up to `size` bytes from this offset on: as many as there are, or a negative number.
+/// Reads up to `size` bytes at this offset. Returns how many it read, or a negative number.
 ssize_t read_at(int descriptor, std::size_t offset, unsigned char* bytes, std::size_t size) {
   ssize_t got = -1;
   do {
@@ -90,7 +90,7 @@ bool read_all(int descriptor, std::size_t offset, unsigned char* bytes, std::siz
   return true;
 }
 
-/// True when nothing lies behind the first `size` bytes.
+/// True when the file has nothing after its first `size` bytes.
 bool ends_at(int descriptor, std::size_t size) {
   unsigned char more = 0;
   return read_at(descriptor, size, &more, 1) == 0;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The printer's profile as a file in the module directory, read as a thing that anybody may have
-// put there: a device, a pipe nobody writes to, or a file without end.
+// The printer's profile, a file in the module directory. Anybody may have put anything there: a
+// device, a pipe that nobody writes to, or a file without end.
 #ifndef TQR7_CONVERSION_PROFILE_FILE_H
 #define TQR7_CONVERSION_PROFILE_FILE_H
 
@@ -15,7 +15,7 @@ inline constexpr const char* kProfileName = "tqr7.icc";
 inline constexpr std::size_t kSmallestProfile = 128;
 inline constexpr std::size_t kLargestProfile = std::size_t{4} << 20;
 
-/// An open profile. None of its calls waits for anything but the disk.
+/// An open profile. Its calls wait for nothing but the disk.
 class ProfileFile {
  public:
   ProfileFile() = default;
@@ -24,19 +24,18 @@ class ProfileFile {
   ProfileFile& operator=(const ProfileFile&) = delete;
 
   /// Opens the profile in this directory, whose path may end in "/" or not. Only a regular file
-  /// within the limits of size is taken. Null, or why not in a few words. That there is no such
-  /// file, or no such directory, is no fault: then nothing is open.
+  /// within the limits of size is taken. Returns null, or why not in a few words. A missing
+  /// file or directory is no fault: then nothing is open.
   const char* open_in(const char* directory);
   bool is_open() const { return descriptor_ >= 0; }
 
   /// Bytes, as they were when the file was opened.
   std::size_t size() const { return size_; }
 
-  /// True when the file has this content. Needs no memory but a small piece.
+  /// True when the file has this content. Needs only a small buffer.
   bool has_content(std::span<const unsigned char> content) const;
 
-  /// Reads all size() bytes. False when they cannot be read, or when the file has become shorter or
-  /// longer meanwhile.
+  /// Reads all size() bytes. False when they cannot be read, or the file's length has changed.
   bool read(unsigned char* content) const;
 
  private:

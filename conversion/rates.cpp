@@ -5,7 +5,7 @@
 
 namespace {
 
-/// 100 × part / whole to the nearest whole number, halves upwards.
+/// 100 × part / whole, rounded to the nearest whole number; halves are rounded up.
 unsigned char per_cent(std::uint64_t part, std::uint64_t whole) {
   return static_cast<unsigned char>((200 * part + whole) / (2 * whole));
 }

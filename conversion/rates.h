@@ -9,7 +9,7 @@
 /// The overcoat rate of a page without a matte plane: overcoat everywhere.
 inline constexpr unsigned char kFullOvercoat = 100;
 
-/// A sum of values and how many they are. 16 GiB of samples stay far below 2^64.
+/// A sum of values and their number. The sum of 16 GiB of samples is far below 2^64.
 struct RateSum {
   std::uint64_t total = 0;
   std::uint64_t count = 0;

@@ -3,7 +3,7 @@
 
 namespace {
 
-/// The codes of one band's faults.
+/// The codes for the faults of one band.
 struct BandCodes {
   ChangeCode noPixels;
   ChangeCode empty;
@@ -11,13 +11,13 @@ struct BandCodes {
   ChangeCode shortStride;
 };
 
-/// Edges may lie anywhere in 64 bits: their distance only fits into the unsigned type. Only for
+/// The edges may be any 64-bit numbers: their distance fits only into the unsigned type. Only for
 /// low < high.
 std::uint64_t distance(std::int64_t low, std::int64_t high) {
   return static_cast<std::uint64_t>(high) - static_cast<std::uint64_t>(low);
 }
 
-/// |value|, for the lowest number of all too.
+/// |value|, also of the lowest number.
 std::uint64_t magnitude(std::int64_t value) {
   const auto bits = static_cast<std::uint64_t>(value);
   return value < 0 ? 0 - bits : bits;
@@ -35,7 +35,7 @@ ChangeCode check_band(const tagMVBandImageParams& band, std::uint64_t bytesPerPi
   const std::uint64_t width = distance(rect.left, rect.right);
   const std::uint64_t height = distance(rect.top, rect.bottom);
   const std::uint64_t stride = magnitude(band.lStride);
-  // Divided, not multiplied: products of such numbers can wrap around to small ones.
+  // A division: a product of such numbers can wrap around to a small one.
   const std::uint64_t longestLine = kLargestBand / height;
   if (width > longestLine / bytesPerPixel || stride > longestLine) {
     return codes.tooLarge;

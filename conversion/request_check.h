@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The one place where a caller's arguments are doubted; everything behind it relies on them.
+// The one place that checks a caller's arguments. All later code relies on them.
 #ifndef TQR7_CONVERSION_REQUEST_CHECK_H
 #define TQR7_CONVERSION_REQUEST_CHECK_H
 
@@ -17,9 +17,9 @@ inline constexpr std::uint64_t kSourceBytesPerPixel = 3;
 inline constexpr std::uint64_t kDestinationBytesPerPixel = 6;
 inline constexpr std::uint64_t kMatteBytesPerPixel = 1;
 
-/// kChangeDone when a page can be converted from and to what the arguments describe, else the code
-/// of the first fault. Takes MVChangeImage's arguments as they come; reads no pixel and writes
-/// nothing. Whether the buffers are as long as their records say cannot be seen from here.
+/// Checks MVChangeImage's arguments. Returns kChangeDone when such a page can be converted, else
+/// the code of the first fault. Reads no pixel and writes nothing. It cannot see whether the
+/// buffers are as long as their records say.
 ChangeCode check_request(const tagMVBandImageParams* source, const tagMVChangeParams* params,
                          const tagMVBandImageParams* destination, const tagMVBandImageParams* matte,
                          const unsigned char* rgbRate, const unsigned char* opRate);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// How a file of inner loops calls the version for this processor. For such files alone, at their
-// end, where all versions have been compiled.
+// How a file of inner loops calls the version for this processor. Only such files include it, at
+// their end, after all versions have been compiled.
 #ifndef TQR7_CONVERSION_RUN_ON_PROCESSOR_H
 #define TQR7_CONVERSION_RUN_ON_PROCESSOR_H
 
@@ -43,7 +43,7 @@
 #define TQR7_ON_SSSE3(call)
 #endif
 
-/// Returns what `call`, a call of a function in the targets' namespaces, returns on this processor.
+/// Runs `call`, a call of a function in the targets' namespaces, in the version for this processor.
 #define TQR7_RUN_ON_PROCESSOR(call)       \
   do {                                    \
     switch (processor_target()) {         \

@@ -52,7 +52,7 @@ std::uint64_t SamplesOfBytes(const unsigned char* rgb, std::size_t pixels, unsig
 
 using Sums = hn::RepartitionToWide<Wide>;
 
-/// So many numbers of 16 bits add up within 32.
+/// The sum of so many 16-bit numbers fits into 32 bits.
 constexpr std::size_t kMostToAdd = 65536;
 
 HWY_INLINE hn::Vec<Sums> AddTo(hn::Vec<Sums> sums, Numbers numbers) {
@@ -96,14 +96,13 @@ std::uint64_t JoinLine(const LinePlanes& line, std::size_t pixels, unsigned char
   return sum;
 }
 
-/// n / 255 to the nearest, for n within 0 … 16320.
+/// n / 255 rounded, for n in 0 … 16320.
 HWY_INLINE Numbers Over255(Numbers n) {
   const auto biased = hn::Add(n, hn::Set(Wide(), std::uint16_t{128}));
   return hn::ShiftRight<8>(hn::Add(biased, hn::ShiftRight<8>(biased)));
 }
 
-/// round(n × 16383 / 255) is 64 n and 63 n / 255 to the nearest: 255 is odd, so that no quotient
-/// lies between two numbers.
+/// round(n × 16383 / 255) is 64 n + round(63 n / 255). 255 is odd, so no quotient is a half.
 HWY_INLINE Numbers SamplesOf(Numbers bytes) {
   return hn::Add(hn::ShiftLeft<6>(bytes), Over255(hn::Sub(hn::ShiftLeft<6>(bytes), bytes)));
 }
@@ -127,7 +126,7 @@ std::uint64_t SamplesOfSome(const unsigned char* bytes, std::size_t count, unsig
     const auto numbers = SamplesOf(hn::PromoteTo(d, hn::LoadU(narrow, rest)));
     hn::StoreU(numbers, d, last);
     std::memcpy(samples + 2 * i, last, 2 * (count - i));
-    sums = AddTo(sums, numbers);  // of black nothing comes
+    sums = AddTo(sums, numbers);  // black adds nothing
   }
   return SumOf(sums);
 }

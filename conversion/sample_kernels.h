@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // The inner loops that make the engine's samples without a colour table, a line at a time, in the
-// widest vectors that the processor has. Every processor gives the same numbers.
+// widest vectors that the processor has. The numbers are the same on every processor.
 #ifndef TQR7_CONVERSION_SAMPLE_KERNELS_H
 #define TQR7_CONVERSION_SAMPLE_KERNELS_H
 

@@ -10,10 +10,10 @@ namespace {
 
 constexpr int kHighestLevel = 6;
 
-/// Two passes of five lines reach four lines; each reaches half of that.
+/// Two passes of five lines each reach two lines further: four in all.
 constexpr std::size_t kPassReach = kSharpeningReach / 2;
 
-/// The five lines around y in a ring; beyond the page its outermost line counts on.
+/// The five lines around y, from a ring. Outside the page its outermost line is repeated.
 std::array<const std::uint16_t*, 5> lines_around(const LineMemory& ring, std::size_t y,
                                                  std::size_t height) {
   std::array<const std::uint16_t*, 5> lines{};

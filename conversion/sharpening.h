@@ -10,23 +10,23 @@
 #include "conversion/band_rows.h"
 #include "conversion/line_planes.h"
 
-/// How far a pixel looks to each side, and up and down. The mask is the binomial one of 9 × 9
-/// pixels, close to a Gaussian of √2 pixels: at 300 dpi it lifts what is 0.2 to 0.8 mm wide, the
-/// finest that an eye sees well at reading distance.
+/// The mask's radius in pixels. The mask is the binomial one of 9 × 9 pixels, close to a Gaussian
+/// of √2 pixels. At 300 dpi it strengthens details of 0.2 to 0.8 mm, the finest that an eye sees
+/// well at reading distance.
 inline constexpr std::size_t kSharpeningReach = 4;
 
-/// How much of the difference to the surroundings is added, in eighths: level + 1, so that each
-/// level adds as much as the one before. Levels beyond an end (0, 6) count as that end.
+/// How much of the difference to the surroundings is added, in eighths: level + 1, so that the
+/// steps between levels are equal. A level outside 0 … 6 counts as the nearer end.
 int sharpening_strength(int level);
 
 /// The surroundings of a page's lines, from top to bottom.
 class Sharpener {
  public:
-  /// Takes the memory for pages of this width. False when it cannot be had.
+  /// Allocates the memory for pages of this width. False without memory.
   bool reserve(std::size_t width);
 
-  /// Sharpens line y of the page. Lines are to be asked for one after the other, from 0 on. Writes
-  /// numbers on the fine scale (white 4080); a flat area comes out as it went in.
+  /// Sharpens line y of the page. Call it for one line after the other, from 0. Writes numbers on
+  /// the fine scale (white 4080). A flat area does not change.
   void sharpen(const BandRows& page, std::size_t y, int strength, const LinePlanes& fine);
 
  private:
@@ -37,9 +37,9 @@ class Sharpener {
   const std::uint16_t* blur_twice(std::size_t y, std::size_t height);
 
   std::size_t width_ = 0;
-  std::size_t taken_ = 0;    ///< lines blurred along, twice
-  std::size_t blurred_ = 0;  ///< lines blurred across, once
-  LineMemory along_;         ///< the last five taken
+  std::size_t taken_ = 0;    ///< lines blurred along the line, twice
+  std::size_t blurred_ = 0;  ///< lines blurred across the lines, once
+  LineMemory along_;         ///< the last five blurred along
   LineMemory across_;        ///< the last five blurred across
   LineMemory scratch_;
 };

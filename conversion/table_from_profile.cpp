@@ -12,13 +12,13 @@
 namespace {
 
 constexpr double kFullScale = 0x3FFF;
-// How far outside 0 … 0x3FFF a node may lie: half of full scale to each side, within 16 bits with a
-// sign. Cells that clipping passes through lie well within.
+// How far a node may be outside 0 … 0x3FFF: half of full scale on each side, which fits into a
+// signed 16-bit number. Cells in which clipping begins are well within it.
 constexpr double kLowestNode = -8192;
 constexpr double kHighestNode = 24575;
 
-/// What the paper must get at least of full scale in each channel, and black at most on average,
-/// for a profile that is taken for a printer's.
+/// The least value of paper white in each channel, and the greatest mean value of black, in parts
+/// of full scale, for a profile to count as a printer's.
 constexpr float kLeastWhite = 0.8F;
 constexpr float kMostBlack = 0.5F;
 
@@ -42,8 +42,8 @@ const char* fault_of_header(cmsHPROFILE profile) {
   return nullptr;
 }
 
-/// Chains of processing elements, which a profile may carry beside its tables, have no bound to
-/// their length that a time could be told for; Little CMS would prefer them.
+/// A profile may have chains of processing elements beside its tables, and Little CMS would prefer
+/// them. Nothing limits their length, so nothing would limit the time that they take.
 bool has_element_chains(cmsHPROFILE profile) {
   constexpr std::array<cmsTagSignature, 8> kChains = {
       cmsSigDToB0Tag, cmsSigDToB1Tag, cmsSigDToB2Tag, cmsSigDToB3Tag,
@@ -66,12 +66,12 @@ const char* fault_of_tags(cmsHPROFILE profile) {
 /// IEC 61966-2-1, as parameters of an ICC curve of type 4 (Y = (aX + b)^g from X = d on, cX
 /// before): g, a, b, c, d.
 constexpr cmsFloat64Number kScreenCurve[] = {2.4, 1.0 / 1.055, 0.055 / 1.055, 1.0 / 12.92, 0.04045};
-/// The same kind of curve that changes nothing: its straight piece goes on beyond the end.
+/// A curve of the same kind that changes nothing: its straight part continues past the end.
 constexpr cmsFloat64Number kNoCurve[] = {1.0, 1.0, 0.0, 1.0, 2.0};
 constexpr cmsInt32Number kCurveType = 4;
 
-/// The light of the grid's levels on the screen. A transform from sRGB itself would work the
-/// screen's curve out three times for each of the 35,937 nodes, which took a sixth of all its time.
+/// The light of the grid's levels on a screen. A transform from sRGB itself would compute the
+/// screen's curve three times for each of the 35,937 nodes.
 Levels light_of_levels(cmsContext context) {
   cmsToneCurve* curve = cmsBuildParametricToneCurve(context, kCurveType, kScreenCurve);
   Levels light{};
@@ -100,7 +100,7 @@ std::int16_t node_value(float device) {
   return static_cast<std::int16_t>(std::lround(sample));
 }
 
-/// False when a value is no number.
+/// False when a value is not a number.
 bool fill_row(const Row& device, ColourNode* nodes) {
   for (std::size_t b = 0; b < kGridPoints; ++b) {
     const float* values = &device[b * kChannels];
@@ -112,8 +112,8 @@ bool fill_row(const Row& device, ColourNode* nodes) {
   return true;
 }
 
-/// Catches a profile that is well-formed and yet no printer's: one that prints black for white, or
-/// the same for everything.
+/// False for a well-formed profile that cannot be a printer's: one that prints black for white, or
+/// the same colour for everything.
 const char* fault_of_ends(const Row& first, const Row& last) {
   const float* white = &last[(kGridPoints - 1) * kChannels];
   if (!(std::min({white[0], white[1], white[2]}) >= kLeastWhite)) {
@@ -141,14 +141,14 @@ const char* fill_table(cmsHTRANSFORM transform, const Levels& light, ColourTable
       nodes += kGridPoints;
     }
   }
-  // Paper white takes no dye, whatever a profile's rounding says.
+  // Paper white gets no dye, even where a profile's rounding asks for some.
   constexpr auto kWhite = static_cast<std::int16_t>(kFullScale);
   table.nodes.back() = {kWhite, kWhite, kWhite, 0};
   return nullptr;
 }
 
-/// A profile's first four bytes say how long it is. Little CMS takes a shorter one for whole, and
-/// then does without the tables that are gone.
+/// A profile's first four bytes say how long it is. Little CMS accepts a shorter one, and then
+/// works without the tables that are missing.
 bool is_cut_short(std::span<const unsigned char> bytes) {
   if (bytes.size() < 4) {
     return true;
@@ -158,7 +158,7 @@ bool is_cut_short(std::span<const unsigned char> bytes) {
   return said > bytes.size();
 }
 
-/// sRGB's primaries and white, but by the amount of light instead of its curve.
+/// sRGB's primaries and white, with a linear scale of light instead of sRGB's curve.
 cmsHPROFILE screen_by_light(cmsContext context) {
   constexpr cmsCIExyY kWhite = {0.3127, 0.3290, 1.0};
   constexpr cmsCIExyYTRIPLE kPrimaries = {
@@ -173,12 +173,13 @@ cmsHPROFILE screen_by_light(cmsContext context) {
 /// From the screen's light to the printer's device values.
 cmsHTRANSFORM make_transform(cmsContext context, cmsHPROFILE printer) {
   cmsHPROFILE screen = screen_by_light(context);
-  // Relative colorimetric with black-point compensation: what the printer can show comes out as it
-  // is, and the darkest tones are not lost in its black. Over the sRGB colours within a printer's
-  // gamut, there and back, ΔE00 on average and at the 95th percentile: 0.13 and 0.45 through a
-  // printer's tables, against 3.6 and 4.7 with their perceptual intent, and 1.2 and 3.1 without the
-  // compensation. For matrix profiles, the model among them, the perceptual intent is the same.
-  // No optimisation: it would sample the curves, or keep to 0 … 1 what may leave it here.
+  // Relative colorimetric with black-point compensation: colours that the printer can show stay as
+  // they are, and the darkest tones are not lost in its black. Over the sRGB colours within a
+  // printer's gamut, there and back, ΔE00 on average and at the 95th percentile: 0.13 and 0.45
+  // through a printer's tables, against 3.6 and 4.7 with their perceptual intent, and 1.2 and 3.1
+  // without the compensation. For matrix profiles, the model among them, the perceptual intent is
+  // the same. No optimisation: it would sample the curves, or limit values to 0 … 1, which they may
+  // leave here.
   cmsHTRANSFORM transform = cmsCreateTransformTHR(
       context, screen, TYPE_RGB_FLT, printer, TYPE_RGB_FLT, INTENT_RELATIVE_COLORIMETRIC,
       cmsFLAGS_BLACKPOINTCOMPENSATION | cmsFLAGS_NOOPTIMIZE | cmsFLAGS_NOCACHE);
@@ -208,7 +209,7 @@ struct Request {
   ColourTable* table;
 };
 
-/// Done by BoundedCms: from here on no object has a destructor.
+/// BoundedCms runs this: from here on no object has a destructor.
 const char* do_request(cmsContext context, void* argument) {
   const auto& request = *static_cast<const Request*>(argument);
   MemoryFile file(context, request.bytes);

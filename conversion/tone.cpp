@@ -6,8 +6,8 @@
 
 namespace {
 
-/// Contrast and brightness turn by turn: 1 at 0, kStrongest at the upper end, its inverse at the
-/// lower. Equal steps of the slider are equal ratios, so that each looks as large as the last.
+/// The factor of a contrast or brightness slider: 1 at 0, kStrongest at the upper end, its inverse
+/// at the lower end. Equal steps of the slider are equal ratios, so that they look equally large.
 constexpr double kStrongest = 4.0;
 
 double slider_ratio(int slider, int end) {
@@ -15,17 +15,17 @@ double slider_ratio(int slider, int end) {
 }
 
 /// The power law of tone reproduction (Gonzalez and Woods, Digital Image Processing, section 3.2):
-/// level^(1/γ) with γ = 2^(gamma / 10), 1.41 at the upper end, 0.71 at the lower. Both ends of the
-/// scale stay where they are.
+/// level^(1/γ) with γ = 2^(gamma / 10), 1.41 at the upper end, 0.71 at the lower. The ends of the
+/// scale do not change.
 double apply_gamma(double level, double power) {
   return power == 1.0 ? level : std::pow(level, power);
 }
 
-/// Upwards an S of this slope through the middle (0.5) that runs into black and white: the odds
-/// level / (1 − level) to the power of the slope, a straight line in log odds (Zhang and Maloney,
-/// "Ubiquitous log odds", Frontiers in Neuroscience 6:1, 2012). Downwards a straight line in the
-/// levels themselves, so that black and white come nearer to the middle without breaking the
-/// darkest and lightest tones apart.
+/// More contrast is an S curve with this slope in the middle (0.5) that ends in black and white:
+/// the odds level / (1 − level) to the power of the slope, a straight line in log odds (Zhang and
+/// Maloney, "Ubiquitous log odds", Frontiers in Neuroscience 6:1, 2012). Less contrast is a
+/// straight line in the levels: black and white come nearer to the middle, and the steps between
+/// the darkest and between the lightest tones stay even.
 double apply_contrast(double level, double slope) {
   if (slope > 1.0) {
     return level > 0.0 ? 1.0 / (1.0 + std::pow((1.0 - level) / level, slope)) : 0.0;
@@ -35,8 +35,8 @@ double apply_contrast(double level, double slope) {
 
 /// The odds level / (1 − level) times `odds`: in log odds a shift. It is Schlick's bias ("Fast
 /// alternatives to Perlin's bias and gain functions", Graphics Gems IV, 1994) with
-/// a = odds / (1 + odds). Paper white and full black stay, everything between moves; at 1 nothing
-/// is rounded, so the level stays exactly.
+/// a = odds / (1 + odds). Paper white and full black stay, all levels between them change. At 1
+/// nothing is rounded, so the level stays exactly the same.
 double apply_brightness(double level, double odds) {
   return odds * level / (1.0 + (odds - 1.0) * level);
 }

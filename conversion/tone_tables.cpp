@@ -17,7 +17,7 @@ namespace {
 constexpr std::size_t kChannels = 3;
 constexpr std::size_t kMostLevels = std::size_t{kFineWhite} + 1;
 
-/// All that the tables of a page follow from.
+/// All that the tables of a page depend on.
 struct Origin {
   std::array<ChannelTone, kChannels> tones;
   std::uint16_t lineWhite;
@@ -34,14 +34,14 @@ struct Kept {
   std::array<std::uint16_t, kChannels * kMostLevels> numbers{};
 };
 
-/// Never destroyed: a process may end in the middle of its use, in another thread or by a signal.
+/// Never destroyed: a process may end while another thread uses it, or by a signal.
 Kept& kept_tables() {
   alignas(Kept) static std::array<std::byte, sizeof(Kept)> place;
   static Kept* const kept = new (place.data()) Kept;
   return *kept;
 }
 
-/// The kept tables, if they are the ones.
+/// The tables that were kept, if they are for these settings.
 bool take_kept(const Origin& origin, std::size_t size, std::uint16_t* tables) {
   Kept& kept = kept_tables();
   const std::lock_guard<std::mutex> guard(kept.lock);
@@ -71,7 +71,7 @@ void work_out(const ChannelTone& tone, std::uint16_t lineWhite, std::uint16_t to
   }
 }
 
-/// Sliders are mostly set for all three channels alike: equal ones are worked out once.
+/// Most jobs set the sliders of all three channels to the same: equal tables are computed once.
 void work_out_all(const Origin& origin, std::size_t levels, std::uint16_t* tables) {
   for (std::size_t channel = 0; channel < kChannels; ++channel) {
     std::uint16_t* const table = tables + channel * levels;
@@ -113,7 +113,8 @@ bool ToneTables::make(const tagMVChangeParams& params, std::uint16_t lineWhite,
 }
 
 void ToneTables::apply(const LinePlanes& line, std::size_t pixels) const {
-  constexpr std::size_t kAtOnce = 8;  // by so many, a look-up costs little but its own loads
+  constexpr std::size_t kAtOnce =
+      8;  // with so many at once, a look-up costs hardly more than its loads
   for (std::size_t channel = 0; channel < kChannels; ++channel) {
     const std::uint16_t* table = channels_.get() + channel * levels_;
     std::uint16_t* plane = line[channel];

@@ -12,19 +12,19 @@
 #include "conversion/line_planes.h"
 #include "image/mv_change_image.h"
 
-/// Whether all nine tone values leave the picture alone.
+/// Whether none of the nine tone values changes the picture.
 bool tone_is_neutral(const tagMVChangeParams& params);
 
-/// For each number of a line, 0 … lineWhite, what the channel's sliders make of it.
+/// For each number of a line, 0 … lineWhite, its new value by the channel's sliders.
 class ToneTables {
  public:
-  /// Works the tables out: entry i is round(level × toneWhite), where level is the channel's curve
-  /// at i / lineWhite. The pages of a job have the same sliders, so the last page's tables are kept
-  /// in the process and copied where nothing has changed; any thread may call this. False when
-  /// there is no memory for them.
+  /// Computes the tables: entry i is round(level × toneWhite), where level is the channel's curve
+  /// at i / lineWhite. The pages of a job have the same sliders, so the last page's tables stay in
+  /// the process and are copied if nothing has changed. Any thread may call this. False without
+  /// memory.
   bool make(const tagMVChangeParams& params, std::uint16_t lineWhite, std::uint16_t toneWhite);
 
-  /// Turns the `pixels` numbers of each plane into what the tables say. Every number must be within
+  /// Replaces the `pixels` numbers of each plane with the tables' values. Every number must be in
   /// 0 … lineWhite.
   void apply(const LinePlanes& line, std::size_t pixels) const;
 

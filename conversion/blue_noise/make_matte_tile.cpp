@@ -18,7 +18,7 @@ struct FileCloser {
 };
 using OutputFile = std::unique_ptr<std::FILE, FileCloser>;
 
-/// The ranks spread evenly over the levels: each level comes equally often, to within one dot.
+/// Turns ranks into levels. The numbers of dots of any two levels differ by one at most.
 unsigned level_of_rank(std::uint32_t rank) {
   constexpr std::uint64_t kLevels = kMatteHighest - kMatteLowest + 1;
   return static_cast<unsigned>(kMatteLowest + rank * kLevels / (kMatteTileSide * kMatteTileSide));

@@ -5,23 +5,23 @@
 
 namespace {
 
-/// How far a dot is felt. The Gaussian of σ = 1.5 dots that the method's author found best is down
-/// to a millionth there.
+/// How many dots away a dot still has a weight. There the Gaussian of σ = 1.5 dots, which the
+/// method's author found best, is a millionth.
 constexpr std::size_t kReach = 8;
 constexpr std::size_t kSpan = 2 * kReach + 1;
 static_assert(kSpan == kLeastBlueNoiseSide);
 
-/// The weight of a dot on its own place; all weights of a neighbourhood stay below 2^31.
+/// The weight of a dot at its own place. The sum of all weights of a neighbourhood is below 2^31.
 constexpr std::uint64_t kOwnWeight = std::uint64_t{1} << 27;
 /// e^(−1 / 2σ²) of 2^32: from one squared distance to the next.
 constexpr std::uint64_t kFalloff = 0xCCFD205E;
-/// The share of dots in the pattern that the ranking starts from, as the author has it: a tenth.
+/// The share of dots in the pattern at which the ranking starts. The author uses a tenth.
 constexpr std::size_t kStartingShare = 10;
 
 using Weights = std::array<std::uint32_t, kSpan * kSpan>;
 
-/// exp(−distance² / 2σ²), worked out by repeated multiplication instead of exp(), whose last bit
-/// differs from system to system.
+/// exp(−distance² / 2σ²), computed by repeated multiplication: the last bit of exp() differs
+/// between systems.
 constexpr Weights make_weights() {
   std::array<std::uint64_t, 2 * kReach * kReach + 1> ofSquare{kOwnWeight};
   for (std::size_t i = 1; i < ofSquare.size(); ++i) {
@@ -55,13 +55,14 @@ class Xorshift {
   std::uint32_t state_ = 2463534242U;
 };
 
-/// A square of places with dots on some, and for each place how crowded its neighbourhood is. Both
-/// edges are joined to the opposite ones.
+/// A square of places, some with a dot, and for each place how crowded its neighbourhood is. Each
+/// edge continues at the opposite one.
 class DotPattern {
  public:
   DotPattern(std::size_t side, Xorshift& random)
       : side_(side), crowding_(side * side), dotted_(side * side), extremes_(side) {
-    // Places that would be equal get an order without a direction: far below any real difference.
+    // Equal places get a random order, so that no direction is preferred. The random part is far
+    // smaller than any real difference.
     for (std::uint32_t& crowding : crowding_) {
       crowding = random.next() >> 24;
     }
@@ -73,10 +74,10 @@ class DotPattern {
   bool dotted(std::size_t place) const { return dotted_[place] != 0; }
   std::uint32_t crowding(std::size_t place) const { return crowding_[place]; }
 
-  /// Sets the dot of a place without one, or takes away the one it has.
+  /// Sets a dot where there is none, or removes the one that is there.
   void flip(std::size_t place) {
     dotted_[place] ^= 1U;
-    // What wraps below 0 comes back when it is added: crowding as a whole is never negative.
+    // A value may wrap below 0 for a moment. The sum never is negative, so it comes back.
     const std::uint32_t sign = dotted_[place] != 0 ? 1U : ~std::uint32_t{0};
     const std::size_t top = place / side_ + side_ - kReach;
     const std::size_t left = place % side_ + side_ - kReach;
@@ -100,7 +101,7 @@ class DotPattern {
     return best;
   }
 
-  /// The place without a dot that has the fewest around it; there must be one.
+  /// The least crowded place without a dot; there must be one.
   std::size_t largest_void() const {
     std::size_t best = kNone;
     for (const RowExtremes& row : extremes_) {
@@ -147,8 +148,8 @@ void scatter_dots(DotPattern& pattern, std::size_t places, std::size_t dots, Xor
   }
 }
 
-/// Moves dots out of clusters into voids until no move makes a dot less crowded. Each move lowers
-/// the sum of all crowding by a whole number, so there is an end.
+/// Moves dots out of clusters into voids until no move makes a dot less crowded. This ends, because
+/// each move lowers the sum of all crowding by a whole number.
 void even_out(DotPattern& pattern) {
   for (;;) {
     const std::size_t from = pattern.tightest_cluster();
@@ -179,8 +180,8 @@ std::vector<std::uint32_t> blue_noise_ranks(std::size_t side) {
     thinning.flip(place);
     ranks[place] = static_cast<std::uint32_t>(rank);
   }
-  // The method turns to clusters of empty places at half the square. With edges that are joined the
-  // largest void of dots is the tightest cluster of empty places, so one rule fills it all.
+  // From half of the square on, the method looks for clusters of empty places. In a square whose
+  // edges are joined, the largest void is the tightest cluster of empty places: one rule does both.
   for (std::size_t rank = start; rank < places; ++rank) {
     const std::size_t place = pattern.largest_void();
     pattern.flip(place);
