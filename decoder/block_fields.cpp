@@ -33,7 +33,8 @@ std::string allowed_words(const Allowed& allowed, Notation notation) {
   return {};
 }
 
-// One error for a run, at its first wrong byte: a block of garbage gives a handful of lines.
+// Reports one error for the whole run, at its first wrong byte, so that a block of garbage makes
+// only a few lines.
 void check_zero_run(std::span<const std::uint8_t> block, std::size_t from, std::size_t end,
                     Command command, std::uint64_t blockOffset, const ErrorSink& report) {
   std::size_t firstWrong = end;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A command's bytes held against a table of its fields. What the table does not list must be zero.
+// Checks a command's bytes against a table of its fields. Bytes that are not in the table must be
+// zero.
 #ifndef TQR7_DECODER_BLOCK_FIELDS_H
 #define TQR7_DECODER_BLOCK_FIELDS_H
 
@@ -13,7 +14,7 @@
 
 namespace decoder {
 
-/// The values a field may take by itself.
+/// The values that a field may have, whatever the other fields say.
 struct Allowed {
   enum class Kind : std::uint8_t { Any, Exactly, Either, Range };
   Kind kind;
@@ -46,18 +47,19 @@ struct FieldRule {
   Allowed allowed;
 };
 
-/// The byte, or the big-endian number of two bytes, at a place of the block.
+/// Reads a byte, or a big-endian number of two bytes, at a place in the block.
 std::uint16_t read_byte(std::span<const std::uint8_t> block, std::size_t offset);
 std::uint16_t read_number(std::span<const std::uint8_t> block, std::size_t offset);
 
-/// The value that the block has in the field.
+/// Reads the value of a field.
 std::uint16_t read_field(std::span<const std::uint8_t> block, const FieldRule& rule);
 
-/// The value as the messages write it: "18", or two hexadecimal digits behind "0x".
+/// The value as messages write it: "18" or "0x12".
 std::string value_words(std::uint16_t value, Notation notation);
 
-/// Holds the block's bytes from `start` on against the rules, which must be in ascending order and
-/// inside the block. Each wrong field, and each run of bytes that should be zero, gives one error.
+/// Checks the block's bytes from `start` on against the rules, which must be in ascending order and
+/// inside the block. Reports one error for each wrong field, and one for each run of bytes between
+/// fields that are not all zero.
 void check_fields(std::span<const std::uint8_t> block, std::size_t start,
                   std::span<const FieldRule> rules, Command command, std::uint64_t blockOffset,
                   const ErrorSink& report);

@@ -15,7 +15,8 @@ void CodeScanner::Reset() {
   skipped_ = 0;
 }
 
-// All four bytes must be right, the image header's flag too: a search must not be misled easily.
+// All four bytes must be right, even the image header's flag, so that few bytes are mistaken for a
+// code.
 bool CodeScanner::MayBeCode() const {
   const auto codes = command_codes();
   return std::any_of(codes.begin(), codes.end(), [this](const CommandCode& code) {

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Finding the way back after bytes that belong to no command: the next command code is looked for.
+// Looks for the next command code after bytes that belong to no command.
 //
-// Image data cannot be mistaken for a code as long as its samples keep to 14 bits, as those of the
-// conversion library do: every second byte is then 0x3F at most, and each code has two neighbouring
-// bytes above that. The protocol does not hold samples to it. In wider ones and in a matte plane,
-// whose bytes may be anything, a code may come up by chance, and is then reported as a command out
-// of order.
+// Samples of 14 bits, as the conversion library makes them, cannot be mistaken for a code: every
+// second byte of them is at most 0x3F, and each code has two neighbouring bytes above that. But the
+// protocol allows wider samples, and any bytes in a matte plane. A code may occur in these by
+// chance; it is then reported as a command out of order.
 #ifndef TQR7_DECODER_CODE_SCANNER_H
 #define TQR7_DECODER_CODE_SCANNER_H
 
@@ -19,13 +18,13 @@
 
 namespace decoder {
 
-/// Passes over bytes up to the next whole command code.
+/// Skips bytes up to the next whole command code.
 class CodeScanner {
  public:
   /// Begins a search.
   void Reset();
 
-  /// Takes bytes until a code is complete; says how many it took. Call Found afterwards.
+  /// Takes bytes until a code is complete, and returns how many it took. Call Found afterwards.
   std::size_t Take(std::span<const std::uint8_t> bytes);
 
   /// Whether the last four bytes taken are a command code.
@@ -34,10 +33,10 @@ class CodeScanner {
   /// The code found.
   std::span<const std::uint8_t> Code() const { return window_; }
 
-  /// Bytes passed over so far; those that may be the beginning of a code do not count.
+  /// How many bytes were skipped so far, without those that may be the beginning of a code.
   std::uint64_t Skipped() const { return skipped_; }
 
-  /// Bytes at the end that may be the beginning of a code.
+  /// How many of the last bytes may be the beginning of a code.
   std::size_t Held() const { return held_; }
 
  private:

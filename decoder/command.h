@@ -13,7 +13,7 @@ namespace decoder {
 
 /// What a byte of the stream belongs to. Image and matte data have no code of their own.
 enum class Command : std::uint8_t {
-  None,  ///< no command could be told
+  None,  ///< to no command, or it is not known to which
   StatusRequest,
   ReadinessQuery,
   JobHeader,
@@ -23,17 +23,17 @@ enum class Command : std::uint8_t {
   PrintOut,
 };
 
-/// "status request", "job header", … as the messages name it.
+/// The name in messages: "status request", "job header", …
 const char* to_string(Command command);
 
 inline constexpr std::size_t kCodeLength = 4;     ///< ESC, two letters, variant
 inline constexpr std::size_t kBlockLength = 512;  ///< a long command, its code included
 
-/// One command code and what it begins.
+/// A command and its code.
 struct CommandCode {
   Command command;
   std::array<std::uint8_t, kCodeLength> bytes;
-  std::size_t fixedBytes;  ///< how many of `bytes` tell the command; the rest is a field
+  std::size_t fixedBytes;  ///< how many of `bytes` are the code; the rest is a field
   std::size_t length;      ///< of the command, its code included
 };
 

@@ -27,7 +27,7 @@ constexpr std::array<FieldRule, 4> kStatusRequestFields{{
     {7, 1, "fixed byte 7", Hex, exactly(0x16)},
 }};
 
-// Sheet sizes are held against the table of papers, and the two-up fields against each other.
+// The sheet's size and the two-up fields are checked in header_check.
 constexpr std::array<FieldRule, 16> kJobHeaderFields{{
     {4, 1, "fixed byte 4", Hex, exactly(0x00)},
     {5, 1, "fixed byte 5", Hex, exactly(0x33)},
@@ -47,7 +47,7 @@ constexpr std::array<FieldRule, 16> kJobHeaderFields{{
     {kOffsetOpRate, 1, "OP rate", Decimal, any()},
 }};
 
-// Place and sizes are held against the sheet of the job header.
+// The place, the sizes and the date are checked in header_check.
 constexpr std::array<FieldRule, 15> kImageHeaderFields{{
     {kOffsetFlag, 1, "flag", Hex, exactly(0x01)},
     {4, 1, "fixed byte 4", Hex, exactly(0x00)},
@@ -94,6 +94,14 @@ std::span<const FieldRule> field_rules(Command command) {
       return {};
   }
   return {};
+}
+
+std::vector<NamedField> named_fields(Command command, std::span<const std::uint8_t> bytes) {
+  std::vector<NamedField> fields;
+  for (const FieldRule& rule : field_rules(command)) {
+    fields.push_back({rule.name, value_words(read_field(bytes, rule), rule.notation)});
+  }
+  return fields;
 }
 
 JobHeader read_job_header(std::span<const std::uint8_t> block) {

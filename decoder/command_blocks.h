@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The commands byte by byte: the table of each command's fields, and the records that the fields of
-// a header are read into.
+// The commands byte by byte: the table of each command's fields, and records for the fields of a
+// header.
 #ifndef TQR7_DECODER_COMMAND_BLOCKS_H
 #define TQR7_DECODER_COMMAND_BLOCKS_H
 
 #include <cstdint>
 #include <span>
+#include <string>
+#include <vector>
 
 #include "decoder/block_fields.h"
 
@@ -47,7 +49,7 @@ struct ImageHeader {
   std::uint8_t second;
 };
 
-// Places of the fields that more than one check speaks about.
+// Offsets of fields that more than one check needs.
 inline constexpr std::uint16_t kOffsetSheetWidth = 6;
 inline constexpr std::uint16_t kOffsetSheetHeight = 8;
 inline constexpr std::uint16_t kOffsetTwoUpMode = 15;
@@ -64,14 +66,26 @@ inline constexpr std::uint16_t kOffsetMatteHeight = 22;
 inline constexpr std::uint16_t kOffsetDay = 35;
 inline constexpr std::uint16_t kOffsetPrintOutWait = 5;
 
-/// The fields of a command, in ascending order, from the byte behind its fixed code bytes on.
+/// The fields of a command, in ascending order, from the byte after its fixed code bytes on.
 std::span<const FieldRule> field_rules(Command command);
 
-/// The fields of a whole block of 512 bytes, whatever their values.
+/// A field's name in the documentation, and its value: "sheet width", "1852".
+struct NamedField {
+  std::string name;
+  std::string value;
+
+  bool operator==(const NamedField&) const = default;
+};
+
+/// All fields of a whole command as a person reads them, in the order of its bytes, whatever their
+/// values.
+std::vector<NamedField> named_fields(Command command, std::span<const std::uint8_t> bytes);
+
+/// Reads the fields of a whole block of 512 bytes, whatever their values.
 JobHeader read_job_header(std::span<const std::uint8_t> block);
 ImageHeader read_image_header(std::span<const std::uint8_t> block);
 
-/// The wait byte of a whole print-out command.
+/// Reads the wait byte of a whole print-out command.
 std::uint8_t read_print_out_wait(std::span<const std::uint8_t> command);
 
 }  // namespace decoder

@@ -16,17 +16,7 @@ bool is_question(Command command) {
   return command == Command::StatusRequest || command == Command::ReadinessQuery;
 }
 
-std::string joined(const std::vector<std::string>& names) {
-  std::string text;
-  for (std::size_t i = 0; i < names.size(); ++i) {
-    const bool final = i + 1 == names.size();
-    text += i == 0 ? "" : (final ? " or " : ", ");
-    text += names[i];
-  }
-  return text;
-}
-
-// "1.9 s": cut to tenths, so that what is too little never reads as enough.
+// "1.9 s": rounded down, so that a time that is too short is never shown as long enough.
 std::string in_tenths(std::chrono::nanoseconds time) {
   using Tenths = std::chrono::duration<std::int64_t, std::deci>;
   const std::int64_t tenths = std::max(std::chrono::floor<Tenths>(time), Tenths{0}).count();
@@ -35,9 +25,9 @@ std::string in_tenths(std::chrono::nanoseconds time) {
 
 }  // namespace
 
-// A half: the last page of a file on the paper that joins two pages. It is printed when the file
-// ends, and what the printer says to it holds the print-out up no more. The first sheet of a file
-// may be such a half as long as no settings block of the file has told its paper.
+// "Half" is the last page of a file on the paper that joins two pages, when it has no partner. The
+// client prints it when the file ends, and sends the print-out whatever the printer answered. The
+// first sheet of a file may be such a half until a settings block of the file says its paper.
 const Exchange::Step Exchange::kSteps[] = {
     {Command::StatusRequest, Between, When::Always, Begun},
     {Command::StatusRequest, Begun, When::Good, AskedFirst},
@@ -79,7 +69,7 @@ bool Exchange::Holds(When when, Answers answers) const {
   return false;
 }
 
-// Where the command can come from, and where it leads.
+// The places where the command can come, and the places after it.
 Exchange::Move Exchange::MoveOf(Command command, Answers answers) const {
   Move move;
   for (const Step& step : kSteps) {
@@ -92,14 +82,14 @@ Exchange::Move Exchange::MoveOf(Command command, Answers answers) const {
   return move;
 }
 
-// A client has no business to query or print after an answer that was meant to forbid it, whatever
-// it made of it. That it gives a file up tells that it saw such an answer.
+// A client must not query or print after an answer that was meant to forbid it, whatever it saw.
+// Other commands only have to go with what it may have seen.
 Exchange::Move Exchange::MoveOf(Command command) const {
   const bool meant = command == Command::ReadinessQuery || command == Command::JobHeader;
   return MoveOf(command, meant ? sent_ : seen_);
 }
 
-// Where the command leads from anywhere.
+// The places after the command, wherever it came.
 Exchange::Places Exchange::PlacesAfter(Command command) {
   Places places = 0;
   for (const Step& step : kSteps) {
@@ -112,7 +102,7 @@ void Exchange::Take(Command command, std::uint64_t offset, StreamTime at, const 
   constexpr Places kWithinFile = AskedNext | Queried | AfterSheet;
   constexpr Places kAsked = AskedFirst | AskedNext;
   const Move move = MoveOf(command);
-  // By what was sent, if the client can have come here so; or else by what it may have seen.
+  // By what was sent, if that can have led here; otherwise by what the client may have seen.
   const Places meant = MoveOf(command, sent_).to;
   const Places likely = meant != 0 ? meant : move.to;
   aboutSheet_ = command == Command::StatusRequest && (likely == 0 || (likely & kAsked) != 0);
@@ -175,7 +165,7 @@ std::string Exchange::AllowedNow(bool answered) const {
       names.push_back(answered ? Spoken(command) : to_string(command));
     }
   }
-  return joined(names);
+  return alternatives(names);
 }
 
 StreamError Exchange::OutOfPlace(Command command, std::uint64_t offset) const {
@@ -186,7 +176,7 @@ StreamError Exchange::OutOfPlace(Command command, std::uint64_t offset) const {
   return MoveOf(command, Any).to != 0 ? Unanswered(command, offset) : OutOfOrder(command, offset);
 }
 
-// Another answer would have allowed the command.
+// The error for a command that another answer would have allowed.
 StreamError Exchange::Unanswered(Command command, std::uint64_t offset) const {
   const bool repeated = command == Command::ReadinessQuery && last_ == command;
   const bool meant = command == Command::ReadinessQuery || command == Command::JobHeader;

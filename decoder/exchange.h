@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The exchange between a client and the printer: which command may come where, by what the printer
-// answered, how soon and how often. docs/command-stream.md has the order as a table.
+// The exchange between a client and the printer: which command may come when, after which answers
+// of the printer, how soon and how often. docs/command-stream.md has the order as a table.
 //
-// A stream alone does not tell everything. A client gives a file up without a word when an answer
-// forbids a sheet or the next page fails, and may begin the next file of the job in the same
-// connection. So all places are kept in which the client may be, and a command is out of order when
-// it can come in none of them.
+// The stream does not always show where the client is. It may give a file up silently, because an
+// answer forbids a sheet or because a page fails, and then begin the next file of the job in the
+// same connection. So this keeps all places where the client can be. A command is out of order when
+// it can come at none of them.
 #ifndef TQR7_DECODER_EXCHANGE_H
 #define TQR7_DECODER_EXCHANGE_H
 
@@ -19,7 +19,7 @@
 
 namespace decoder {
 
-/// The printer's answer to a question, as it went out.
+/// The printer's answer to a question, as it was sent.
 struct Answer {
   enum class Meaning : std::uint8_t {
     Good,  ///< the printer is well, or ready for the sheet
@@ -27,51 +27,52 @@ struct Answer {
     Bad,   ///< an error, a refusal, or no whole answer
   };
   Meaning meaning = Meaning::Good;
-  std::string words;     ///< what the client could have seen: "0x0100", "no answer"
-  bool sure = true;      ///< the client saw this answer in time, and nothing else
-  bool strayed = false;  ///< other bytes went out before it, which the client may have read as busy
+  std::string words;  ///< what the client could have seen: "0x0100", "no answer"
+  bool sure = true;   ///< the client saw this answer in time, and nothing else
+  bool strayed =
+      false;  ///< other bytes were sent before it, which can look like busy to the client
 };
 
-/// Since a moment that is the same for all times of a stream; none where nobody measures.
+/// Time since some moment, which is the same for all times of a stream; none where it is not
+/// measured.
 using StreamTime = std::optional<std::chrono::nanoseconds>;
 
-/// Queries that a client makes at most in one wait: the first, and 91 more while the printer is
-/// busy.
+/// How many queries a client makes at most for one sheet: the first, and 91 more while the printer
+/// is busy.
 inline constexpr std::uint64_t kQueriesMost = 92;
-/// A client that was told busy waits so long before it asks again.
+/// How long a client waits after the answer busy before it asks again.
 inline constexpr std::chrono::seconds kBusyPause{2};
 
 /// Watches one connection.
 class Exchange {
  public:
-  /// A command's code came. Reports the command when it may not come now, and takes it as come in
-  /// either case.
+  /// Takes a command when its code has come. Reports it when it may not come now; the exchange goes
+  /// on from it in either case.
   void Take(Command command, std::uint64_t offset, StreamTime at, const ErrorSink& report);
 
-  /// The settings block that came last is that of a sheet with two prints, or may be.
+  /// Takes whether the last settings block is, or may be, that of a sheet with two prints.
   void TakeSettings(bool twoPrints) { twoPrints_ = twoPrints; }
 
-  /// The question that was taken last is answered. A question without this call has an answer that
-  /// nobody knows. After an answer that is not sure the client may read later ones out of step:
-  /// they are then held against its queries and job headers only.
+  /// Takes the answer to the last question. Without this call, the answer counts as unknown. After
+  /// an answer that is not sure, the client may take one answer for another: from then on only its
+  /// queries and job headers are checked against the answers.
   void Answered(const Answer& answer, StreamTime at);
 
-  /// The last command was a job header: its image header is still due.
+  /// Whether the last command was a job header, so that an image header must follow.
   bool ImageHeaderDue() const { return last_ == Command::JobHeader; }
 
-  /// The command taken last can only belong to the file of the settings block before it.
+  /// Whether the last command can only belong to the same file as the settings block before it.
   bool FileGoesOn() const { return fileGoesOn_; }
 
-  /// The status request taken last may be one for a sheet, and not the check with which a file
-  /// begins.
+  /// Whether the last status request may be one for a sheet, and not the one that begins a file.
   bool StatusAboutSheet() const { return aboutSheet_; }
 
-  /// The answers to the last status request and to the queries after it allow a sheet.
+  /// Whether the answers to the last status request and to the queries after it allow a sheet.
   bool SheetAllowed() const;
 
  private:
-  using Places = std::uint8_t;   // a set of places, by bits
-  using Answers = std::uint8_t;  // a set of what the client may have been answered, by bits
+  using Places = std::uint8_t;   // a set of places, as bits
+  using Answers = std::uint8_t;  // a set of answers that the client may have seen, as bits
   enum Place : Places {
     Between = 1,      // before, between and after the files
     Begun = 2,        // a file began with its status request
@@ -109,13 +110,13 @@ class Exchange {
 
   Places places_ = Between;
   Command last_ = Command::None;
-  std::uint64_t queries_ = 0;  // in this wait
+  std::uint64_t queries_ = 0;  // for this sheet
   bool twoPrints_ = true;      // of the last settings block; true while none is known
 
   bool inStep_ = true;      // every answer so far was sure
   Answers seen_ = Any;      // what the client may have seen as the last answer
-  Answers sent_ = Any;      // what it would make of the answer by itself; Any where others mix in
-  Answers meant_ = Any;     // what the printer said; Any when that is not known
+  Answers sent_ = Any;      // what was sent; Any where other bytes were sent with it
+  Answers meant_ = Any;     // what the printer meant; Any when that is not known
   Answers status_ = Any;    // meant_ of the last status request
   std::string words_;       // of the last answer
   StreamTime busySince_{};  // when the last answer went out, if it surely was busy

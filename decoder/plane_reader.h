@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Image and matte data gathered into rows. One row is all that is kept.
+// Collects image and matte data into rows, and keeps one row at most.
 #ifndef TQR7_DECODER_PLANE_READER_H
 #define TQR7_DECODER_PLANE_READER_H
 
@@ -14,13 +14,13 @@ namespace decoder {
 inline constexpr std::size_t kBytesPerPixel = 6;         ///< three samples of two bytes
 inline constexpr std::uint16_t kSampleMaximum = 0x3FFF;  ///< white, of the conversion library
 
-/// Counts a plane's bytes, whose sizes were checked before, and hands on whole rows.
+/// Reads one plane, whose size was checked before, row by row.
 class PlaneReader {
  public:
   /// Begins a plane of `rows` rows; either may be 0, for a plane without bytes.
   void Begin(std::size_t rowBytes, std::uint32_t rows);
 
-  /// Takes bytes up to the end of the row, and says how many. After RowComplete, take the row.
+  /// Takes bytes up to the end of the row, and returns how many. When RowComplete, use the row.
   std::size_t Take(std::span<const std::uint8_t> bytes);
 
   bool RowComplete() const { return rowBytes_ != 0 && row_.size() == rowBytes_; }
@@ -46,7 +46,7 @@ class PlaneReader {
   std::uint32_t rowNumber_ = 0;
 };
 
-/// A row's samples, which come low byte first. Keeps `samples`' memory.
+/// Reads a row's samples, which come low byte first. Uses the memory of `samples` again.
 void read_samples(std::span<const std::uint8_t> row, std::vector<std::uint16_t>& samples);
 
 /// How many samples are above 14 bits.

@@ -14,8 +14,8 @@
 namespace decoder {
 namespace {
 
-// What the largest profile's tables can take when they are read, with room to spare. A profile that
-// claims more is lying.
+// More than the tables of the largest profile need in memory. A profile that asks for more is
+// wrong.
 constexpr std::size_t kAllocationMost = std::size_t{64} << 20U;
 
 void* limited_malloc(cmsContext /*context*/, cmsUInt32Number size) {
@@ -30,7 +30,7 @@ void limited_free(cmsContext /*context*/, void* block) {
   std::free(block);
 }
 
-// Little CMS makes what is left empty (zeroed, counted and copied blocks) out of the first.
+// Little CMS derives the functions that are left empty from these.
 cmsPluginMemHandler limited_memory() {
   cmsPluginMemHandler handler{};
   handler.base = {cmsPluginMagicNumber, 2000, cmsPluginMemHandlerSig, nullptr};
@@ -40,7 +40,7 @@ cmsPluginMemHandler limited_memory() {
   return handler;
 }
 
-// The first thing that Little CMS has to say of a profile; nothing of it goes to standard error.
+// Keeps the first thing that Little CMS says of a profile. Nothing goes to standard error.
 void keep_first_words(cmsContext context, cmsUInt32Number /*code*/, const char* text) {
   auto* const words = static_cast<std::string*>(cmsGetContextUserData(context));
   if (words->empty()) {
@@ -50,7 +50,7 @@ void keep_first_words(cmsContext context, cmsUInt32Number /*code*/, const char* 
 
 using cms::Profile;
 
-// The screen with its encoding left away: the primaries and the white of sRGB.
+// A screen without its encoding: the primaries and the white of sRGB.
 Profile linear_screen(cmsContext context) {
   const cmsCIExyY white = {0.3127, 0.3290, 1.0};
   const cmsCIExyYTRIPLE primaries = {{0.64, 0.33, 1.0}, {0.30, 0.60, 1.0}, {0.15, 0.06, 1.0}};
@@ -65,18 +65,18 @@ bool has_any(cmsHPROFILE profile, const std::array<cmsTagSignature, N>& tags) {
                      [profile](cmsTagSignature tag) { return cmsIsTag(profile, tag) != 0; });
 }
 
-// Chains of elements as long as the file has room for: the time of a proof would have no bound.
+// They can be chains of elements as long as the file, so that the time for a proof has no limit.
 constexpr std::array kElementTags = {cmsSigDToB0Tag, cmsSigDToB1Tag, cmsSigDToB2Tag,
                                      cmsSigDToB3Tag};
 
-// Tables, which Little CMS takes before matrix and curves.
+// Tables, which Little CMS prefers to matrix and curves.
 constexpr std::array kTableTags = {cmsSigAToB0Tag, cmsSigAToB1Tag, cmsSigAToB2Tag};
 
 bool is_matrix(cmsHPROFILE profile) {
   return cmsIsMatrixShaper(profile) != 0 && !has_any(profile, kTableTags);
 }
 
-// Why a profile that can be read is none of a printer, or nothing.
+// Why a profile that can be read is not a printer's, or null.
 const char* unfitness(cmsHPROFILE profile) {
   if (cmsGetColorSpace(profile) != cmsSigRgbData) {
     return "not the profile of an RGB device";
@@ -129,8 +129,8 @@ struct ProfileLight::Engine {
     if (screen == nullptr) {
       return "no memory for Little CMS";
     }
-    // In floating point and as the profile says it: the tables that Little CMS else makes to be
-    // quicker are off by up to fourteen of 255 in the shadows.
+    // In floating point and without optimization: the tables that Little CMS would make to be
+    // faster are wrong by up to 14 of 255 in the shadows.
     transform = cmsCreateTransformTHR(context, device.get(), TYPE_RGB_16, screen.get(),
                                       TYPE_RGB_FLT, INTENT_RELATIVE_COLORIMETRIC,
                                       cmsFLAGS_NOOPTIMIZE | cmsFLAGS_BLACKPOINTCOMPENSATION);

@@ -10,18 +10,18 @@ namespace {
 
 using Block = RepeatedSettings::Block;
 
-// A file has one set of options for all of its sheets; only the rates are each sheet's own.
+// All sheets of a file have the same options; only the rates differ.
 bool is_files_setting(const FieldRule& rule) {
   return rule.offset != kOffsetRgbRate && rule.offset != kOffsetOpRate;
 }
 
-// A paper with a white border and one without have the same settings: the image's place tells them
-// apart.
+// A paper with a white border has the same settings as one without. Only the image's place is
+// different.
 bool is_place(const FieldRule& rule) {
   return rule.offset >= kOffsetImageLeft && rule.offset <= kOffsetImageHeight;
 }
 
-// Reports the first field of this kind that is not as on the file's sheet before; false then.
+// Reports the first field of this kind that differs from the file's last sheet; false then.
 bool repeats(const Block& block, const Block& before, bool (*counts)(const FieldRule&),
              Command command, std::uint64_t offset, const ErrorSink& report) {
   for (const FieldRule& rule : field_rules(command)) {
@@ -85,7 +85,7 @@ void RepeatedSettings::TakeImageHeader(const Block& block, std::uint64_t offset,
   query_.reset();
 }
 
-// The wait byte at a file's end is that of its sheets. A file without sheets has said none.
+// The wait byte at the end of a file is that of its sheets. A file without sheets has none.
 void RepeatedSettings::TakePrintOut(std::uint8_t wait, std::uint64_t offset, bool fileGoesOn,
                                     const ErrorSink& report) {
   if (wait_ && fileGoesOn && wait != *wait_) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Linear light to the 8-bit values of a screen, as sRGB encodes them.
+// Encodes linear light as the 8-bit values of a screen, as sRGB does.
 #ifndef TQR7_DECODER_SCREEN_ENCODING_H
 #define TQR7_DECODER_SCREEN_ENCODING_H
 
@@ -10,14 +10,14 @@
 
 namespace decoder {
 
-/// The encoding of IEC 61966-2-1, rounded to the nearest of 255 steps, without a power function a
-/// dot: an 8-bit value begins at an amount of light that is known beforehand.
+/// The encoding of IEC 61966-2-1, rounded to the nearest of 255 steps. It needs no power function
+/// for each dot, because it is known beforehand at which light each 8-bit value begins.
 class ScreenEncoding {
  public:
   ScreenEncoding();
 
-  /// `light`: 0 is black, 1 is white. What lies outside, or is no number, is shown as the nearer of
-  /// the two; no number is black.
+  /// `light`: 0 is black, 1 is white. Light outside of that becomes the nearer of the two; what is
+  /// not a number becomes black.
   std::uint8_t operator()(float light) const {
     const float inside = light > 0.0F ? (light < 1.0F ? light : 1.0F) : 0.0F;
     const Bin& bin = bins_[static_cast<std::size_t>(inside * kBins)];
@@ -25,13 +25,13 @@ class ScreenEncoding {
   }
 
  private:
-  // The darkest 8-bit values lie closest in light, 1 / (255 × 12.92) = 1 / 3295 apart: a bin this
-  // narrow holds one step at most.
+  // The darkest 8-bit values are closest together, 1 / (255 × 12.92) = 1 / 3295 of light apart.
+  // Bins as narrow as these have one step at most.
   static constexpr int kBins = 4096;
 
   struct Bin {
-    float step;          // where the next 8-bit value begins; above all light if in no such bin
-    std::uint8_t below;  // the value before that
+    float step;          // where the next 8-bit value begins; above 1 when not in this bin
+    std::uint8_t below;  // the 8-bit value before that
   };
   std::array<Bin, kBins + 1> bins_{};
 };

@@ -27,7 +27,7 @@ std::uint16_t on_16_bits(std::uint16_t sample) {
   return static_cast<std::uint16_t>((inside * 65535U + kSampleMaximum / 2U) / kSampleMaximum);
 }
 
-// The fourth is for the processor, which adds four at once.
+// The fourth value is unused: the processor adds four at once.
 struct alignas(16) Light {
   std::array<float, 4> rgb;
 };
@@ -107,7 +107,7 @@ struct SoftProof::Way {
 
   std::unique_ptr<const ProfileLight> profile;
   ScreenEncoding encode;
-  // Where the channels add up: quicker by far, and the same.
+  // Only where the channels add up. The result is the same, and much faster.
   Light black{};
   std::array<Channel, kChannels> channels;
 };

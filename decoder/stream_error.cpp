@@ -11,6 +11,16 @@ std::string to_string(const StreamError& error) {
          error.field + ": came " + error.came + ", allowed " + error.allowed;
 }
 
+std::string alternatives(const std::vector<std::string>& values) {
+  std::string text;
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    const bool last = i + 1 == values.size();
+    text += i == 0 ? "" : (last ? " or " : ", ");
+    text += values[i];
+  }
+  return text;
+}
+
 std::string hex_byte(unsigned value) {
   std::array<char, 8> text{};
   std::snprintf(text.data(), text.size(), "0x%02X", value & 0xFFU);

@@ -4,8 +4,7 @@
 #include <algorithm>
 #include <string>
 
-#include "decoder/date_check.h"
-#include "decoder/geometry_check.h"
+#include "decoder/header_check.h"
 
 namespace decoder {
 namespace {
@@ -46,7 +45,7 @@ void StreamParser::Feed(Bytes bytes, StreamTime at) {
   }
 }
 
-// Each way to take bytes moves offset_ itself, before it finishes what the bytes complete.
+// Each Take… function moves offset_ itself, before it finishes what the bytes complete.
 std::size_t StreamParser::Step(Bytes bytes) {
   switch (mode_) {
     case Mode::Code:

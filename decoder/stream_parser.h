@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The printer's command stream taken apart: bytes in, in pieces of any size; commands, rows of
-// pixels and errors out.
+// Parses the printer's command stream. It takes bytes in pieces of any size, and reports commands,
+// rows of pixels and errors.
 //
-// Memory is one command and one row of the widest sheet, whatever comes: sizes are held against the
-// table of papers before anything is made of them.
+// Whatever comes, it needs memory for one command and one row of the widest sheet: sizes are
+// checked against the table of papers before they are used.
 //
-// After an error the stream is taken up again like this:
-// - a wrong field in a command whose code is right: the command's length is known, reading goes on
-//   behind it;
-// - an image header with wrong sizes, or without a usable job header before it: how many bytes of
-//   pixels follow cannot be known, so the next command code is looked for;
-// - bytes that begin no command: the next command code is looked for, from the second byte on;
-// - a command out of order counts as come, and order goes on from there.
+// How it goes on after an error:
+// - A wrong field in a command whose code is right: the command's length is known, so it goes on
+// after
+//   the command.
+// - An image header with wrong sizes, or without a correct job header before it: it is not known
+// how many
+//   bytes of pixels follow, so it looks for the next command code.
+// - Bytes that begin no command: it looks for the next command code, from the second byte on.
+// - A command out of order: it goes on as if the command had been in order.
 // Every step takes at least one byte, so the parser ends with its input.
 #ifndef TQR7_DECODER_STREAM_PARSER_H
 #define TQR7_DECODER_STREAM_PARSER_H
@@ -32,7 +34,7 @@
 
 namespace decoder {
 
-/// Reads one connection's or one file's stream.
+/// Parses the stream of one connection or one file.
 class StreamParser {
  public:
   /// The listener must outlive the parser.
@@ -41,18 +43,18 @@ class StreamParser {
   StreamParser& operator=(const StreamParser&) = delete;
   ~StreamParser() = default;
 
-  /// Takes the next bytes of the stream, and when they came, where that is to be checked.
+  /// Takes the next bytes of the stream; also when they came, if that is to be checked.
   void Feed(std::span<const std::uint8_t> bytes, StreamTime at = {});
 
-  /// What the printer answers to the question that the listener was told last, and since when; as
-  /// Exchange has it.
+  /// Takes the printer's answer to the last question that the listener got, and when it was sent.
+  /// See Exchange::Answered.
   void Answered(const Answer& answer, StreamTime at = {}) { exchange_.Answered(answer, at); }
 
-  /// What the questions and their answers so far make of the next sheet.
+  /// The exchange so far.
   const Exchange& Course() const { return exchange_; }
 
-  /// No more bytes come: reports what is incomplete and how many bytes are missing. A stream may
-  /// end after any whole command but a job header. Feed nothing afterwards.
+  /// Ends the stream: reports what is incomplete and how many bytes are missing. A stream may end
+  /// after any whole command except a job header. Feed nothing afterwards.
   void EndOfStream();
 
   /// Bytes taken so far.
@@ -61,7 +63,8 @@ class StreamParser {
   /// Errors reported so far.
   std::uint64_t ErrorCount() const { return errorCount_; }
 
-  /// What the parser is in: a whole command's beginning, a plane, or Command::None in between.
+  /// What the parser is reading: a command whose code has come, a plane, or Command::None in
+  /// between.
   Command Within() const;
 
  private:
@@ -101,7 +104,7 @@ class StreamParser {
 
   Mode mode_ = Mode::Code;
   std::uint64_t offset_ = 0;
-  StreamTime at_{};  ///< when the bytes being taken came
+  StreamTime at_{};  ///< when the current bytes came
   std::uint64_t errorCount_ = 0;
   std::uint64_t searchFrom_ = 0;
   std::uint64_t badSamples_ = 0;
@@ -111,7 +114,7 @@ class StreamParser {
   const CommandCode* code_ = nullptr;
 
   RepeatedSettings settings_;
-  std::optional<JobHeader> job_;  ///< a job header whose sheet is a paper's
+  std::optional<JobHeader> job_;  ///< the job header before, if a paper has its sheet's size
   Sheet sheet_{};
 };
 

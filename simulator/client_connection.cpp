@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <cerrno>
 
-#include "simulator/error_words.h"
+#include "simulator/wording.h"
 
 namespace simulator {
 namespace {
@@ -18,7 +18,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kSendTimeout{10000};
-// The smallest buffer that systems give, and one above what they give: they cut it down.
+// The smallest buffer that systems allow, and one larger than they allow: they cut it down.
 constexpr std::uint64_t kSmallestBuffer = 65536;
 constexpr std::uint64_t kLargestBuffer = 1 << 20;
 constexpr std::uint64_t kBuffersPerSecond = 4;
@@ -34,7 +34,7 @@ bool is_temporary(int errorNumber) {
 ClientConnection::ClientConnection(int socket, const Waiter& waiter)
     : socket_(socket), waiter_(waiter) {
   const int on = 1;
-  // Answers leave at once, and a client that vanished without a word is noticed in the end.
+  // Answers are sent at once. A client that vanished silently is noticed after some time.
   ::setsockopt(socket_, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
   ::setsockopt(socket_, SOL_SOCKET, SO_KEEPALIVE, &on, sizeof on);
 }
@@ -72,7 +72,7 @@ Received ClientConnection::ReceiveNow(std::size_t most, bool& again) {
   if (count > 0) {
     received_ = static_cast<std::size_t>(count);
     if (bytesPerSecond_) {
-      // A wait that ended late is made up for; a time in which nothing came is not.
+      // Makes up for a wait that ended late, but not for a time in which nothing came.
       nextRead_ = std::max(nextRead_, Clock::now() - kCatchUp) +
                   std::chrono::nanoseconds(std::nano::den * received_ / *bytesPerSecond_);
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// One client on the network: bytes from it, answers to it, and every way in which that can end.
+// One client on the network: reads its bytes, sends it answers, and reports how either ended.
 #ifndef TQR7_SIMULATOR_CLIENT_CONNECTION_H
 #define TQR7_SIMULATOR_CLIENT_CONNECTION_H
 
@@ -18,9 +18,9 @@ namespace simulator {
 /// How a wait for bytes ended.
 enum class Received : std::uint8_t {
   Bytes,
-  EndOfStream,  ///< the client has sent all
-  Broken,       ///< the network gave up; see Error
-  Stop,         ///< the simulator shall end
+  EndOfStream,  ///< the client has sent everything
+  Broken,       ///< the connection failed; Error says why
+  Stop,         ///< the simulator is to stop
 };
 
 /// Owns a connected socket.
@@ -32,22 +32,24 @@ class ClientConnection {
   ClientConnection& operator=(const ClientConnection&) = delete;
   ~ClientConnection();
 
-  /// Reads no more than so many bytes a second from now on, or as they come. What is not read stays
-  /// in the network's buffers, which are kept small for as long: the client feels it.
+  /// From now on reads at most so many bytes a second; without a number, as they come. What is not
+  /// read stays in the network's buffers. They are kept small meanwhile, so that the client has to
+  /// wait.
   void ReadSlowly(std::optional<std::uint64_t> bytesPerSecond);
 
-  /// Waits for bytes, `most` at most, which is above 0; Bytes() has them until the next call.
+  /// Waits for bytes and takes at most `most` of them, which is above 0. Bytes() returns them until
+  /// the next call.
   Received Receive(std::uint64_t most);
   std::span<const std::uint8_t> Bytes() const { return std::span(buffer_).first(received_); }
 
-  /// Whether Receive would find something at once.
+  /// Whether Receive would return at once.
   bool BytesWait() const;
 
-  /// Sends all of it, in one piece where the network allows. A client that takes nothing for ten
-  /// seconds counts as gone. False on failure; Error says why.
+  /// Sends all bytes, in one piece if the network allows it. Gives up when the client takes nothing
+  /// for ten seconds. False on failure; Error says why.
   bool Send(std::span<const std::uint8_t> bytes);
 
-  /// Closes hard in the end: the client gets a reset and no end of file.
+  /// When the connection is closed, the client will get a reset instead of an end of file.
   void CloseHard();
 
   const std::string& Error() const { return error_; }

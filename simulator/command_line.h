@@ -13,7 +13,7 @@
 
 namespace simulator {
 
-/// What the person asked for.
+/// What the command line asks for.
 struct Options {
   std::string address = "127.0.0.1";
   std::uint16_t port = 9100;  ///< 0: a free one
@@ -23,10 +23,10 @@ struct Options {
   std::string record;    ///< empty: no record
   std::string timeline;  ///< empty: none
   decoder::ProofChoice proof;
-  bool marks = false;           ///< cut and border drawn into the sheets
-  bool contactSheet = false;    ///< a page of all sheets
-  bool verbose = false;         ///< every field is said
-  bool simulatedClock = false;  ///< no pace of clients is held
+  bool marks = false;           ///< draws cut and border into the sheets
+  bool contactSheet = false;    ///< keeps a page of all sheets
+  bool verbose = false;         ///< says every field of every command
+  bool simulatedClock = false;  ///< does not check how soon clients ask again
   std::optional<std::uint64_t> connections;
 };
 
@@ -35,7 +35,8 @@ inline constexpr int kExitErrorsSeen = 1;  ///< wrong streams, or something coul
 inline constexpr int kExitCannotStart =
     2;  ///< wrong options or rules, port taken, no output folder
 
-/// Reads the options, or says why not and returns the exit status that the program shall end with.
+/// Reads the options. When the program is to end, because it has shown its help or because an
+/// option is wrong, returns its exit status.
 std::optional<int> read_command_line(int argc, const char* const* argv, Options& options);
 
 }  // namespace simulator

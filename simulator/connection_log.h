@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The event lines of one connection, with its number before each, and its errors counted.
+// The event lines of one connection, with its number before each, and the counts of the run.
 #ifndef TQR7_SIMULATOR_CONNECTION_LOG_H
 #define TQR7_SIMULATOR_CONNECTION_LOG_H
 
@@ -9,12 +9,19 @@
 
 #include "decoder/stream_error.h"
 #include "simulator/contact_sheet.h"
-#include "simulator/tally.h"
 
 namespace simulator {
 
-/// Says what happens on a connection, and adds its errors and failures to the run's and to the
-/// contact sheet.
+/// Counts of the whole run. `failures` are things that the simulator could not write.
+struct Tally {
+  std::uint64_t connections = 0;
+  std::uint64_t sheets = 0;
+  std::uint64_t errors = 0;
+  std::uint64_t failures = 0;
+};
+
+/// Says what happens on a connection. Counts its errors and failures in the tally of the run, and
+/// lists them on the contact sheet.
 class ConnectionLog {
  public:
   /// `contactSheet` may be null.
@@ -25,11 +32,10 @@ class ConnectionLog {
 
   void Say(const std::string& text) const;
 
-  /// Something could not be written.
+  /// Says what could not be written.
   void SayFailure(const std::string& text);
 
-  /// After a hundred lines of errors and skipped bytes the further ones are counted only: a stream
-  /// of garbage could fill a disk with lines.
+  /// Both only count after a hundred lines: a stream of garbage could fill a disk with lines.
   void SayError(const decoder::StreamError& error);
   void SaySkipped(std::uint64_t offset, std::uint64_t count);
 

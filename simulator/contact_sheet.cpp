@@ -6,7 +6,6 @@
 #include <cerrno>
 #include <cstdio>
 
-#include "simulator/error_words.h"
 #include "simulator/wording.h"
 
 namespace simulator {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A run in one page: DIR/index.html shows each printed sheet small, with the fields of its headers,
-// and the errors. It is plain HTML that a browser opens from the folder.
+// A page on the whole run: DIR/index.html shows the errors and a small picture of each printed
+// sheet with the fields of its headers. It is plain HTML that a browser opens from the folder.
 #ifndef TQR7_SIMULATOR_CONTACT_SHEET_H
 #define TQR7_SIMULATOR_CONTACT_SHEET_H
 
@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "decoder/named_fields.h"
+#include "decoder/command_blocks.h"
 
 namespace simulator {
 
@@ -24,10 +24,10 @@ struct ContactEntry {
   std::vector<decoder::NamedField> image;
 };
 
-/// Text as HTML shows it, in attributes, too.
+/// The text escaped for HTML, also for attributes.
 std::string escaped(const std::string& text);
 
-/// Gathers a run.
+/// Collects what the page shows.
 class ContactSheet {
  public:
   /// Begins the page, without sheets. Returns what went wrong, or nothing.
@@ -36,12 +36,12 @@ class ContactSheet {
   /// Adds a sheet and writes the page anew. Returns what went wrong, or nothing.
   std::string Add(const ContactEntry& entry);
 
-  /// Adds an error or a failure, for the next time that the page is written. After a thousand the
-  /// further ones are counted only.
+  /// Adds an error or a failure, which the page shows when it is written next. Only counts those
+  /// after the first thousand.
   void AddError(const std::string& line);
 
-  /// Writes the page, under another name until it is whole, when there is something new. Returns
-  /// what went wrong, or nothing.
+  /// Writes the page if there is something new on it. It has another name until it is whole.
+  /// Returns what went wrong, or nothing.
   std::string Write();
 
  private:

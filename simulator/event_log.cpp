@@ -13,8 +13,7 @@ namespace {
 
 constexpr const char* kClearLine = "\r\033[K";
 
-// Of the one standard output.
-bool progressShown = false;
+bool progressShown = false;  // on standard output, of which there is one
 
 std::string take_progress_away() {
   const bool shown = progressShown;
@@ -43,6 +42,15 @@ std::string local_time() {
   return text.data();
 }
 
+void show_progress(const std::string& text) {
+  static const bool terminal = ::isatty(STDOUT_FILENO) == 1;
+  if (terminal) {
+    std::fprintf(stdout, "%s%s", kClearLine, text.c_str());
+    std::fflush(stdout);
+    progressShown = true;
+  }
+}
+
 }  // namespace
 
 void log_first_line(const std::string& line) {
@@ -53,18 +61,20 @@ void log_event(const std::string& line) {
   write_line(local_time() + " " + line);
 }
 
-bool progress_is_shown() {
-  static const bool terminal = ::isatty(STDOUT_FILENO) == 1;
-  return terminal;
+void SheetProgress::Begin(std::uint32_t rows) {
+  rows_ = rows;
+  rowsIn_ = 0;
 }
 
-void show_progress(const std::string& text) {
-  if (!progress_is_shown()) {
-    return;
+void SheetProgress::Row() {
+  constexpr std::uint32_t kWhole = 100;
+  const std::uint32_t before = kWhole * rowsIn_ / rows_;
+  ++rowsIn_;
+  const std::uint32_t now = kWhole * rowsIn_ / rows_;
+  if (now != before) {
+    show_progress("sheet: " + std::to_string(now) + " %, " + std::to_string(rowsIn_) + " of " +
+                  std::to_string(rows_) + " rows");
   }
-  std::fprintf(stdout, "%s%s", kClearLine, text.c_str());
-  std::fflush(stdout);
-  progressShown = true;
 }
 
 }  // namespace simulator

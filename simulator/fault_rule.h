@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// One rule of what goes wrong with the simulated printer: from which moment on, what, and for how
-// long.
+// One rule of what goes wrong with the simulated printer: what, from when on, and for how long.
 #ifndef TQR7_SIMULATOR_FAULT_RULE_H
 #define TQR7_SIMULATOR_FAULT_RULE_H
 
@@ -12,7 +11,7 @@
 
 namespace simulator {
 
-/// From when on a rule counts.
+/// When a rule begins.
 struct Moment {
   enum class Kind : std::uint8_t {
     Beginning,
@@ -25,12 +24,12 @@ struct Moment {
   bool operator==(const Moment&) const = default;
 };
 
-/// How long a fault shows, once it does.
+/// How long a fault lasts after it first showed.
 struct Extent {
   enum class Kind : std::uint8_t {
-    Standing,  ///< until somebody sees to the printer
+    Standing,  ///< until a person sees to the printer
     Time,      ///< for `time`
-    Times,     ///< `times` answers or connections
+    Times,     ///< in `times` answers or connections
   };
   Kind kind = Kind::Standing;
   std::chrono::milliseconds time{0};
@@ -39,10 +38,10 @@ struct Extent {
   bool operator==(const Extent&) const = default;
 };
 
-/// Which of the two questions of the stream an answer's fault is about.
+/// Which of the stream's two questions the answer belongs to.
 enum class Question : std::uint8_t { Status, Readiness };
 
-/// What goes wrong. The comments say which of the other values counts.
+/// What goes wrong. The comments say which of the other fields is used.
 struct Fault {
   enum class Kind : std::uint8_t {
     Status,  ///< `number`

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "simulator/printer_answers.h"
 #include "simulator/wording.h"
 
 namespace simulator {
@@ -19,7 +18,8 @@ bool is_of_connections(const Fault& fault) {
   return fault.kind == Kind::Drop || fault.kind == Kind::Read;
 }
 
-// The first number that is not good wins.
+// Sets the answer's number; false when an earlier rule has set it, or the number says that all is
+// well.
 bool set_number(AnswerPlan& plan, std::uint16_t number) {
   if (plan.number != 0 || number == 0) {
     return false;
@@ -28,6 +28,7 @@ bool set_number(AnswerPlan& plan, std::uint16_t number) {
   return true;
 }
 
+// Sets a value; false when an earlier rule has set it.
 template <typename T>
 bool set_once(T& place, const T& value) {
   if (place != T{}) {
@@ -37,7 +38,7 @@ bool set_once(T& place, const T& value) {
   return true;
 }
 
-// Faults of the answer's way; of several of one kind the first counts.
+// Applies a fault that changes how the answer is sent; false when it changes nothing.
 bool change_way(const Fault& fault, AnswerPlan& plan) {
   switch (fault.kind) {
     case Kind::Late:
@@ -133,7 +134,7 @@ bool FaultSchedule::SuppliesLeft() const {
 
 void FaultSchedule::Show(Entry& entry) {
   if (is_of_connections(entry.rule.fault) && entry.shownInJob == jobs_) {
-    return;  // a connection counts once
+    return;  // it counts once in a connection
   }
   entry.shownInJob = jobs_;
   ++entry.shown;
@@ -153,7 +154,7 @@ void FaultSchedule::End(Entry& entry, const std::string& why) {
   tell_("fault \"" + to_string(entry.rule) + "\" ended: " + why);
 }
 
-// Whether the entry makes the answer another one.
+// Applies the fault to the answer; false when that changes nothing.
 bool FaultSchedule::Changes(const Entry& entry, Question question, AnswerPlan& plan) const {
   const Fault& fault = entry.rule.fault;
   const bool status = question == Question::Status;
@@ -231,15 +232,15 @@ void FaultSchedule::SeenTo() {
   tell_("a person has seen to the printer");
   for (Entry& entry : entries_) {
     const Fault& fault = entry.rule.fault;
-    const bool stands =
+    const bool endless =
         entry.rule.extent.kind == Extent::Kind::Standing && fault.kind != Kind::Busy;
-    if (entry.holds && (stands || is_supply(fault) || fault.kind == Kind::Cover)) {
+    if (entry.holds && (endless || is_supply(fault) || fault.kind == Kind::Cover)) {
       End(entry, "a person has seen to it");
     }
   }
 }
 
-// A connection that a fault shows in is its whole time.
+// A slow connection stays slow to its end, even when it is the last one that the rule counts.
 bool FaultSchedule::ShownEnough(const Entry& entry) const {
   const Fault& fault = entry.rule.fault;
   if (fault.kind == Kind::Busy) {

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Which faults hold now: the rules in their order, what has happened so far, and the clock.
+// Which faults are active now, by the rules in their order, by what has happened so far and by the
+// clock.
 //
-// A rule waits for its moment, then holds; it shows when it first changes what a client sees, and
-// time and times of its extent count from there.
+// A rule is active ("holds") from its moment to its end. A client may not notice at once: the fault
+// "shows" when it first changes what a client sees. How long or how often it lasts is counted from
+// then on.
 #ifndef TQR7_SIMULATOR_FAULT_SCHEDULE_H
 #define TQR7_SIMULATOR_FAULT_SCHEDULE_H
 
@@ -20,49 +22,48 @@
 
 namespace simulator {
 
-/// The printer's mind for the whole run. What it is asked and told is that of one connection after
-/// another.
+/// The faults of a whole run, in which connections come one after another.
 class FaultSchedule {
  public:
   using TimePoint = std::chrono::steady_clock::time_point;
   using Now = std::function<TimePoint()>;
   using Tell = std::function<void(const std::string& line)>;
 
-  /// `tell` gets a line when a fault begins to show and when it ends.
+  /// Calls `tell` with a line when a fault begins to show and when it ends.
   FaultSchedule(Now now, Tell tell) : now_(std::move(now)), tell_(std::move(tell)) {}
 
-  /// Adds rules behind those that are there.
+  /// Adds rules after the present ones.
   void Add(const std::vector<FaultRule>& rules);
 
-  /// Puts a script in the place of the script before it, and begins it anew: its jobs and sheets
-  /// count from here. Other rules, and the script's own place among them, stay.
+  /// Replaces the rules of the last script by those of a new one, whose jobs and sheets are counted
+  /// from now on. The script keeps its place among the other rules, which stay.
   void SetScript(const std::vector<FaultRule>& rules);
 
   void ConnectionOpens();
   void ConnectionCloses();
   void SheetPrinted();
 
-  /// How the question is answered now. `aboutSheet`: it is one of those asked before a sheet.
+  /// How the question is answered now. `aboutSheet`: it is one of the questions before a sheet.
   AnswerPlan Answer(Question question, bool aboutSheet);
 
-  /// False while there is no paper or no ribbon.
+  /// False while paper or ribbon is used up.
   bool SuppliesLeft() const;
 
-  /// At which byte of the connection it is dropped, if at any. Drop says that it was.
+  /// The byte at which the connection is to be dropped, if at any. Call Drop when it was dropped.
   std::optional<std::uint64_t> DropAt() const;
   void Drop();
 
-  /// How slowly bytes are read now; nothing when they are read as they come.
+  /// The limit on reading now; nothing when bytes are read as they come.
   std::optional<std::uint64_t> BytesPerSecond();
 
-  /// A person has seen to the printer: ends what holds and has no end of its own, and every want of
-  /// paper or ribbon and every open cover.
+  /// A person has seen to the printer. Ends the active faults that have no end of their own, and
+  /// all those of paper, ribbon and cover.
   void SeenTo();
 
-  /// Ends what has shown often enough, and says so; due when an answer is out.
+  /// Ends the faults that have shown often enough. Call it after each answer.
   void EndByCount();
 
-  /// Ends what has shown long enough, and says so. NextEnd is when to call it again at the latest.
+  /// Ends the faults that have shown long enough. Call it again at NextEnd at the latest.
   void EndByTime();
   std::optional<TimePoint> NextEnd() const;
 
@@ -70,13 +71,13 @@ class FaultSchedule {
   struct Entry {
     FaultRule rule;
     bool fromScript = false;
-    std::uint64_t jobsBefore = 0;    ///< of the run, when the rule came
-    std::uint64_t sheetsBefore = 0;  ///< of the run, when the rule came
+    std::uint64_t jobsBefore = 0;    ///< of the run, when the rule was added
+    std::uint64_t sheetsBefore = 0;  ///< of the run, when the rule was added
     bool holds = false;              ///< its moment has come, and its end has not
     bool over = false;
-    std::uint64_t shown = 0;       ///< answers or connections
-    std::uint64_t shownInJob = 0;  ///< the connection that showed it last, by its number
-    std::uint64_t sheetsLeft = 0;  ///< of a supply
+    std::uint64_t shown = 0;       ///< in how many answers or connections
+    std::uint64_t shownInJob = 0;  ///< the number of the last connection that it showed in
+    std::uint64_t sheetsLeft = 0;  ///< until paper or ribbon is used up
     std::optional<TimePoint> end;
   };
 

@@ -5,7 +5,8 @@
 #include <array>
 #include <optional>
 
-#include "simulator/printer_answers.h"
+#include "decoder/stream_error.h"
+#include "simulator/answer_plan.h"
 #include "simulator/rule_words.h"
 
 namespace simulator {
@@ -20,24 +21,21 @@ constexpr std::size_t kStrayMost = 512;
 constexpr std::array<std::string_view, 8> kFaultWords{"status", "enable", "busy",   "drop",
                                                       "read",   "paper",  "ribbon", "cover"};
 
-// "status", "enable", … or "cover"
+// "status", "enable", … or "cover", in quotation marks.
 std::string fault_alternatives() {
-  std::string text;
+  std::vector<std::string> quoted;
+  quoted.reserve(kFaultWords.size());
   for (const std::string_view word : kFaultWords) {
-    const std::string quoted = '"' + std::string(word) + '"';
-    if (word != kFaultWords.front()) {
-      text += word == kFaultWords.back() ? " or " : ", ";
-    }
-    text += quoted;
+    quoted.push_back('"' + std::string(word) + '"');
   }
-  return text;
+  return decoder::alternatives(quoted);
 }
 
 std::uint64_t reply_length(Question question) {
   return question == Question::Status ? kStatusAnswerLength : kReadinessAnswerLength;
 }
 
-// A number that begins "K times" and not another item of a list.
+// Whether the next number begins "K times" and is not another item of a list.
 bool times_follow(const RuleWords& words) {
   return words.Next(1) == "times";
 }
@@ -73,7 +71,7 @@ bool take_pieces(RuleWords& words, Fault& fault) {
   return true;
 }
 
-// The words that may follow a list of bytes are none of two characters.
+// No word that may follow a list of bytes has two characters.
 bool take_stray(RuleWords& words, Fault& fault) {
   do {
     const std::optional<std::uint8_t> byte = words.Byte();
@@ -107,7 +105,7 @@ bool take_answer_fault(RuleWords& words, Question question, Fault& fault) {
     fault.kind = Fault::Kind::Silent;
     return true;
   }
-  // The number decides which question it is about.
+  // The kind says which question it is about.
   fault.question = Question::Status;
   fault.kind = question == Question::Status ? Fault::Kind::Status : Fault::Kind::Enable;
   const std::optional<std::uint64_t> number =
@@ -172,7 +170,7 @@ bool take_moment(RuleWords& words, Moment& moment) {
   return take_count(words, 1, kCountMost, moment.number) && words.Require(":");
 }
 
-// Of "busy K" the K is how often it shows: times of its own would say that again.
+// "busy K" says already how often, so it takes no "K times".
 bool take_extent(RuleWords& words, const Fault& fault, Extent& extent) {
   const bool mayCount = fault.kind != Fault::Kind::Busy;
   if (words.AtEnd()) {

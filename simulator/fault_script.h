@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Rules of faults read from text: one rule of the command line, or a script with one a line.
+// Reads the rules of faults from text: a single one on the command line, or a script with one on
+// each line.
 //
 //   RULE   = [MOMENT ":"] FAULT [EXTENT]
 //   MOMENT = "job" N | "sheet" N
@@ -21,27 +22,27 @@
 
 namespace simulator {
 
-/// Where a text stops being a rule. Lines and columns count from 1, columns in bytes.
+/// The place where a text is no longer a rule. Lines and columns count from 1, columns in bytes.
 struct ScriptError {
   std::size_t line;
   std::size_t column;
-  std::string came;      ///< a word in quotation marks, or that the rule ended
+  std::string came;      ///< a word in quotation marks, or "the end of the rule"
   std::string expected;  ///< what could have stood there
 };
 
 /// `came "x", expected a number`
 std::string to_string(const ScriptError& error);
 
-/// What a text holds: its rules, or what is wrong with it (the first of it).
+/// A text's rules, or the first thing that is wrong with it.
 struct Script {
   std::vector<FaultRule> rules;
   std::vector<ScriptError> errors;  ///< none or one
 };
 
-/// Reads one rule, which must not be empty; `line` is what an error names as its line.
+/// Reads one rule, which must not be empty. An error gets `line` as its line.
 Script read_rule(std::string_view text, std::size_t line);
 
-/// Reads a script: one rule a line, `#` begins a comment, empty lines say nothing.
+/// Reads a script: one rule on each line; `#` begins a comment; empty lines are allowed.
 Script read_script(std::string_view text);
 
 }  // namespace simulator

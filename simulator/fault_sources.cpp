@@ -5,8 +5,8 @@
 #include <cerrno>
 #include <cstdio>
 
-#include "simulator/error_words.h"
 #include "simulator/fault_script.h"
+#include "simulator/wording.h"
 
 namespace simulator {
 namespace {

@@ -13,7 +13,7 @@
 
 namespace simulator {
 
-/// As given on the command line.
+/// The rules as they are on the command line.
 struct FaultSources {
   std::vector<std::string> rules;
   std::string script;  ///< a file; empty: none
@@ -25,7 +25,7 @@ struct FaultSources {
 /// Fills an empty schedule. Returns what is wrong, with its place, or nothing.
 std::string load_faults(const FaultSources& sources, FaultSchedule& schedule);
 
-/// Reads the script again and begins it anew; a script that is wrong leaves the old one. Returns
+/// Reads the script again and begins it anew. When it is wrong, the old one stays in use. Returns
 /// what is wrong, with its place, or nothing.
 std::string reload_script(const std::string& path, FaultSchedule& schedule);
 

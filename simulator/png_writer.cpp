@@ -10,23 +10,23 @@
 #include <csetjmp>
 #include <cstring>
 
-#include "simulator/error_words.h"
+#include "simulator/wording.h"
 
 namespace simulator {
 namespace {
 
 constexpr png_uint_32 kDotsPerMetre = 11811;  // 300 dpi
-// Little of the run time, and files about a tenth larger than with the slow levels.
+// Takes little time, for files that are about a tenth larger than with the slow levels.
 constexpr int kCompressionLevel = 2;
 
-// What libpng calls back with: why it stopped.
+// Why libpng stopped.
 struct Failure {
   int errorNumber;
   std::array<char, 128> message;
 };
 
-// libpng reports an error by not returning from this call: the jump ends in the functions below,
-// whose variables need no destruction.
+// libpng expects that this call does not return. It jumps into the functions below, whose variables
+// need no destruction.
 [[noreturn]] void on_error(png_structp png, png_const_charp message) {
   auto* const failure = static_cast<Failure*>(png_get_error_ptr(png));
   std::snprintf(failure->message.data(), failure->message.size(), "%s", message);
@@ -105,7 +105,7 @@ PngWriter::PngWriter(const std::filesystem::path& folder, std::uint32_t width, s
                      Meaning meaning)
     : temporaryPath_(folder / (".sheet-" + std::to_string(::getpid()) + ".part")),
       encoder_(std::make_unique<Encoder>()) {
-  // A link or a device that someone put under the hidden name is not followed.
+  // Does not follow a link that someone put under the hidden name.
   const int descriptor =
       ::open(temporaryPath_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0666);
   file_ = descriptor >= 0 ? ::fdopen(descriptor, "wb") : nullptr;

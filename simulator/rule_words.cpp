@@ -17,7 +17,7 @@ constexpr std::size_t kDecimalsMost = 3;  // milliseconds
 constexpr std::uint64_t kMilliseconds = 1000;
 constexpr std::uint64_t kSecondsMost = 86400;
 
-// A word as a message can show it: whatever bytes it has, and not without end.
+// A word as a message can show it, whatever bytes it has and however long it is.
 std::string quoted(std::string_view word) {
   std::string text = "\"";
   for (const char character : word.substr(0, kShownMost)) {

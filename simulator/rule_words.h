@@ -14,20 +14,20 @@
 
 namespace simulator {
 
-/// Words stand between blanks; a colon is a word of its own.
+/// Words are separated by blanks; a colon is a word by itself.
 class RuleWords {
  public:
   /// `text` must outlive the words.
   explicit RuleWords(std::string_view text);
 
-  /// The next word, empty at the end; `ahead` words later.
+  /// The word that comes next, or `ahead` words after it; empty at the end.
   std::string_view Next(std::size_t ahead = 0) const;
   bool AtEnd() const { return taken_ == words_.size(); }
 
   /// Takes the next word when it is this one.
   bool Take(std::string_view word);
 
-  /// As Take; a different word is an error.
+  /// Takes this word; any other is an error.
   bool Require(std::string_view word);
 
   /// Takes a number, decimal or hexadecimal after 0x; anything else is an error. `otherwise` says
@@ -35,16 +35,16 @@ class RuleWords {
   std::optional<std::uint64_t> Number(std::uint64_t low, std::uint64_t high,
                                       std::string_view otherwise = {});
 
-  /// Takes a time, "2.5 s", of one millisecond to a day.
+  /// Takes a time such as "2.5 s", from one millisecond to a day.
   std::optional<std::chrono::milliseconds> Time();
 
   /// Takes a byte written as two hexadecimal digits.
   std::optional<std::uint8_t> Byte();
 
-  /// The next word is none of what could stand there. Always false, to be handed on.
+  /// Notes that the next word is not what was expected. Always false, for the caller to return.
   bool Fail(const std::string& expected);
 
-  /// Of the first Fail: the column of the word, the word in quotation marks, what was expected.
+  /// What the first Fail noted: the word's column, the word in quotation marks, what was expected.
   std::size_t ErrorColumn() const { return errorColumn_; }
   const std::string& Came() const { return came_; }
   const std::string& Expected() const { return expected_; }
@@ -62,8 +62,8 @@ class RuleWords {
   std::string expected_;
 };
 
-/// A whole text as a number, decimal or hexadecimal behind 0x. A leading zero does not make it
-/// octal.
+/// The number that a text is, decimal, or hexadecimal after 0x; nothing when the text is no number.
+/// A leading zero does not make it octal.
 std::optional<std::uint64_t> read_number(std::string_view text);
 
 /// "a number from 1 to 65535", as messages say what was expected.

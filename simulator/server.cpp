@@ -12,7 +12,6 @@
 #include <cerrno>
 #include <memory>
 
-#include "simulator/error_words.h"
 #include "simulator/event_log.h"
 #include "simulator/wording.h"
 
@@ -59,8 +58,8 @@ std::uint16_t port_of(const sockaddr_storage& address) {
   return ntohs(reinterpret_cast<const sockaddr_in*>(&address)->sin_port);
 }
 
-// Errors after which the next client may do better; the pause keeps a lack of descriptors from
-// turning into a busy loop.
+// Whether the next client may be accepted after this error. Waits a moment where something is used
+// up, so that the caller does not loop without a pause.
 bool may_accept_again(int errorNumber) {
   switch (errorNumber) {
     case EINTR:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The printer's port: listens, and serves one client after another, as the printer does.
+// The printer's port: serves one client after another, as the printer does.
 #ifndef TQR7_SIMULATOR_SERVER_H
 #define TQR7_SIMULATOR_SERVER_H
 
@@ -24,12 +24,12 @@ class Server {
   /// or nothing.
   std::string Listen(const std::string& address, std::uint16_t port);
 
-  /// The port that is listened on.
+  /// The port that it listens on.
   std::uint16_t Port() const { return port_; }
 
-  /// Serves clients until a stop is asked for, or `connections` of them are served (no limit when
-  /// absent). A client that comes while another is served waits. Returns why no client can be taken
-  /// any more, or nothing.
+  /// Serves clients until the simulator is to stop, or until it has served `connections` of them. A
+  /// client that comes while another one is served has to wait. Returns why it cannot accept
+  /// further clients, or nothing.
   std::string Serve(Printer printer, const Waiter& waiter,
                     std::optional<std::uint64_t> connections);
 

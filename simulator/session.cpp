@@ -4,7 +4,6 @@
 #include <chrono>
 #include <limits>
 
-#include "simulator/printer_answers.h"
 #include "simulator/wording.h"
 
 namespace simulator {
@@ -28,7 +27,7 @@ void Session::NoteTime(const char* event) const {
   printer_.timeline.Note(log_.Number(), parser_.Offset(), event);
 }
 
-// Nothing when the connection is to be dropped before any further byte.
+// Returns nothing when the connection is to be dropped before the next byte.
 std::optional<Received> Session::ReceiveMore() {
   const std::uint64_t end = printer_.faults.DropAt().value_or(kNoEnd);
   if (parser_.Offset() >= end) {
@@ -37,8 +36,8 @@ std::optional<Received> Session::ReceiveMore() {
   const std::optional<std::uint64_t> rate = printer_.faults.BytesPerSecond();
   readsSlowly_ = readsSlowly_ || rate.has_value();
   client_.ReadSlowly(rate);
-  // The client comes first: a sheet is drawn while it has nothing to send, as in the pause behind
-  // the sheet.
+  // The client comes first: sheets are drawn only while it sends nothing, such as in the pause
+  // after a sheet.
   while (!client_.BytesWait() && printer_.sheets.Draw()) {
   }
   return client_.Receive(end - parser_.Offset());
@@ -80,7 +79,7 @@ void Session::TakeBytes() {
   parser_.Feed(client_.Bytes(), Now());
 }
 
-// Cut by the simulator itself: that is no error of the stream.
+// The simulator itself cuts the stream here, so this is no error of the stream.
 void Session::Cut(const std::string& how) {
   NoteTime(how.c_str());
   const decoder::Command within = parser_.Within();
@@ -136,7 +135,7 @@ void Session::GiveAnswer(const AnswerPlan& plan, Question question) {
                                                   : readiness_answer(plan.number));
   }
   decoder::Answer told = told_by(plan, question);
-  // The client waits a second: an answer that a busy machine held up may come too late.
+  // The client waits for one second, and on a busy machine an answer may take longer than that.
   const bool inTime = std::chrono::steady_clock::now() - asked < kSurelyInTime;
   told.sure = told.sure && inTime && !answersLost_ && !readsSlowly_;
   parser_.Answered(told, answered_);
@@ -204,7 +203,7 @@ void Session::OnSheetBegin(const decoder::Sheet& sheet) {
     return;
   }
   printer_.sheets.Begin(sheet);
-  progress_.Begin(sheet);
+  progress_.Begin(std::uint32_t{sheet.image.height} + sheet.image.matteHeight);
 }
 
 void Session::OnImageRow(std::uint32_t row, std::span<const std::uint16_t> samples) {

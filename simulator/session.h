@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// One connection from its first byte to its last: the stream is read, questions are answered,
-// sheets are printed, and everything is said.
+// One connection from its first byte to its last: reads the stream, answers the questions, prints
+// the sheets, and says what happens.
 #ifndef TQR7_SIMULATOR_SESSION_H
 #define TQR7_SIMULATOR_SESSION_H
 
@@ -12,16 +12,14 @@
 #include <vector>
 
 #include "decoder/command_listener.h"
-#include "decoder/named_fields.h"
 #include "decoder/stream_parser.h"
 #include "simulator/client_connection.h"
 #include "simulator/connection_log.h"
 #include "simulator/contact_sheet.h"
+#include "simulator/event_log.h"
 #include "simulator/fault_schedule.h"
 #include "simulator/sheet_printer.h"
-#include "simulator/sheet_progress.h"
 #include "simulator/stream_recorder.h"
-#include "simulator/tally.h"
 #include "simulator/timeline.h"
 #include "simulator/waiter.h"
 
@@ -34,9 +32,10 @@ struct Printer {
   StreamRecorder& recorder;
   Timeline& timeline;
   Tally& tally;
-  ContactSheet* contactSheet = nullptr;  ///< none: no such page is kept
-  bool verbose = false;                  ///< every field is said
-  bool simulatedClock = false;           ///< the clients have a clock of their own: no pace is held
+  ContactSheet* contactSheet = nullptr;  ///< null: no contact sheet is kept
+  bool verbose = false;                  ///< says every field of every command
+  bool simulatedClock = false;  ///< the clients have a clock of their own: how soon they ask is not
+                                ///< checked
 };
 
 /// Serves one client.
@@ -47,12 +46,12 @@ class Session : private decoder::CommandListener {
   Session(std::uint64_t number, const Printer& printer, ClientConnection& client,
           const Waiter& waiter);
 
-  /// Until the client has sent all, is gone or dropped, or the simulator shall stop; false for the
-  /// last. The
-  /// caller closes the connection, and should do so at once: clients wait for that.
+  /// Serves the client until it has sent everything, is gone or is dropped, or until the simulator
+  /// is to stop. False only when it is to stop. The caller must close the connection at once,
+  /// because clients wait for that.
   bool Run();
 
-  /// Says what the connection brought, when it is closed.
+  /// Sums the connection up in one line, after it was closed.
   void SayClosed();
 
  private:
@@ -90,7 +89,7 @@ class Session : private decoder::CommandListener {
   decoder::StreamParser parser_;
 
   bool answersLost_ = false;
-  bool readsSlowly_ = false;      ///< at some time: questions may lie unread
+  bool readsSlowly_ = false;      ///< now or earlier: questions may wait in the network's buffers
   decoder::StreamTime answered_;  ///< when the first bytes of the last answer went out
   decoder::Sheet sheet_{};
   SheetProgress progress_;

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <system_error>
 
-#include "simulator/error_words.h"
+#include "simulator/wording.h"
 
 namespace simulator {
 namespace {
@@ -21,7 +21,7 @@ constexpr std::string_view kPrinted = "sheet-";
 constexpr std::string_view kIncomplete = "incomplete-";
 constexpr std::string_view kSuffix = ".png";
 
-// The highest number that a run of this length can still count up from.
+// The highest number in the folder that counts: no run is so long that numbers after it run out.
 constexpr std::uint64_t kHighestNumber = 999'999'999;
 
 std::uint64_t number_in(std::string_view name, std::string_view prefix) {

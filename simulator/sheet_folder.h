@@ -10,16 +10,16 @@
 
 namespace simulator {
 
-/// Each sheet that is begun takes the next number. Numbering goes on behind the highest number that
-/// the folder already has, so that no earlier print is lost.
+/// Gives each sheet that begins the next number, starting after the highest number in the folder,
+/// so that no earlier print is lost.
 class SheetFolder {
  public:
-  /// Makes the folder where it is missing. Returns what is wrong with it, or nothing.
+  /// Creates the folder if it does not exist. Returns what is wrong with it, or nothing.
   std::string Open(const std::filesystem::path& folder);
 
   const std::filesystem::path& Path() const { return folder_; }
 
-  /// The next free number, taken.
+  /// Takes the next free number.
   std::uint64_t TakeNumber() { return nextNumber_++; }
 
   /// DIR/sheet-0001.png
@@ -32,7 +32,7 @@ class SheetFolder {
   std::filesystem::path Thumbnails() const { return folder_ / "thumbnails"; }
   std::filesystem::path ThumbnailName(std::uint64_t number) const;
 
-  /// Makes the folder for thumbnails where it is missing. Returns what went wrong, or nothing.
+  /// Creates the folder for thumbnails if it does not exist. Returns what went wrong, or nothing.
   std::string MakeThumbnails() const;
 
   /// Adds a line to DIR/sheets.txt. Returns what went wrong, or nothing.

@@ -47,7 +47,7 @@ void SheetMarks::DrawOutline(std::size_t row, std::span<std::uint8_t> dots) cons
   }
 }
 
-// Borders and cuts are the decoder's to judge: a sheet that comes here fits its paper.
+// The decoder has checked that border and cut are right for the paper.
 void SheetMarks::Draw(std::size_t row, std::span<std::uint8_t> dots) const {
   const std::size_t split = sheet_.job.twoUpSplit;
   if (split != 0 && (row + 1 == split || row == split)) {

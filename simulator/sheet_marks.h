@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // Lines drawn into a proof: where a sheet of two prints is cut, and where the white border begins.
-// They are two dots wide, in dashes of magenta and black: on any picture one of the two shows.
+// They are two dots wide, in dashes of magenta and black, one of which is visible on any picture.
 #ifndef TQR7_SIMULATOR_SHEET_MARKS_H
 #define TQR7_SIMULATOR_SHEET_MARKS_H
 
@@ -18,9 +18,9 @@ class SheetMarks {
  public:
   explicit SheetMarks(const decoder::Sheet& sheet) : sheet_(sheet) {}
 
-  /// Draws what lies in this row of the sheet. The cut line takes the last line of the one print
-  /// and the first of the other; the outline lies in the white, so that it hides no dot of the
-  /// picture.
+  /// Draws the marks that lie in this row of the sheet. The cut takes the last line of the first
+  /// print and the first line of the second. The outline lies in the white border, so that it hides
+  /// no dot of the picture.
   void Draw(std::size_t row, std::span<std::uint8_t> dots) const;
 
  private:

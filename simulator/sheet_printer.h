@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// From the rows of a sheet to its PNG and its line in the list.
+// Makes a sheet's PNG and its line in the list from its rows.
 #ifndef TQR7_SIMULATOR_SHEET_PRINTER_H
 #define TQR7_SIMULATOR_SHEET_PRINTER_H
 
@@ -26,40 +26,40 @@ namespace simulator {
 struct SheetResult {
   std::uint64_t number;
   std::filesystem::path path;  ///< of the PNG
-  std::string error;           ///< why there is no PNG; empty when there is
-  std::string listError;       ///< why its line is missing in the list; empty when it is not
+  std::string error;           ///< why there is no PNG; empty when there is one
+  std::string listError;       ///< why it is not in the list; empty when it is
   std::string thumbnailError;  ///< why there is no thumbnail though one was asked for
 };
 
-/// What is made of a sheet beside the plain picture.
+/// What is made of a sheet besides the plain picture.
 struct SheetExtras {
   bool marks = false;       ///< lines where it is cut and where its border begins
-  bool thumbnails = false;  ///< a small picture in the folder's folder for them
+  bool thumbnails = false;  ///< a small picture of each sheet
 };
 
-/// Prints one sheet after another into a folder. Holds one sheet at most.
+/// Prints one sheet after another into a folder, and keeps one sheet in memory at most.
 class SheetPrinter {
  public:
-  /// Sheets are drawn through `proof`, or show the device values when it is null. Folder and proof
-  /// must outlive the printer.
+  /// Draws sheets through `proof`; shows the device values when it is null. Folder and proof must
+  /// outlive the printer.
   SheetPrinter(SheetFolder& folder, const decoder::SoftProof* proof, SheetExtras extras = {})
       : folder_(folder), proof_(proof), extras_(extras) {}
 
-  /// A sheet lies in the printer, begun and neither ended nor cut.
+  /// Whether a sheet has begun, and has neither ended nor been cut.
   bool Busy() const { return page_ != nullptr; }
 
   void Begin(const decoder::Sheet& sheet);
   void ImageRow(std::uint32_t row, std::span<const std::uint16_t> samples);
   void MatteRow(std::uint32_t row, std::span<const std::uint8_t> bytes);
 
-  /// Draws one of the rows that are in; false when there is none to draw. End and Cut draw what is
-  /// left: this is for whoever has time in between.
+  /// Draws one of the rows that have come; false when there is none left. This uses idle time: End
+  /// and Cut draw all rows that are left.
   bool Draw() { return page_ != nullptr && page_->renderer.HandOnRow(); }
 
-  /// The sheet is whole: it counts as printed when its PNG is in place. Only while Busy.
+  /// The sheet is whole. It counts as printed once its PNG is written. Only while Busy.
   SheetResult End();
 
-  /// Nothing more comes: what came is kept under the name for incomplete sheets. Only while Busy.
+  /// The sheet stays incomplete, and gets a name for incomplete sheets. Only while Busy.
   SheetResult Cut();
 
  private:

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// One sheet as a person would see it: the image on its place on white paper, in 8-bit RGB, and the
-// matte texture over the whole of it.
+// One sheet as a person would see it: the image at its place on white paper, in 8-bit RGB, under
+// the matte texture.
 //
-// The colours come from a soft proof; without one a 14-bit value v is shown as it is, as
-// round(v × 255 / 16383). With a matte plane, a matte byte m scales each of the dot's values by
-// (1785 + m) / 2040: 0xFF, the full overcoat, leaves them, 0x00 takes an eighth away. The texture
-// so shows as a light grain, and the colours stay to be judged.
+// The colours come from a soft proof. Without one, a 14-bit value v is shown as round(v × 255 /
+// 16383). With a matte plane, a matte byte m scales each of the dot's values by (1785 + m) / 2040:
+// 0xFF, the full overcoat, does not change them, and 0x00 takes an eighth away. So the texture is a
+// light grain, through which the colours can still be judged.
 #ifndef TQR7_SIMULATOR_SHEET_RENDERER_H
 #define TQR7_SIMULATOR_SHEET_RENDERER_H
 
@@ -29,8 +29,8 @@ std::uint8_t sample_to_byte(std::uint16_t sample);
 /// The 8-bit value under a matte byte.
 std::uint8_t under_matte(std::uint8_t value, std::uint8_t matte);
 
-/// Draws one sheet, and hands each row on, from top to bottom, when nothing can change it any more
-/// and it is asked to. Holds the sheet's pixels, and no more than that.
+/// Draws one sheet and hands its rows on, from top to bottom. A row can be handed on once nothing
+/// can change it any more. Memory is that of the sheet's pixels.
 class SheetRenderer {
  public:
   /// `sheet` must have passed the decoder's checks. `proof` must outlive the renderer; null shows
@@ -39,13 +39,13 @@ class SheetRenderer {
 
   void ImageRow(std::uint32_t row, std::span<const std::uint16_t> samples);
 
-  /// Rows below the sheet's end, which a matte plane has, are not shown.
+  /// A matte plane has some rows more than its sheet, which are not shown.
   void MatteRow(std::uint32_t row, std::span<const std::uint8_t> bytes);
 
   /// Hands on the next row that nothing can change any more; false when there is none.
   bool HandOnRow();
 
-  /// Hands on all rows that are left as they stand: white where nothing came.
+  /// Hands on all rows that are left, white where nothing came.
   void Finish();
 
  private:
@@ -55,7 +55,7 @@ class SheetRenderer {
   const decoder::SoftProof* proof_;
   RowSink sink_;
   std::vector<std::uint8_t> pixels_;
-  std::size_t rowsDone_ = 0;  ///< from the top: nothing can change them
+  std::size_t rowsDone_ = 0;  ///< from the top: nothing can change them any more
   std::size_t rowsOut_ = 0;
 };
 

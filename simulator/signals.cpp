@@ -21,7 +21,7 @@ int wishesWriteEnd = -1;
 
 void write_byte(int descriptor, char byte) {
   const int savedErrno = errno;
-  // A full pipe has said it already.
+  // When the pipe is full, the reader will wake up anyway.
   [[maybe_unused]] const ssize_t written = ::write(descriptor, &byte, 1);
   errno = savedErrno;
 }
@@ -72,8 +72,8 @@ std::optional<SignalEnds> catch_signals() {
   if (ends.stop < 0 || ends.wishes < 0) {
     return std::nullopt;
   }
-  // Once each: a printer whose events nobody reads any more hangs in writing them, and a second one
-  // must end it.
+  // Only the first of each: the program may hang because nobody reads its events any more, and then
+  // a second signal must end it.
   handle({SIGTERM, SIGINT}, on_stop, static_cast<int>(SA_RESETHAND));
   handle({SIGUSR1}, on_seen_to);
   handle({SIGHUP}, on_reread);

@@ -3,7 +3,7 @@
 
 #include <cerrno>
 
-#include "simulator/error_words.h"
+#include "simulator/wording.h"
 
 namespace simulator {
 

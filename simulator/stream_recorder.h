@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A copy of every byte that came, as it came, for later inspection. The streams of several
-// connections stand one behind the other.
+// A copy of every byte that came, for later inspection. The streams of several connections follow
+// each other in one file.
 #ifndef TQR7_SIMULATOR_STREAM_RECORDER_H
 #define TQR7_SIMULATOR_STREAM_RECORDER_H
 
@@ -13,8 +13,7 @@
 
 namespace simulator {
 
-/// Writes to one file, or to none as long as it is not opened. Recording ends with the first
-/// failure.
+/// Writes to one file; does nothing until it is opened, and nothing after the first failure.
 class StreamRecorder {
  public:
   StreamRecorder() = default;
@@ -22,7 +21,7 @@ class StreamRecorder {
   StreamRecorder& operator=(const StreamRecorder&) = delete;
   ~StreamRecorder();
 
-  /// Begins the file anew. Returns what went wrong, or nothing.
+  /// Creates or empties the file. Returns what went wrong, or nothing.
   std::string Open(const std::filesystem::path& path);
 
   /// Adds bytes, which are in the file when the call returns. Returns what went wrong, or nothing.

@@ -34,7 +34,7 @@ void Thumbnail::AddRow(std::span<const std::uint8_t> row) {
   }
 }
 
-// The last column and the last row may stand for less than a whole square.
+// The squares of the last column and the last row may be cut off.
 void Thumbnail::FinishRow() {
   const std::size_t rows = (rowsIn_ - 1) % scale_ + 1;
   for (std::size_t i = 0; i < sums_.size(); ++i) {

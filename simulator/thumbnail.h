@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A sheet made small: each dot is the average of a square of the sheet's.
+// A small picture of a sheet: each dot is the average of a square of the sheet's dots.
 #ifndef TQR7_SIMULATOR_THUMBNAIL_H
 #define TQR7_SIMULATOR_THUMBNAIL_H
 
@@ -25,7 +25,7 @@ class Thumbnail {
   std::size_t Width() const { return width_; }
   std::size_t Height() const { return height_; }
 
-  /// The thumbnail's rows, once all of the sheet's are in; 3 bytes a dot.
+  /// A row of the thumbnail, 3 bytes a dot. Only after all rows of the sheet.
   std::span<const std::uint8_t> Row(std::size_t row) const;
 
  private:

@@ -5,12 +5,12 @@
 #include <cerrno>
 #include <cinttypes>
 
-#include "simulator/error_words.h"
+#include "simulator/wording.h"
 
 namespace simulator {
 namespace {
 
-// A sheet of the largest paper comes in some 450 pieces, with a line for each.
+// The largest sheet comes in some 450 pieces, each of which has a line.
 constexpr std::size_t kBufferLength = 65536;
 
 }  // namespace

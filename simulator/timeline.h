@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// When what came: a line for each event of the connections, by the clock that other programs' logs
-// go by, so that the lines can be laid beside those.
+// What happened when: a line for each event of the connections, with the time of the clock that
+// other programs use in their logs, so that the logs can be compared.
 #ifndef TQR7_SIMULATOR_TIMELINE_H
 #define TQR7_SIMULATOR_TIMELINE_H
 
@@ -18,8 +18,8 @@ namespace simulator {
 std::string timeline_line(std::chrono::system_clock::time_point time, std::uint64_t connection,
                           std::uint64_t bytes, const char* event);
 
-/// Writes to one file, or to none as long as it is not opened. Lines are held back until Flush, so
-/// that noting one takes no call of the system.
+/// Writes to one file; does nothing until it is opened, and nothing after the first failure. Keeps
+/// the lines in memory until Flush, so that a note takes little time.
 class Timeline {
  public:
   Timeline() = default;
@@ -27,14 +27,13 @@ class Timeline {
   Timeline& operator=(const Timeline&) = delete;
   ~Timeline();
 
-  /// Begins the file anew. Returns what went wrong, or nothing.
+  /// Creates or empties the file. Returns what went wrong, or nothing.
   std::string Open(const std::filesystem::path& path);
 
-  /// Notes that something happens now, when so many bytes of the connection have come.
+  /// Notes an event that happens now, when `bytes` bytes of the connection have come.
   void Note(std::uint64_t connection, std::uint64_t bytes, const char* event);
 
-  /// What was noted is in the file when the call returns. Returns what went wrong, or nothing; the
-  /// timeline then ends.
+  /// Writes all lines to the file. Returns what went wrong, or nothing.
   std::string Flush();
 
  private:

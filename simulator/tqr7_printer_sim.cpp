@@ -13,7 +13,6 @@
 #include "decoder/soft_proof.h"
 #include "simulator/command_line.h"
 #include "simulator/contact_sheet.h"
-#include "simulator/error_words.h"
 #include "simulator/event_log.h"
 #include "simulator/fault_schedule.h"
 #include "simulator/fault_sources.h"
@@ -38,18 +37,18 @@ int cannot_start(const std::string& what, const std::string& why) {
   return cannot_start(what + ": " + why);
 }
 
-// Why the record cannot be begun; empty when all is well, or when none is asked for.
+// Returns why the record cannot be written, if one is asked for; empty when all is well.
 std::string begin_record(const Options& options, StreamRecorder& recorder) {
   return options.record.empty() ? "" : recorder.Open(options.record);
 }
 
-// Why the timeline cannot be begun; empty when all is well, or when none is asked for.
+// Returns why the timeline cannot be written, if one is asked for; empty when all is well.
 std::string begin_timeline(const Options& options, Timeline& timeline) {
   return options.timeline.empty() ? "" : timeline.Open(options.timeline);
 }
 
-// Renamed when it is whole: a script that waits for the file never reads half a number. Without a
-// path nothing is written.
+// Writes the port's number if a path is given. The file gets its name when it is whole, so that a
+// script that waits for it never reads half a number.
 std::string write_port_file(const std::string& path, std::uint16_t port) {
   if (path.empty()) {
     return {};
@@ -69,7 +68,7 @@ std::string write_port_file(const std::string& path, std::uint16_t port) {
   return {};
 }
 
-// What is wrong; empty when all is well, or when no contact sheet is asked for.
+// Returns why the contact sheet cannot be written, if one is asked for; empty when all is well.
 std::string begin_contact_sheet(const Options& options, const SheetFolder& folder,
                                 ContactSheet& contactSheet) {
   if (!options.contactSheet) {

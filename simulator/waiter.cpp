@@ -15,10 +15,10 @@ namespace simulator {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-constexpr int kNoDescriptor = -1;  // poll passes over it
+constexpr int kNoDescriptor = -1;  // poll ignores it
 constexpr int kForEver = -1;
 
-// Rounded up: a wait that ends early would only be begun again.
+// Rounded up: after a wait that ends too early, another one would follow.
 int milliseconds_until(std::optional<Waiter::TimePoint> time) {
   if (!time) {
     return kForEver;

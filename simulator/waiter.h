@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Every wait of the simulated printer: for the network or for a time. Meanwhile faults come to
-// their end on time, and a person's wishes are heard.
+// Every wait of the simulated printer, for the network or for a time. During a wait, faults end
+// when their time is up, and signals are obeyed.
 #ifndef TQR7_SIMULATOR_WAITER_H
 #define TQR7_SIMULATOR_WAITER_H
 
@@ -18,10 +18,10 @@ namespace simulator {
 
 /// How a wait ended.
 enum class Woken : std::uint8_t {
-  Ready,  ///< the descriptor is
+  Ready,  ///< the descriptor has an event
   TimeUp,
-  Stop,    ///< the simulator shall end
-  Failed,  ///< the system gave up; errno says why
+  Stop,    ///< the simulator is to stop
+  Failed,  ///< errno says why
 };
 
 /// Waits for one thing at a time.
@@ -33,10 +33,10 @@ class Waiter {
   Waiter(SignalEnds signals, FaultSchedule& faults, std::string script)
       : signals_(signals), faults_(faults), script_(std::move(script)) {}
 
-  /// Until the descriptor has one of poll's `events`, or until a time, for ever without.
+  /// Waits until the descriptor has one of poll's `events`, or until a time if one is given.
   Woken For(int descriptor, short events, std::optional<TimePoint> until = {}) const;
 
-  /// Lets a time pass. False when the simulator shall end.
+  /// Waits until a time. False when the simulator is to stop.
   bool Until(TimePoint time) const;
 
  private:

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdio>
+#include <system_error>
 
 namespace simulator {
 namespace {
@@ -78,6 +79,10 @@ std::string printed_sheet_words(const decoder::Sheet& sheet) {
 
 std::string counted(std::uint64_t count, const char* noun) {
   return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+std::string error_words(int errorNumber) {
+  return std::generic_category().message(errorNumber);
 }
 
 }  // namespace simulator

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Headers and numbers in words, as the event lines show them.
+// Headers, numbers and errors of the system in words, as the event lines show them.
 #ifndef TQR7_SIMULATOR_WORDING_H
 #define TQR7_SIMULATOR_WORDING_H
 
@@ -26,6 +26,9 @@ std::string printed_sheet_words(const decoder::Sheet& sheet);
 
 /// "1 sheet", "2 sheets"
 std::string counted(std::uint64_t count, const char* noun);
+
+/// What the system says of an errno value.
+std::string error_words(int errorNumber);
 
 }  // namespace simulator
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // The printer's answers, byte by byte.
-#include "simulator/printer_answers.h"
+#include "simulator/answer_plan.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "decoder/profile_file.h"
+#include "decoder/proof_choice.h"
 #include "decoder/soft_proof.h"
 #include "tests/unit/simulator/printer_process.h"
 #include "tests/unit/simulator/test_profiles.h"

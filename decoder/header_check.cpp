@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "decoder/geometry_check.h"
+#include "decoder/header_check.h"
 
 #include <algorithm>
 #include <array>
+#include <chrono>
+#include <string>
 #include <vector>
 
 #include "decoder/paper_sizes.h"
@@ -11,14 +13,13 @@ namespace decoder {
 namespace {
 
 // "631, 1232 or 1833"
-std::string alternatives(const std::vector<std::uint16_t>& values) {
-  std::string text;
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    const bool last = i + 1 == values.size();
-    text += i == 0 ? "" : (last ? " or " : ", ");
-    text += std::to_string(values[i]);
+std::string in_words(const std::vector<std::uint16_t>& values) {
+  std::vector<std::string> words;
+  words.reserve(values.size());
+  for (const std::uint16_t value : values) {
+    words.push_back(std::to_string(value));
   }
-  return text;
+  return alternatives(words);
 }
 
 std::vector<std::uint16_t> heights_for(std::uint16_t width) {
@@ -36,14 +37,14 @@ std::string size_text(const JobHeader& job) {
   return std::to_string(job.sheetWidth) + " x " + std::to_string(job.sheetHeight);
 }
 
-// One number of a header that its surroundings leave a single right value.
+// A number in a header that can have one value only, because of the fields around it.
 struct Expected {
   std::uint16_t offset;
   std::uint16_t value;
   std::uint16_t right;
 };
 
-// Names the numbers that are not as they should be; `why` follows the right value in the message.
+// Reports the numbers that are not the right ones; `why` follows the right value in the message.
 template <std::size_t N>
 bool check_expected(const std::array<Expected, N>& fields, Command command,
                     std::uint64_t blockOffset, const std::string& why, const ErrorSink& report) {
@@ -60,7 +61,7 @@ bool check_expected(const std::array<Expected, N>& fields, Command command,
 
 constexpr std::uint16_t kSplit = 616;
 
-// Three fields say one thing; the one that differs from the other two is taken for the wrong one.
+// Three fields say the same thing. When one differs from the other two, it is the wrong one.
 bool is_two_up(const JobHeader& header, const SheetSize& sheet) {
   const int set = (header.twoUpMode != 0 ? 1 : 0) + (header.twoUpSplit != 0 ? 1 : 0) +
                   (header.twoUpOption != 0 ? 1 : 0);
@@ -72,7 +73,7 @@ void check_two_up(const JobHeader& header, const SheetSize& sheet, Command comma
   const bool known = header.twoUpMode <= 1 && header.twoUpOption <= 1 &&
                      (header.twoUpSplit == 0 || header.twoUpSplit == kSplit);
   if (!known) {
-    return;  // the field by itself is wrong, and was reported
+    return;  // the field has a value that it never may have, and was reported
   }
   const bool twoUp = is_two_up(header, sheet);
   const std::uint16_t flag = twoUp ? 1 : 0;
@@ -139,7 +140,7 @@ bool check_sheet(const JobHeader& header, Command command, std::uint64_t blockOf
   } else {
     report({blockOffset + kOffsetSheetHeight, command, "sheet height",
             std::to_string(header.sheetHeight),
-            alternatives(heights) + " for a width of " + std::to_string(header.sheetWidth)});
+            in_words(heights) + " for a width of " + std::to_string(header.sheetWidth)});
   }
   return false;
 }
@@ -158,6 +159,22 @@ bool check_image(const ImageHeader& image, const JobHeader& job, std::uint64_t b
   const bool placeGood = check_place(image, job, *sheet, blockOffset, report);
   const bool matteGood = check_matte(image, job, blockOffset, report);
   return placeGood && matteGood;
+}
+
+void check_date(const ImageHeader& image, std::uint64_t blockOffset, const ErrorSink& report) {
+  constexpr unsigned kMonths = 12;
+  constexpr unsigned kLongestMonth = 31;
+  if (image.month < 1 || image.month > kMonths || image.day < 1 || image.day > kLongestMonth) {
+    return;
+  }
+  const std::chrono::year_month_day_last end{
+      std::chrono::year(image.year), std::chrono::month_day_last(std::chrono::month(image.month))};
+  const auto days = static_cast<unsigned>(end.day());
+  if (image.day > days) {
+    report({blockOffset + kOffsetDay, Command::ImageHeader, "day", std::to_string(image.day),
+            "1 to " + std::to_string(days) + " in month " + std::to_string(image.month) + " of " +
+                std::to_string(image.year)});
+  }
 }
 
 }  // namespace decoder
