@@ -12,26 +12,12 @@
 #include <cstddef>
 #include <memory>
 
+#include "photo/job_wishes.h"
+
 namespace photo {
 
 struct ClosePpd {
   void operator()(ppd_file_t* ppd) const { ppdClose(ppd); }
-};
-
-/// The job's options, parsed.
-class JobOptions {
- public:
-  explicit JobOptions(const char* text) : count_(cupsParseOptions(text, 0, &all_)) {}
-  ~JobOptions() { cupsFreeOptions(count_, all_); }
-  JobOptions(const JobOptions&) = delete;
-  JobOptions& operator=(const JobOptions&) = delete;
-
-  int Count() const { return count_; }
-  cups_option_t* All() const { return all_; }
-
- private:
-  cups_option_t* all_ = nullptr;
-  int count_;
 };
 
 struct JobPage {

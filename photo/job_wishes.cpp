@@ -8,38 +8,29 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "photo/grey.h"
-
 namespace photo {
+bool JobOptions::Is(const char* name, const char* value) const {
+  const char* const found = Find(name);
+  return found != nullptr && strcasecmp(found, value) == 0;
+}
+
+bool JobOptions::IsTrue(const char* name) const {
+  return Is(name, "true") || Is(name, "yes") || Is(name, "on");
+}
+
+int JobOptions::Number(const char* name, int otherwise, int least, int most) const {
+  const char* const found = Find(name);
+  if (found == nullptr) {
+    return otherwise;
+  }
+  const long number = std::strtol(found, nullptr, 10);
+  return static_cast<int>(std::clamp<long>(number, least, most));
+}
+
 namespace {
 
-struct Options {
-  int count;
-  cups_option_t* all;
-
-  const char* Find(const char* name) const { return cupsGetOption(name, count, all); }
-
-  bool Is(const char* name, const char* value) const {
-    const char* const found = Find(name);
-    return found != nullptr && strcasecmp(found, value) == 0;
-  }
-
-  bool IsTrue(const char* name) const {
-    return Is(name, "true") || Is(name, "yes") || Is(name, "on");
-  }
-
-  int Number(const char* name, int otherwise, int least, int most) const {
-    const char* const found = Find(name);
-    if (found == nullptr) {
-      return otherwise;
-    }
-    const long number = std::strtol(found, nullptr, 10);
-    return static_cast<int>(std::clamp<long>(number, least, most));
-  }
-};
-
 // IPP's word for it comes before the older ones.
-void read_print_scaling(const Options& options, bool borderless, JobWishes& wishes) {
+void read_print_scaling(const JobOptions& options, bool borderless, JobWishes& wishes) {
   if (options.Is("print-scaling", "fill")) {
     wishes.scaling = Scaling::Fill;
   } else if (options.Is("print-scaling", "auto")) {
@@ -52,7 +43,7 @@ void read_print_scaling(const Options& options, bool borderless, JobWishes& wish
   }
 }
 
-void read_older_scaling(const Options& options, JobWishes& wishes) {
+void read_older_scaling(const JobOptions& options, JobWishes& wishes) {
   constexpr int kPercentMost = 1000;
   const bool fit = options.IsTrue("fit-to-page") || options.IsTrue("fitplot");
   if (options.Find("scaling") != nullptr) {
@@ -74,7 +65,7 @@ void read_older_scaling(const Options& options, JobWishes& wishes) {
 }
 
 // "300" or "300x150"; a size in dots of its own, as far as nothing else has said one.
-void read_density(const Options& options, JobWishes& wishes) {
+void read_density(const JobOptions& options, JobWishes& wishes) {
   constexpr int kLeast = 1;
   constexpr int kMost = 9600;
   const char* const ppi = options.Find("ppi");
@@ -108,7 +99,7 @@ constexpr std::array<PlaceName, 9> kPlaces = {{{"center", {0, 0}},
                                                {"bottom-left", {-1, 1}},
                                                {"bottom-right", {1, 1}}}};
 
-Position read_position(const Options& options) {
+Position read_position(const JobOptions& options) {
   for (const PlaceName& place : kPlaces) {
     if (options.Is("position", place.name)) {
       return place.position;
@@ -117,7 +108,7 @@ Position read_position(const Options& options) {
   return {};
 }
 
-int read_orientation(const Options& options) {
+int read_orientation(const JobOptions& options) {
   constexpr int kPortrait = 3;
   constexpr int kLandscape = 4;
   constexpr int kLast = 6;
@@ -133,41 +124,48 @@ int read_orientation(const Options& options) {
   return no ? kPortrait : kLandscape;
 }
 
-bool read_collate(const Options& options) {
+bool read_collate(const JobOptions& options) {
   const char* const handling = options.Find("multiple-document-handling");
   return options.IsTrue("Collate") ||
          (handling != nullptr && strcasecmp(handling, "separate-documents-uncollated-copies") != 0);
 }
 
+constexpr std::array kGreyModes = {"monochrome", "auto-monochrome", "process-monochrome",
+                                   "bi-level", "process-bi-level"};
+
 // The limits are those of the manual of CUPS.
-void read_tones(const Options& options, JobWishes& wishes) {
+void read_tones(const JobOptions& options, JobWishes& wishes) {
   constexpr double kThousand = 1000;
   constexpr double kHundred = 100;
   wishes.gamma = options.Number("gamma", 1000, 1, 10000) / kThousand;
   wishes.brightness = options.Number("brightness", 100, 10, 1000) / kHundred;
   wishes.saturation = options.Number("saturation", 100, 0, 1000);
   wishes.hue = options.Number("hue", 0, -360, 360);
-  wishes.grey = asks_for_grey(options.count, options.all);
+  wishes.grey = asks_for_grey(options);
 }
 
 }  // namespace
 
-JobWishes read_wishes(int count, cups_option_t* options, const char* copies, bool borderless) {
+bool asks_for_grey(const JobOptions& options) {
+  return std::any_of(kGreyModes.begin(), kGreyModes.end(),
+                     [&](const char* mode) { return options.Is("print-color-mode", mode); });
+}
+
+JobWishes read_wishes(const JobOptions& options, const char* copies, bool borderless) {
   constexpr long kCopiesMost = 9999;
-  const Options all{count, options};
   JobWishes wishes;
-  if (all.Find("print-scaling") != nullptr) {
-    read_print_scaling(all, borderless, wishes);
+  if (options.Find("print-scaling") != nullptr) {
+    read_print_scaling(options, borderless, wishes);
   } else {
-    read_older_scaling(all, wishes);
+    read_older_scaling(options, wishes);
   }
-  read_density(all, wishes);
-  wishes.position = read_position(all);
-  wishes.orientation = read_orientation(all);
-  wishes.mirror = all.IsTrue("mirror");
+  read_density(options, wishes);
+  wishes.position = read_position(options);
+  wishes.orientation = read_orientation(options);
+  wishes.mirror = options.IsTrue("mirror");
   wishes.copies = static_cast<int>(std::clamp(std::strtol(copies, nullptr, 10), 1L, kCopiesMost));
-  wishes.collate = read_collate(all);
-  read_tones(all, wishes);
+  wishes.collate = read_collate(options);
+  read_tones(options, wishes);
   return wishes;
 }
 

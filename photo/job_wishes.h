@@ -10,6 +10,32 @@
 
 namespace photo {
 
+/// The job's options.
+class JobOptions {
+ public:
+  /// Parses "name=value name ...", as CUPS does.
+  explicit JobOptions(const char* text) : count_(cupsParseOptions(text, 0, &all_)) {}
+  ~JobOptions() { cupsFreeOptions(count_, all_); }
+  JobOptions(const JobOptions&) = delete;
+  JobOptions& operator=(const JobOptions&) = delete;
+
+  int Count() const { return count_; }
+  cups_option_t* All() const { return all_; }
+
+  /// The option's value; null where the job does not have it.
+  const char* Find(const char* name) const { return cupsGetOption(name, count_, all_); }
+  /// Whether the option has this value, in capitals or not.
+  bool Is(const char* name, const char* value) const;
+  bool IsTrue(const char* name) const;
+  /// The option's value, or the nearest that is allowed; `otherwise` where the job does not have
+  /// it.
+  int Number(const char* name, int otherwise, int least, int most) const;
+
+ private:
+  cups_option_t* all_ = nullptr;
+  int count_;
+};
+
 /// How large the photo is to be.
 enum class Scaling : std::uint8_t {
   Fit,      ///< all of it, as large as the page allows
@@ -49,7 +75,11 @@ struct JobWishes {
 
 /// Reads the options; `borderless` says whether the page has no margins, which print-scaling=auto
 /// depends on. What is no number, or beyond what CUPS allows, is held to the nearest that is.
-JobWishes read_wishes(int count, cups_option_t* options, const char* copies, bool borderless);
+JobWishes read_wishes(const JobOptions& options, const char* copies, bool borderless);
+
+/// Whether print-color-mode is one of IPP's modes without colours. The printer makes its greys of
+/// all its dyes and has no mode of black dots only, so these all ask for the same.
+bool asks_for_grey(const JobOptions& options);
 
 }  // namespace photo
 

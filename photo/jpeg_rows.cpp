@@ -6,9 +6,10 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "language/messages.h"
+#include "photo/exif.h"
 #include "photo/photo_rows.h"
 #include "photo/refusal.h"
-#include "tools/exif.h"
 
 // jpeglib.h needs what <cstdio> declares.
 #include <jerror.h>
@@ -54,8 +55,9 @@ class JpegRows : public PhotoRows {
   bool TakeProfile(JOCTET** bytes, unsigned* length);
 
   void TakeExif(PhotoFacts& facts) const;
-  tools::PixelDensity Density() const;
+  PixelDensity Density() const;
   Samples Choose();
+  void Say(const char* why) { std::snprintf(message_.data(), message_.size(), "%s", why); }
   std::string Why() const { return message_.data(); }
 
   static JpegRows& self(j_common_ptr jpeg) { return *static_cast<JpegRows*>(jpeg->client_data); }
@@ -75,10 +77,9 @@ void JpegRows::give_up(j_common_ptr jpeg) {
   JpegRows& reader = self(jpeg);
   jpeg->err->format_message(jpeg, reader.message_.data());
   if (jpeg->err->msg_code == JERR_OUT_OF_MEMORY) {
-    std::snprintf(reader.message_.data(), reader.message_.size(), "%s", kNoMemory);
+    reader.Say(kNoMemory);
   } else if (jpeg->err->msg_code == JERR_NO_BACKING_STORE) {
-    std::snprintf(reader.message_.data(), reader.message_.size(),
-                  "it is shown in steps, and too large for that");
+    reader.Say(language::_("it is shown in steps, and too large for that"));
   }
   std::longjmp(reader.givenUp_, 1);  // NOLINT(cert-err52-cpp)
 }
@@ -96,7 +97,7 @@ void JpegRows::judge_warning(j_common_ptr jpeg, int level) {
 void JpegRows::limit_scans(j_common_ptr jpeg) {
   JpegRows& reader = self(jpeg);
   if (reader.jpeg_.input_scan_number > kScansMost) {
-    std::snprintf(reader.message_.data(), reader.message_.size(), "too many scans");
+    reader.Say("too many scans");
     std::longjmp(reader.givenUp_, 1);  // NOLINT(cert-err52-cpp)
   }
 }
@@ -131,16 +132,16 @@ void JpegRows::TakeExif(PhotoFacts& facts) const {
         std::equal(kBegin.begin(), kBegin.end(), marker->data)) {
       const std::span<const std::uint8_t> tiff(marker->data + kBegin.size(),
                                                marker->data_length - kBegin.size());
-      facts.orientation = tools::exif_orientation(tiff);
-      facts.adobeRgb = tools::exif_says_adobe_rgb(tiff);
-      const tools::PixelDensity density = tools::exif_density(tiff);
+      facts.orientation = exif_orientation(tiff);
+      facts.adobeRgb = exif_says_adobe_rgb(tiff);
+      const PixelDensity density = exif_density(tiff);
       facts.density = density.IsKnown() ? density : facts.density;
       return;
     }
   }
 }
 
-tools::PixelDensity JpegRows::Density() const {
+PixelDensity JpegRows::Density() const {
   constexpr int kPerInch = 1;
   constexpr int kPerCentimetre = 2;
   constexpr double kCentimetresPerInch = 2.54;

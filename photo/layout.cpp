@@ -15,17 +15,6 @@ struct Size {
   double height;
 };
 
-// How many times as wide as high a pixel is. What files say beyond these limits is an error of
-// theirs, and would pull the photo out of shape.
-double pixel_aspect(const PhotoShape& photo) {
-  constexpr double kMost = 2;
-  if (photo.perInchAcross <= 0 || photo.perInchDown <= 0) {
-    return 1;
-  }
-  const double aspect = photo.perInchDown / photo.perInchAcross;
-  return aspect > kMost || aspect < 1 / kMost ? 1 : aspect;
-}
-
 Size in_square_pixels(const PhotoShape& photo) {
   return {static_cast<double>(photo.width) * pixel_aspect(photo),
           static_cast<double>(photo.height)};
@@ -148,6 +137,15 @@ std::size_t pages_for(double dots, std::size_t room) {
 }
 
 }  // namespace
+
+double pixel_aspect(const PhotoShape& photo) {
+  constexpr double kMost = 2;
+  if (photo.perInchAcross <= 0 || photo.perInchDown <= 0) {
+    return 1;
+  }
+  const double aspect = photo.perInchDown / photo.perInchAcross;
+  return aspect > kMost || aspect < 1 / kMost ? 1 : aspect;
+}
 
 Layout lay_out(const PhotoShape& photo, std::size_t pageWidth, std::size_t pageHeight,
                const JobWishes& wishes) {

@@ -9,16 +9,9 @@
 #include <vector>
 
 #include "photo/job_wishes.h"
+#include "photo/picture.h"
 
 namespace photo {
-
-/// A part of the photo in its pixels, which need not be whole ones.
-struct PhotoArea {
-  double left;
-  double top;
-  double width;
-  double height;
-};
 
 /// Dots of a page.
 struct DotArea {
@@ -30,7 +23,7 @@ struct DotArea {
 
 /// A part of the photo and where it goes.
 struct Placing {
-  PhotoArea from;
+  PictureArea from;
   DotArea to;
 };
 
@@ -50,6 +43,10 @@ struct PhotoShape {
   double perInchAcross;  ///< pixels to the inch; 0 where the file does not say
   double perInchDown;    ///< the same
 };
+
+/// How many times as wide as high the photo's pixels are printed. What a file says beyond twice or
+/// half is an error of its own and would distort the photo: such pixels count as square.
+double pixel_aspect(const PhotoShape& photo);
 
 /// Pages that one photo may be spread over.
 inline constexpr std::size_t kPagesMost = 100;

@@ -7,8 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "photo/photo_rows.h"
-#include "photo/picture_turn.h"
+#include "language/messages.h"
 #include "photo/resampler.h"
 #include "photo/to_srgb.h"
 #include "photo/tones.h"
@@ -16,11 +15,28 @@
 namespace photo {
 namespace {
 
+using language::_;
+using language::filled;
+
 constexpr std::size_t kColours = 3;
+
+// The photo as one looks at it.
+PhotoShape upright_shape(const PhotoFacts& facts) {
+  PhotoShape shape{facts.width, facts.height, 0, 0};
+  if (facts.density.IsKnown()) {
+    shape.perInchAcross = facts.density.across;
+    shape.perInchDown = facts.density.down;
+  }
+  if (swaps_sides(facts.orientation)) {
+    std::swap(shape.width, shape.height);
+    std::swap(shape.perInchAcross, shape.perInchDown);
+  }
+  return shape;
+}
 
 // Reading a JPEG at half its size takes half the time, and costs nothing of the print as long as
 // there are twice as many pixels as dots.
-unsigned choose_reduction(const PhotoArea& area, const tools::Picture& result) {
+unsigned choose_reduction(const PictureArea& area, const Picture& result) {
   constexpr unsigned kMost = 8;
   constexpr double kSpare = 2;
   unsigned reduction = 1;
@@ -35,25 +51,24 @@ unsigned choose_reduction(const PhotoArea& area, const tools::Picture& result) {
   return reduction;
 }
 
-PhotoArea in_pixels_read(PhotoArea area, const PhotoFacts& facts, std::size_t width,
-                         std::size_t height) {
+PictureArea in_pixels_read(PictureArea area, const PhotoFacts& facts, std::size_t width,
+                           std::size_t height) {
   const double across = static_cast<double>(width) / static_cast<double>(facts.width);
   const double down = static_cast<double>(height) / static_cast<double>(facts.height);
   return {area.left * across, area.top * down, area.width * across, area.height * down};
 }
 
 // The part of the photo, as it lies in the file, in the dots that it will have.
-std::string read_part(PhotoRows& reader, const PhotoFacts& facts, const PhotoArea& area,
-                      tools::Picture& part) {
+std::string read_part(PhotoRows& reader, const PhotoFacts& facts, const PictureArea& area,
+                      PagePicture& page, Picture& part) {
   std::size_t width = 0;
   std::size_t height = 0;
   if (std::string why = reader.Begin(choose_reduction(area, part), width, height); !why.empty()) {
     return why;
   }
   const ToSrgb colours(facts);
-  if (colours.ProfilePassedOver()) {
-    std::fputs("DEBUG: The photo's colour profile cannot be used and is passed over.\n", stderr);
-  }
+  page.coloursConverted = colours.Converts();
+  page.profilePassedOver = colours.ProfilePassedOver();
   std::vector<std::uint8_t> samples(width * bytes_per_pixel(facts.samples));
   const NextRow next = [&](std::uint8_t* rgb) {
     std::string why = reader.Row(samples.data());
@@ -65,17 +80,33 @@ std::string read_part(PhotoRows& reader, const PhotoFacts& facts, const PhotoAre
   return resample(width, height, in_pixels_read(area, facts, width, height), next, part);
 }
 
-void lay_on(tools::Picture& page, const tools::Picture& part, const DotArea& place) {
+void lay_on(Picture& sheet, const Picture& part, const DotArea& place) {
   for (std::size_t y = 0; y < part.height; ++y) {
-    std::memcpy(page.At(place.left, place.top + y), part.At(0, y), kColours * part.width);
+    std::memcpy(sheet.At(place.left, place.top + y), part.At(0, y), kColours * part.width);
   }
 }
 
 }  // namespace
 
+std::string plan_pages(std::FILE* file, std::size_t pageWidth, std::size_t pageHeight,
+                       const JobWishes& wishes, PlannedPhoto& plan) {
+  const std::unique_ptr<PhotoRows> reader = find_reader(file);
+  if (reader == nullptr) {
+    return _("it is neither a JPEG nor a PNG file");
+  }
+  if (std::string why = reader->Open(plan.facts); !why.empty()) {
+    return why;
+  }
+  plan.shape = upright_shape(plan.facts);
+  plan.layout = lay_out(plan.shape, pageWidth, pageHeight, wishes);
+  return plan.layout.pages.empty()
+             ? filled(_("it would take more than %zu pages"), std::size_t{kPagesMost})
+             : std::string();
+}
+
 std::string make_page(std::FILE* file, const Layout& layout, std::size_t number,
-                      const JobWishes& wishes, tools::Picture& page) {
-  std::rewind(file);
+                      const JobWishes& wishes, PagePicture& page) {
+  page = {};
   const std::unique_ptr<PhotoRows> reader = find_reader(file);
   PhotoFacts facts;
   if (reader == nullptr) {
@@ -87,18 +118,18 @@ std::string make_page(std::FILE* file, const Layout& layout, std::size_t number,
   const Placing& placing = layout.pages.at(number);
   const DotArea& to = placing.to;
   const bool swapped = swaps_sides(facts.orientation);
-  tools::Picture part(swapped ? to.height : to.width, swapped ? to.width : to.height);
-  const PhotoArea area = area_in_file(placing.from, facts.width, facts.height, facts.orientation);
-  if (std::string why = read_part(*reader, facts, area, part); !why.empty()) {
+  Picture part(swapped ? to.height : to.width, swapped ? to.width : to.height);
+  const PictureArea area = area_in_file(placing.from, facts.width, facts.height, facts.orientation);
+  if (std::string why = read_part(*reader, facts, area, page, part); !why.empty()) {
     return why;
   }
   apply_tones(wishes, part);
-  tools::Picture upright(layout.pageWidth, layout.pageHeight);
+  Picture upright(layout.pageWidth, layout.pageHeight);
   lay_on(upright, turned(part, facts.orientation), to);
   if (wishes.mirror) {
     mirror(upright);
   }
-  page = turned(upright, layout.turn);
+  page.picture = turned(upright, layout.turn);
   return {};
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A photo's pages: the file read, its colours made sRGB, turned, brought to size and laid on white.
+// From a photo's file to its pages, in two steps: read what the file says and lay the photo out,
+// then make one page after the other.
 #ifndef TQR7_PHOTO_PAGE_PICTURE_H
 #define TQR7_PHOTO_PAGE_PICTURE_H
 
@@ -9,14 +10,34 @@
 
 #include "photo/job_wishes.h"
 #include "photo/layout.h"
-#include "tools/picture.h"
+#include "photo/photo_rows.h"
+#include "photo/picture.h"
 
 namespace photo {
 
-/// Makes page `number`, counted from 0, of the layout, as it lies on the sheet. Reads the file from
-/// its beginning. Says why not, or nothing.
+/// What is known of a photo before its pixels are read.
+struct PlannedPhoto {
+  PhotoFacts facts;
+  PhotoShape shape;  ///< of the upright photo
+  Layout layout;     ///< has a page at least
+};
+
+/// Reads what the file says of its picture, and lays the photo out on pages of this many dots.
+/// Returns why it cannot be printed, or nothing.
+std::string plan_pages(std::FILE* file, std::size_t pageWidth, std::size_t pageHeight,
+                       const JobWishes& wishes, PlannedPhoto& plan);
+
+/// A page as it lies on the sheet, and what happened to the photo's colours.
+struct PagePicture {
+  Picture picture;
+  bool coloursConverted = false;   ///< they were not those of sRGB
+  bool profilePassedOver = false;  ///< it is broken, or does not fit the photo
+};
+
+/// Makes page `number`, counted from 0, of the layout. Reads the file again from its beginning.
+/// Returns why the page cannot be made, or nothing.
 std::string make_page(std::FILE* file, const Layout& layout, std::size_t number,
-                      const JobWishes& wishes, tools::Picture& page);
+                      const JobWishes& wishes, PagePicture& page);
 
 }  // namespace photo
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "photo/photo_rows.h"
 
+#include "language/messages.h"
+
 namespace photo {
 
 std::size_t bytes_per_pixel(Samples samples) {
@@ -15,13 +17,15 @@ std::size_t bytes_per_pixel(Samples samples) {
   }
 }
 
+using language::_;
+
 std::string refuse_size(std::size_t width, std::size_t height) {
   if (width == 0 || height == 0) {
     return "it has no pixels";
   }
   if (width > kSideMost || height > kSideMost || width > kPixelsMost / height) {
-    return "it claims to have " + std::to_string(width) + " x " + std::to_string(height) +
-           " pixels, more than any photo";
+    return language::filled(_("it claims to have %1$zu x %2$zu pixels, more than any photo"), width,
+                            height);
   }
   return {};
 }
@@ -29,6 +33,7 @@ std::string refuse_size(std::size_t width, std::size_t height) {
 std::unique_ptr<PhotoRows> find_reader(std::FILE* file) {
   constexpr int kJpegBegins = 0xFF;
   constexpr int kPngBegins = 0x89;
+  std::rewind(file);
   const int first = std::fgetc(file);
   std::rewind(file);
   if (first == kJpegBegins) {

@@ -12,9 +12,14 @@
 #include <string>
 #include <vector>
 
-#include "tools/picture.h"
+#include "photo/exif.h"
 
 namespace photo {
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
 
 /// More pixels than any camera takes: what claims to have more is not read.
 inline constexpr std::size_t kPixelsMost = 250'000'000;
@@ -44,7 +49,7 @@ struct PhotoFacts {
   std::size_t width = 0;   ///< pixels, as they lie in the file
   std::size_t height = 0;  ///< the same
   Samples samples = Samples::Rgb;
-  tools::PixelDensity density;
+  PixelDensity density;
   int orientation = 1;                ///< Exif's, 1 to 8
   std::vector<std::uint8_t> profile;  ///< ICC; empty where there is none
   bool adobeRgb = false;              ///< no profile, but the camera's mark for Adobe RGB

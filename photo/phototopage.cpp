@@ -15,15 +15,9 @@
 #include "photo/job_wishes.h"
 #include "photo/page_output.h"
 #include "photo/page_picture.h"
-#include "photo/read_facts.h"
 #include "photo/refusal.h"
 
 namespace {
-
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
 
 int refuse(const std::string& why) {
   return photo::say_cannot_be_printed("photo", why);
@@ -34,14 +28,14 @@ int fail(const char* why) {
 }
 
 // A photo is read more than once; a pipe can only be read once.
-File copy_input() {
+photo::File copy_input() {
   std::array<char, 1024> name{};
   const int descriptor = cupsTempFd(name.data(), static_cast<int>(name.size()));
   if (descriptor < 0) {
     return nullptr;
   }
   unlink(name.data());
-  File copy(fdopen(descriptor, "w+b"));
+  photo::File copy(fdopen(descriptor, "w+b"));
   std::array<char, 65536> piece{};
   std::size_t length = 0;
   while (copy != nullptr && (length = std::fread(piece.data(), 1, piece.size(), stdin)) > 0) {
@@ -52,7 +46,7 @@ File copy_input() {
   return copy != nullptr && std::fflush(copy.get()) == 0 ? std::move(copy) : nullptr;
 }
 
-bool print_page(cups_raster_t* raster, const photo::JobPage& page, const tools::Picture& picture) {
+bool print_page(cups_raster_t* raster, const photo::JobPage& page, const photo::Picture& picture) {
   static int printed = 0;
   std::fprintf(stderr, "INFO: Formatting page %d.\n", ++printed);
   return photo::write_page(raster, page.header, picture.rgb.data());
@@ -64,12 +58,16 @@ int print_pages(std::FILE* file, const photo::Layout& layout, const photo::JobWi
   photo::Raster raster;
   const int sets = wishes.collate ? wishes.copies : 1;
   const int each = wishes.collate ? 1 : wishes.copies;
-  tools::Picture picture;
+  photo::PagePicture made;
   for (int set = 0; set < sets; ++set) {
     for (std::size_t number = 0; number < layout.pages.size(); ++number) {
       if (set == 0 || layout.pages.size() > 1) {
-        if (std::string why = photo::make_page(file, layout, number, wishes, picture);
-            !why.empty()) {
+        std::string why = photo::make_page(file, layout, number, wishes, made);
+        if (made.profilePassedOver) {
+          std::fputs("DEBUG: The photo's colour profile cannot be used and is passed over.\n",
+                     stderr);
+        }
+        if (!why.empty()) {
           return refuse(why);
         }
       }
@@ -77,7 +75,7 @@ int print_pages(std::FILE* file, const photo::Layout& layout, const photo::JobWi
         return fail("no page can be written");
       }
       for (int copy = 0; copy < each; ++copy) {
-        if (!print_page(raster.get(), page, picture)) {
+        if (!print_page(raster.get(), page, made.picture)) {
           return fail("the printer's filter takes no more");
         }
       }
@@ -92,24 +90,19 @@ int print_photo(const char* optionText, const char* copies, std::FILE* file) {
   if (!photo::read_job_page(optionText, options, page)) {
     return fail("the queue's PPD file cannot be read");
   }
-  const photo::JobWishes wishes =
-      photo::read_wishes(options.Count(), options.All(), copies, page.borderless);
+  const photo::JobWishes wishes = photo::read_wishes(options, copies, page.borderless);
   std::fputs("INFO: Reading the photo.\n", stderr);
-  photo::PhotoFacts facts;
-  if (std::string why = photo::read_facts(file, facts); !why.empty()) {
+  photo::PlannedPhoto plan;
+  if (std::string why = photo::plan_pages(file, page.width, page.height, wishes, plan);
+      !why.empty()) {
     return refuse(why);
   }
-  const photo::Layout layout =
-      photo::lay_out(photo::upright_shape(facts), page.width, page.height, wishes);
-  if (layout.pages.empty()) {
-    return refuse("it would take more than " + std::to_string(photo::kPagesMost) + " pages");
-  }
-  return print_pages(file, layout, wishes, page);
+  return print_pages(file, plan.layout, wishes, page);
 }
 
 int print_photo(int argc, char* argv[]) {
-  const File file =
-      argc == photo::kArgumentsWithFile ? File(std::fopen(argv[6], "rbe")) : copy_input();
+  const photo::File file =
+      argc == photo::kArgumentsWithFile ? photo::File(std::fopen(argv[6], "rbe")) : copy_input();
   if (file == nullptr) {
     return fail("its file cannot be read");
   }

@@ -6,9 +6,10 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "language/messages.h"
+#include "photo/exif.h"
 #include "photo/photo_rows.h"
 #include "photo/refusal.h"
-#include "tools/exif.h"
 
 namespace photo {
 namespace {
@@ -136,7 +137,7 @@ std::string PngRows::Open(PhotoFacts& facts) {
   png_bytep exif = nullptr;
   png_uint_32 exifLength = 0;
   if (png_get_eXIf_1(png_, info_, &exifLength, &exif) != 0) {
-    facts.orientation = tools::exif_orientation({exif, exifLength});
+    facts.orientation = exif_orientation({exif, exifLength});
   }
   return {};
 }
@@ -189,7 +190,7 @@ std::string PngRows::Begin(unsigned /*reduction*/, std::size_t& width, std::size
     return {};
   }
   if (width_ > kSteppedMost / height_) {
-    return "it is interlaced, and too large for that";
+    return language::_("it is interlaced, and too large for that");
   }
   all_.resize(height_ * width_ * channels_);
   return ReadAll() ? std::string() : Why();

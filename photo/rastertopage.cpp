@@ -10,11 +10,12 @@
 #include <vector>
 
 #include "photo/filter_program.h"
-#include "photo/grey.h"
 #include "photo/job_page.h"
+#include "photo/job_wishes.h"
 #include "photo/page_edges.h"
 #include "photo/page_output.h"
 #include "photo/refusal.h"
+#include "photo/tones.h"
 
 namespace {
 
@@ -105,7 +106,7 @@ int print_pages(int argc, char* argv[]) {
   if (file < 0) {
     return fail("their file cannot be read");
   }
-  return print_pages(file, page, photo::asks_for_grey(options.Count(), options.All()));
+  return print_pages(file, page, photo::asks_for_grey(options));
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <memory>
 #include <vector>
 
+#include "language/messages.h"
 #include "photo/light_tables.h"
 #include "photo/refusal.h"
 
@@ -80,8 +81,8 @@ struct Strip {
 
 class Resampling {
  public:
-  Resampling(std::size_t width, std::size_t height, const PhotoArea& area, const NextRow& next,
-             tools::Picture& result)
+  Resampling(std::size_t width, std::size_t height, const PictureArea& area, const NextRow& next,
+             Picture& result)
       : width_(width),
         height_(height),
         area_(area),
@@ -110,9 +111,9 @@ class Resampling {
 
   std::size_t width_;
   std::size_t height_;
-  PhotoArea area_;
+  PictureArea area_;
   const NextRow& next_;
-  tools::Picture& result_;
+  Picture& result_;
   LightTables tables_;
   std::size_t stripDots_ = kStripDots;
   std::vector<std::uint8_t> rgb_;  ///< a row of the picture
@@ -238,7 +239,7 @@ std::string Resampling::Run() {
     rows = std::max(rows, strip.endRow - strip.firstRow);
   }
   if (static_cast<double>(rows) * RowBytes() > kMemoryMost) {
-    return "it is too large to be printed so small";
+    return language::_("it is too large to be printed so small");
   }
   rgb_.resize(kPlanes * width_);
   if (!from_.Take(width_, rows) || !to_.Take(result_.width, stripDots_)) {
@@ -259,8 +260,8 @@ std::string Resampling::Run() {
 
 }  // namespace
 
-std::string resample(std::size_t width, std::size_t height, const PhotoArea& area,
-                     const NextRow& next, tools::Picture& result) {
+std::string resample(std::size_t width, std::size_t height, const PictureArea& area,
+                     const NextRow& next, Picture& result) {
   return Resampling(width, height, area, next, result).Run();
 }
 

@@ -15,7 +15,7 @@
 #include <string>
 
 #include "photo/layout.h"
-#include "tools/picture.h"
+#include "photo/picture.h"
 
 namespace photo {
 
@@ -24,8 +24,8 @@ using NextRow = std::function<std::string(std::uint8_t* rgb)>;
 
 /// Brings `area` of a picture of width x height pixels, which `next` gives from its first row on,
 /// to the size that `result` has. Says why not, or nothing. Rows below the area are not asked for.
-std::string resample(std::size_t width, std::size_t height, const PhotoArea& area,
-                     const NextRow& next, tools::Picture& result);
+std::string resample(std::size_t width, std::size_t height, const PictureArea& area,
+                     const NextRow& next, Picture& result);
 
 }  // namespace photo
 

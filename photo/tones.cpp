@@ -7,14 +7,15 @@
 #include <cstdint>
 #include <numbers>
 
-#include "photo/grey.h"
-
 namespace photo {
 namespace {
 
 constexpr double kMost = 255;
 constexpr std::size_t kColours = 3;
 constexpr int kUnchanged = 100;  ///< per cent
+
+/// How bright red, green and blue look; their sum is 1.
+constexpr std::array<double, kColours> kLuma = {0.2126, 0.7152, 0.0722};
 
 using Curve = std::array<std::uint8_t, 256>;
 using Matrix = std::array<std::array<double, kColours>, kColours>;
@@ -58,7 +59,7 @@ Matrix make_hue(double degrees) {
   return matrix;
 }
 
-void apply_matrix(const Matrix& matrix, tools::Picture& picture) {
+void apply_matrix(const Matrix& matrix, Picture& picture) {
   for (std::size_t i = 0; i + 2 < picture.rgb.size(); i += kColours) {
     std::uint8_t* const rgb = &picture.rgb[i];
     const std::array<double, kColours> from = {
@@ -72,7 +73,15 @@ void apply_matrix(const Matrix& matrix, tools::Picture& picture) {
 
 }  // namespace
 
-void apply_tones(const JobWishes& wishes, tools::Picture& picture) {
+void turn_grey(std::uint8_t* rgb, std::size_t pixels) {
+  constexpr double kHalf = 0.5;
+  for (std::size_t i = 0; i < pixels; ++i, rgb += kColours) {
+    const double bright = kLuma[0] * rgb[0] + kLuma[1] * rgb[1] + kLuma[2] * rgb[2];
+    std::fill_n(rgb, kColours, static_cast<std::uint8_t>(bright + kHalf));
+  }
+}
+
+void apply_tones(const JobWishes& wishes, Picture& picture) {
   if (wishes.grey) {
     turn_grey(picture.rgb.data(), picture.rgb.size() / kColours);
   } else {

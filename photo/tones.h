@@ -5,13 +5,19 @@
 #ifndef TQR7_PHOTO_TONES_H
 #define TQR7_PHOTO_TONES_H
 
+#include <cstddef>
+#include <cstdint>
+
 #include "photo/job_wishes.h"
-#include "tools/picture.h"
+#include "photo/picture.h"
 
 namespace photo {
 
 /// Changes the picture as the wishes say. White stays white; without wishes nothing changes.
-void apply_tones(const JobWishes& wishes, tools::Picture& picture);
+void apply_tones(const JobWishes& wishes, Picture& picture);
+
+/// Makes each pixel of 8-bit RGB the grey that looks as bright. Greys stay as they are.
+void turn_grey(std::uint8_t* rgb, std::size_t pixels);
 
 }  // namespace photo
 

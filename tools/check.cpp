@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // tqr7 check: how a photo will come out on a paper size, before paper is spent.
+#include <cerrno>
 #include <cstdio>
 #include <exception>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "language/display_width.h"
 #include "language/messages.h"
@@ -17,7 +19,6 @@
 #include "tools/plain_text.h"
 #include "tools/sheet_preview.h"
 #include "tools/subcommands.h"
-#include "tools/upright_photo.h"
 
 namespace tools {
 namespace {
@@ -33,14 +34,24 @@ using Json = nlohmann::ordered_json;
 struct Options {
   std::string photo;
   std::string size;
-  std::string scaling = "fit";
+  std::string scaling;
+  std::string job;  ///< more of its options
   std::string picture;
   bool json = false;
 
-  PrintScaling Scaling() const {
-    return scaling == "fill" ? PrintScaling::Fill : PrintScaling::Fit;
+  std::string ForJob() const {
+    return (scaling.empty() ? "" : "print-scaling=" + scaling + " ") + job;
   }
 };
+
+// A folder is opened without complaint, and fails when it is read.
+photo::File open_file(const std::string& path) {
+  photo::File file(std::fopen(path.c_str(), "rbe"));
+  if (file == nullptr || (std::fgetc(file.get()) == EOF && std::ferror(file.get()) != 0)) {
+    throw std::system_error(errno, std::generic_category(), path);
+  }
+  return file;
+}
 
 int cannot(const std::string& why) {
   std::fprintf(stderr, "tqr7 check: %s\n", why.c_str());
@@ -64,6 +75,20 @@ void print_line(const char* label, const std::string& value) {
                                 _(kResolution), _(kCutOff), _(kLeftWhite), _(kNote),
                                 _(kNotGood),    _(kGood)};
   std::printf("%s%s\n", labels(_(label)).c_str(), value.c_str());
+}
+
+// As JSON has it.
+const char* to_string(photo::Scaling scaling) {
+  switch (scaling) {
+    case photo::Scaling::Fit:
+      return "fit";
+    case photo::Scaling::Fill:
+      return "fill";
+    case photo::Scaling::Natural:
+      return "none";
+    default:
+      return "own-size";
+  }
 }
 
 void print_paper(const PrintSize& size) {
@@ -116,21 +141,21 @@ void print_losses(const PhotoCheck& check) {
   }
   for (const White& white : check.whites) {
     const std::string dots = filled(_n("%zu dot", "%zu dots", white.dots), std::size_t{white.dots});
+    const std::string length = decimal(millimetres(static_cast<double>(white.dots)), 1);
     // TRANSLATORS: as in "right of the image area, 12 dots, 3.1 % (4.0 mm)".
-    print_line(kLeftWhite, filled(_("%1$s, %2$s, %3$s %% (%4$s mm)"), side_of_area(white.side),
-                                  dots.c_str(), decimal(kPercent * white.share, 1).c_str(),
-                                  decimal(millimetres(white.dots), 1).c_str()));
+    print_line(kLeftWhite,
+               filled(_("%1$s, %2$s, %3$s %% (%4$s mm)"), side_of_area(white.side), dots.c_str(),
+                      decimal(kPercent * white.share, 1).c_str(), length.c_str()));
   }
 }
 
-void print_text(const Options& options, const UprightPhoto& photo, const PrintSize& size,
-                const PhotoCheck& check) {
-  print_line(kPhoto, filled(_("%1$zu x %2$zu pixels"), photo.picture.width, photo.picture.height));
-  print_paper(size);
-  // TRANSLATORS: %1$s is fit or fill, as the option has it.
-  print_line(kScaling,
-             filled(_("%1$s, to %2$u x %3$u dots in the middle of the image area"),
-                    options.scaling.c_str(), check.placement.width, check.placement.height));
+void print_text(const PhotoJob& job, const PhotoCheck& check) {
+  const photo::PhotoShape& shape = job.plan.shape;
+  print_line(kPhoto, filled(_("%1$zu x %2$zu pixels"), shape.width, shape.height));
+  print_paper(job.size);
+  // TRANSLATORS: %1$s is fit, fill, none or own-size.
+  print_line(kScaling, filled(_("%1$s, to %2$zu x %3$zu dots"), to_string(job.wishes.scaling),
+                              check.printed.width, check.printed.height));
   // TRANSLATORS: %2$s is sharp, soft or coarse.
   print_line(kResolution,
              filled(_("%1$.0f dpi, %2$s (sharp from %3$.0f on, soft from %4$.0f, coarse below)"),
@@ -147,8 +172,11 @@ void print_text(const Options& options, const UprightPhoto& photo, const PrintSi
   }
 }
 
-Json json_of(const Options& options, const UprightPhoto& photo, const PrintSize& size,
-             const PhotoCheck& check) {
+Json area_json(const photo::DotArea& area) {
+  return {{"left", area.left}, {"top", area.top}, {"width", area.width}, {"height", area.height}};
+}
+
+Json json_of(const std::string& file, const PhotoJob& job, const PhotoCheck& check) {
   Json cuts = Json::array();
   for (const Cut& cut : check.cuts) {
     cuts.push_back({{"side", cut.side},
@@ -162,36 +190,30 @@ Json json_of(const Options& options, const UprightPhoto& photo, const PrintSize&
     whites.push_back({{"side", white.side},
                       {"dots", white.dots},
                       {"share", white.share},
-                      {"millimetres", millimetres(white.dots)}});
+                      {"millimetres", millimetres(static_cast<double>(white.dots))}});
   }
-  const tagPAPERINFO& paper = *size.paper;
-  const PixelArea& used = check.placement.used;
-  return {
-      {"photo",
-       {{"file", options.photo}, {"width", photo.picture.width}, {"height", photo.picture.height}}},
-      {"size", size.name},
-      {"sheet", {{"width", paper.nPaperWidth}, {"height", paper.nPaperHeight}}},
-      {"image_area",
-       {{"left", paper.nImageLeft},
-        {"top", paper.nImageTop},
-        {"width", paper.nImageWidth},
-        {"height", paper.nImageHeight}}},
-      {"scaling", options.scaling},
-      {"turned", check.placement.turned},
-      {"used",
-       {{"left", used.left}, {"top", used.top}, {"width", used.width}, {"height", used.height}}},
-      {"printed",
-       {{"left", check.placement.left},
-        {"top", check.placement.top},
-        {"width", check.placement.width},
-        {"height", check.placement.height}}},
-      {"dots_per_inch", check.dotsPerInch},
-      {"sharpness", to_string(check.sharpness)},
-      {"cut_off", std::move(cuts)},
-      {"left_white", std::move(whites)},
-      {"notes", check.notes},
-      {"not_good", check.rulesBroken},
-      {"good", check.rulesBroken.empty()}};
+  const tagPAPERINFO& paper = *job.size.paper;
+  const photo::PhotoShape& shape = job.plan.shape;
+  return {{"photo", {{"file", file}, {"width", shape.width}, {"height", shape.height}}},
+          {"size", job.size.name},
+          {"sheet", {{"width", paper.nPaperWidth}, {"height", paper.nPaperHeight}}},
+          {"image_area",
+           {{"left", paper.nImageLeft},
+            {"top", paper.nImageTop},
+            {"width", paper.nImageWidth},
+            {"height", paper.nImageHeight}}},
+          {"scaling", to_string(job.wishes.scaling)},
+          {"pages", job.plan.layout.pages.size()},
+          {"turned", job.plan.layout.turn != photo::kExifUpright},
+          {"used", area_json(check.used)},
+          {"printed", area_json(check.printed)},
+          {"dots_per_inch", check.dotsPerInch},
+          {"sharpness", to_string(check.sharpness)},
+          {"cut_off", std::move(cuts)},
+          {"left_white", std::move(whites)},
+          {"notes", check.notes},
+          {"not_good", check.rulesBroken},
+          {"good", check.rulesBroken.empty()}};
 }
 
 std::string all_sizes() {
@@ -208,19 +230,35 @@ int check(const Options& options) {
     return cannot(filled(_("\"%s\" is no size; there are %s"), plain_text(options.size).c_str(),
                          all_sizes().c_str()));
   }
-  const UprightPhoto photo = read_upright_photo(options.photo);
-  const Placement placement = place_picture(photo.shape, *size, options.Scaling());
+  const photo::File file = open_file(options.photo);
+  const photo::JobOptions jobOptions(options.ForJob().c_str());
+  PhotoJob job{
+      *size, photo::read_wishes(jobOptions, "1", size->paper->nImageLeft == 0), {}, {}, {}};
+  if (std::string why = photo::plan_pages(
+          file.get(), static_cast<std::size_t>(size->paper->nImageWidth),
+          static_cast<std::size_t>(size->paper->nImageHeight), job.wishes, job.plan);
+      !why.empty()) {
+    return cannot(options.photo + ": " + why);
+  }
+  const photo::Layout& layout = job.plan.layout;
+  // The last page reads the file as far as any.
+  job.refusal = photo::make_page(file.get(), layout, layout.pages.size() - 1, job.wishes, job.page);
   const PhotoCheck result = [&] {
     const language::English for_programs(options.json);
-    return check_photo(photo, *size, options.Scaling(), placement);
+    return check_photo(job);
   }();
-  if (!options.picture.empty()) {
-    write_picture(options.picture, draw_preview(photo.picture, *size, placement));
+  if (!options.picture.empty() && job.refusal.empty()) {
+    photo::Picture preview;
+    std::string why = draw_preview(file.get(), job, result, preview);
+    why = why.empty() ? photo::write_picture(options.picture, preview) : why;
+    if (!why.empty()) {
+      return cannot(options.picture + ": " + why);
+    }
   }
   if (options.json) {
-    print_json(stdout, json_of(options, photo, *size, result));
+    print_json(stdout, json_of(options.photo, job, result));
   } else {
-    print_text(options, photo, *size, result);
+    print_text(job, result);
   }
   return result.rulesBroken.empty() ? kExitGood : kExitNotGood;
 }
@@ -245,6 +283,9 @@ void add_check(CommandLine& program) {
            _("print-scaling of the job: fit, the system's own choice for photos, or fill"))
       .Called("fit|fill")
       .OneOf({"fit", "fill"});
+  sub.Text("-o,--option", options->job, _("an option of the job, as lp takes it"))
+      .Called("NAME=VALUE")
+      .Repeated();
   sub.Text("--picture", options->picture, _("PNG file to draw the sheet with the photo on it to"))
       .Called("FILE");
   sub.Flag("--json", options->json, _("write one JSON document"));

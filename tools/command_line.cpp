@@ -33,6 +33,11 @@ Argument& Argument::OneOf(const std::vector<std::string>& values) {
   return *this;
 }
 
+Argument& Argument::Repeated() {
+  option_->join(' ');
+  return *this;
+}
+
 bool Argument::Given() const {
   return option_->count() > 0;
 }

@@ -29,6 +29,8 @@ class Argument {
   /// It and the other exclude each other.
   Argument& NotWith(const Argument& other);
   Argument& OneOf(const std::vector<std::string>& values);
+  /// The person may give it several times: the values come with spaces between them.
+  Argument& Repeated();
 
   /// Whether the person gave it: known once the subcommand runs.
   bool Given() const;

@@ -5,13 +5,13 @@
 #ifndef TQR7_TOOLS_PHOTO_CHECK_H
 #define TQR7_TOOLS_PHOTO_CHECK_H
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
-#include "tools/placement.h"
+#include "photo/page_picture.h"
 #include "tools/print_sizes.h"
-#include "tools/upright_photo.h"
 
 namespace tools {
 
@@ -24,10 +24,24 @@ enum class Sharpness : std::uint8_t { Sharp, Soft, Coarse };
 /// "sharp", "soft", "coarse"
 const char* to_string(Sharpness sharpness);
 
+/// A photo that a job prints on a paper size, as phototopage does.
+struct PhotoJob {
+  const PrintSize& size;
+  photo::JobWishes wishes;
+  photo::PlannedPhoto plan;
+  photo::PagePicture page;  ///< the last
+  std::string refusal;      ///< why that cannot be made; empty when it can
+};
+
+/// An area as it lies on the sheet, of something that is width x height as one looks at the upright
+/// photo: the page, or the photo itself.
+photo::PictureArea on_sheet(photo::PictureArea area, std::size_t width, std::size_t height,
+                            const PhotoJob& job);
+
 /// What is cut off one side of the photo, as one looks at its file.
 struct Cut {
   const char* side;  ///< "left", "right", "top", "bottom"
-  std::uint32_t pixels;
+  std::size_t pixels;
   double share;  ///< of the photo's width or height
   double dots;   ///< of paper that it would have taken
 };
@@ -35,13 +49,14 @@ struct Cut {
 /// What of the page's image area the photo does not cover, as the sheet comes out of the printer.
 struct White {
   const char* side;  ///< "left", "right", "top" or "bottom"
-  std::uint32_t dots;
+  std::size_t dots;
   double share;  ///< of the area's width or height
 };
 
 /// All that is known of how a photo will come out.
 struct PhotoCheck {
-  Placement placement;
+  photo::DotArea used;     ///< pixels of the upright photo that are printed
+  photo::DotArea printed;  ///< dots of the page's image area that the photo covers
   double dotsPerInch;  ///< pixels of the photo to an inch of paper, the fewer of both directions
   Sharpness sharpness;
   std::vector<Cut> cuts;                 ///< sides that lose something
@@ -53,9 +68,7 @@ struct PhotoCheck {
 /// Dots of paper in millimetres.
 double millimetres(double dots);
 
-/// Checks a photo that this scaling has given a placement.
-PhotoCheck check_photo(const UprightPhoto& photo, const PrintSize& size, PrintScaling scaling,
-                       const Placement& placement);
+PhotoCheck check_photo(const PhotoJob& job);
 
 }  // namespace tools
 

@@ -9,146 +9,130 @@
 namespace tools {
 namespace {
 
-using Colour = std::array<double, 3>;
+using Colour = std::array<std::uint8_t, 3>;
 
 constexpr Colour kGround = {0xB0, 0xB0, 0xB0};
 constexpr Colour kPaper = {0xFF, 0xFF, 0xFF};
 constexpr Colour kLine = {0x40, 0x40, 0x40};
 constexpr double kDimmed = 0.3;  ///< what is left of a photo's colour outside the sheet
 constexpr double kMargin = 0.03;
-constexpr int kSamples = 3;  ///< across and down, for each pixel of the preview
 
-// In dots of the sheet, from its top left corner.
+// In dots of the sheet, from its top left corner, or in pixels of the preview.
+template <typename Place>
 struct Box {
-  double left, top, right, bottom;
+  Place left, top, right, bottom;
 
-  bool Has(double x, double y) const { return x >= left && x < right && y >= top && y < bottom; }
+  bool Has(Place x, Place y) const { return x >= left && x < right && y >= top && y < bottom; }
 };
+using Dots = Box<double>;
+using Pixels = Box<std::size_t>;
 
-Box sheet_box(const PrintSize& size) {
+Dots sheet_dots(const PrintSize& size) {
   const tagPAPERINFO& paper = *size.paper;
   return {0, 0, static_cast<double>(size.HalfSheet() ? paper.nImageWidth : paper.nPaperWidth),
           static_cast<double>(size.HalfSheet() ? paper.nImageHeight : paper.nPaperHeight)};
 }
 
-// Finds the photo's pixel at a place of the sheet; outside what is printed, too.
-class LaidPhoto {
- public:
-  LaidPhoto(const Picture& photo, const PrintSize& size, const Placement& placement)
-      : photo_(photo),
-        placement_(placement),
-        left_(static_cast<double>(size.paper->nImageLeft) + placement.left),
-        top_(static_cast<double>(size.paper->nImageTop) + placement.top) {}
-
-  // The part that is printed.
-  Box Printed() const { return {left_, top_, left_ + placement_.width, top_ + placement_.height}; }
-
-  // All of it.
-  Box Whole() const {
-    const PixelArea& used = placement_.used;
-    const double across = placement_.DotsPerPixelAcross();
-    const double down = placement_.DotsPerPixelDown();
-    const auto width = static_cast<double>(photo_.width) * across;
-    const auto height = static_cast<double>(photo_.height) * down;
-    if (!placement_.turned) {
-      const double left = left_ - used.left * across;
-      const double top = top_ - used.top * down;
-      return {left, top, left + width, top + height};
-    }
-    const double left = left_ - used.top * down;
-    const double bottom = top_ + placement_.height + used.left * across;
-    return {left, bottom - width, left + height, bottom};
-  }
-
-  Colour At(double x, double y) const {
-    const PixelArea& used = placement_.used;
-    const double right = (placement_.turned ? top_ + placement_.height - y : x - left_) /
-                         placement_.DotsPerPixelAcross();
-    const double down = (placement_.turned ? x - left_ : y - top_) / placement_.DotsPerPixelDown();
-    const unsigned char* const rgb =
-        photo_.At(Inside(used.left + right, photo_.width), Inside(used.top + down, photo_.height));
-    return {double(rgb[0]), double(rgb[1]), double(rgb[2])};
-  }
-
- private:
-  static std::size_t Inside(double place, std::size_t length) {
-    return static_cast<std::size_t>(
-        std::clamp(std::floor(place), 0.0, static_cast<double>(length - 1)));
-  }
-
-  const Picture& photo_;
-  const Placement& placement_;
-  double left_;
-  double top_;
-};
-
-struct View {
-  Box sheet;
-  Box printed;
-  Box whole;
-};
-
-Colour colour_at(const LaidPhoto& photo, const View& view, double x, double y) {
-  if (view.sheet.Has(x, y)) {
-    return view.printed.Has(x, y) ? photo.At(x, y) : kPaper;
-  }
-  if (!view.whole.Has(x, y)) {
-    return kGround;
-  }
-  Colour colour = photo.At(x, y);
-  for (std::size_t i = 0; i < colour.size(); ++i) {
-    colour.at(i) = kDimmed * colour.at(i) + (1 - kDimmed) * kGround.at(i);
-  }
-  return colour;
+Dots printed_dots(const tagPAPERINFO& paper, const photo::DotArea& printed) {
+  const double left = static_cast<double>(paper.nImageLeft) + static_cast<double>(printed.left);
+  const double top = static_cast<double>(paper.nImageTop) + static_cast<double>(printed.top);
+  return {left, top, left + static_cast<double>(printed.width),
+          top + static_cast<double>(printed.height)};
 }
 
-// From pixels of the preview to dots of the sheet.
+// All of the photo, with what the sheet does not have of it.
+Dots whole_dots(const PhotoJob& job, const Dots& printed) {
+  const photo::PhotoShape& shape = job.plan.shape;
+  const auto lying = [&](const photo::PictureArea& area) {
+    return on_sheet(area, shape.width, shape.height, job);
+  };
+  const photo::PictureArea used = lying(job.plan.layout.pages.front().from);
+  const photo::PictureArea all =
+      lying({0, 0, static_cast<double>(shape.width), static_cast<double>(shape.height)});
+  const double across = (printed.right - printed.left) / used.width;
+  const double down = (printed.bottom - printed.top) / used.height;
+  const double left = printed.left - used.left * across;
+  const double top = printed.top - used.top * down;
+  return {left, top, left + all.width * across, top + all.height * down};
+}
+
+// From dots of the sheet to pixels of the preview.
 struct Frame {
   double left, top, dotsPerPixel;
   std::size_t width, height;
+
+  std::size_t Across(double dots) const { return Place(dots - left, width); }
+  std::size_t Down(double dots) const { return Place(dots - top, height); }
+
+  // A pixel at least.
+  Pixels In(const Dots& box) const {
+    const std::size_t x = Across(box.left);
+    const std::size_t y = Down(box.top);
+    return {x, y, std::max(x + 1, Across(box.right)), std::max(y + 1, Down(box.bottom))};
+  }
+
+ private:
+  std::size_t Place(double dots, std::size_t length) const {
+    return std::min(length - 1, static_cast<std::size_t>(dots / dotsPerPixel));
+  }
 };
 
-Frame frame_for(const View& view) {
-  const double left = std::min(view.sheet.left, view.whole.left);
-  const double top = std::min(view.sheet.top, view.whole.top);
-  const double width = std::max(view.sheet.right, view.whole.right) - left;
-  const double height = std::max(view.sheet.bottom, view.whole.bottom) - top;
+Frame frame_around(const Dots& sheet, const Dots& whole) {
+  const double left = std::min(sheet.left, whole.left);
+  const double top = std::min(sheet.top, whole.top);
+  const double width = std::max(sheet.right, whole.right) - left;
+  const double height = std::max(sheet.bottom, whole.bottom) - top;
   const double margin = kMargin * std::max(width, height);
-  const double longest = std::max(width, height) + 2 * margin;
-  const double dots = longest / kPreviewLongest;
+  const double dots = (std::max(width, height) + 2 * margin) / kPreviewLongest;
   const auto pixels = [dots, margin](double length) {
     return static_cast<std::size_t>(std::lround((length + 2 * margin) / dots));
   };
   return {left - margin, top - margin, dots, pixels(width), pixels(height)};
 }
 
-void draw_pixel(unsigned char* rgb, const LaidPhoto& photo, const View& view, double x, double y,
-                double dots) {
-  Colour sum{};
-  for (int sample = 0; sample < kSamples * kSamples; ++sample) {
-    const int column = sample % kSamples;
-    const int row = sample / kSamples;
-    const double right = (column + 0.5) / kSamples;
-    const double down = (row + 0.5) / kSamples;
-    const Colour colour = colour_at(photo, view, x + right * dots, y + down * dots);
-    for (std::size_t i = 0; i < sum.size(); ++i) {
-      sum.at(i) += colour.at(i);
-    }
+// All of the photo in the pixels that it has in the preview, made as a page that it covers.
+std::string make_whole(std::FILE* file, const PhotoJob& job, const Pixels& place,
+                       photo::PagePicture& photo) {
+  const photo::PhotoShape& shape = job.plan.shape;
+  photo::Layout layout = job.plan.layout;
+  layout.pageWidth = place.right - place.left;
+  layout.pageHeight = place.bottom - place.top;
+  if (photo::swaps_sides(layout.turn)) {
+    std::swap(layout.pageWidth, layout.pageHeight);
   }
-  for (std::size_t i = 0; i < sum.size(); ++i) {
-    rgb[i] = static_cast<unsigned char>(std::lround(sum.at(i) / (kSamples * kSamples)));
-  }
+  layout.pages = {{{0, 0, static_cast<double>(shape.width), static_cast<double>(shape.height)},
+                   {0, 0, layout.pageWidth, layout.pageHeight}}};
+  return photo::make_page(file, layout, 0, job.wishes, photo);
 }
 
-// A line of one pixel, from one place of the sheet to another.
-void draw_line(Picture& preview, const Frame& frame, const Box& line) {
-  const auto place = [&frame](double dots, double begin, std::size_t length) {
-    return std::min(length - 1, static_cast<std::size_t>((dots - begin) / frame.dotsPerPixel));
-  };
-  const std::size_t right = place(line.right, frame.left, preview.width);
-  const std::size_t bottom = place(line.bottom, frame.top, preview.height);
-  for (std::size_t y = place(line.top, frame.top, preview.height); y <= bottom; ++y) {
-    for (std::size_t x = place(line.left, frame.left, preview.width); x <= right; ++x) {
+Colour dimmed(const std::uint8_t* rgb) {
+  Colour colour{};
+  for (std::size_t i = 0; i < colour.size(); ++i) {
+    colour.at(i) =
+        static_cast<std::uint8_t>(std::lround(kDimmed * rgb[i] + (1 - kDimmed) * kGround.at(i)));
+  }
+  return colour;
+}
+
+struct View {
+  Pixels sheet;
+  Pixels printed;
+  Pixels whole;
+};
+
+Colour colour_at(const View& view, const photo::Picture& photo, std::size_t x, std::size_t y) {
+  const std::uint8_t* const dot =
+      view.whole.Has(x, y) ? photo.At(x - view.whole.left, y - view.whole.top) : nullptr;
+  if (!view.sheet.Has(x, y)) {
+    return dot != nullptr ? dimmed(dot) : kGround;
+  }
+  return dot != nullptr && view.printed.Has(x, y) ? Colour{dot[0], dot[1], dot[2]} : kPaper;
+}
+
+// A line of one pixel; both ends are on it.
+void draw_line(photo::Picture& preview, const Pixels& line) {
+  for (std::size_t y = line.top; y <= line.bottom; ++y) {
+    for (std::size_t x = line.left; x <= line.right; ++x) {
       std::copy(kLine.begin(), kLine.end(), preview.At(x, y));
     }
   }
@@ -156,28 +140,34 @@ void draw_line(Picture& preview, const Frame& frame, const Box& line) {
 
 }  // namespace
 
-Picture draw_preview(const Picture& photo, const PrintSize& size, const Placement& placement) {
-  const LaidPhoto laid(photo, size, placement);
-  const View view{sheet_box(size), laid.Printed(), laid.Whole()};
-  const Frame frame = frame_for(view);
-  Picture preview(frame.width, frame.height);
+std::string draw_preview(std::FILE* file, const PhotoJob& job, const PhotoCheck& check,
+                         photo::Picture& preview) {
+  const Dots sheet = sheet_dots(job.size);
+  const Dots printed = printed_dots(*job.size.paper, check.printed);
+  const Dots whole = whole_dots(job, printed);
+  const Frame frame = frame_around(sheet, whole);
+  const View view{frame.In(sheet), frame.In(printed), frame.In(whole)};
+  photo::PagePicture photo;
+  if (std::string why = make_whole(file, job, view.whole, photo); !why.empty()) {
+    return why;
+  }
+  preview = photo::Picture(frame.width, frame.height);
   for (std::size_t y = 0; y < frame.height; ++y) {
     for (std::size_t x = 0; x < frame.width; ++x) {
-      draw_pixel(preview.At(x, y), laid, view,
-                 frame.left + static_cast<double>(x) * frame.dotsPerPixel,
-                 frame.top + static_cast<double>(y) * frame.dotsPerPixel, frame.dotsPerPixel);
+      const Colour colour = colour_at(view, photo.picture, x, y);
+      std::copy(colour.begin(), colour.end(), preview.At(x, y));
     }
   }
-  const Box& sheet = view.sheet;
-  draw_line(preview, frame, {sheet.left, sheet.top, sheet.right, sheet.top});
-  draw_line(preview, frame, {sheet.left, sheet.bottom, sheet.right, sheet.bottom});
-  draw_line(preview, frame, {sheet.left, sheet.top, sheet.left, sheet.bottom});
-  draw_line(preview, frame, {sheet.right, sheet.top, sheet.right, sheet.bottom});
-  if (size.TwoOnOnePage()) {
-    const double split = size.paper->nTwoUpSplit;
-    draw_line(preview, frame, {sheet.left, split, sheet.right, split});
+  const auto& [left, top, right, bottom] = view.sheet;
+  draw_line(preview, {left, top, right, top});
+  draw_line(preview, {left, bottom, right, bottom});
+  draw_line(preview, {left, top, left, bottom});
+  draw_line(preview, {right, top, right, bottom});
+  if (job.size.TwoOnOnePage()) {
+    const std::size_t split = frame.Down(static_cast<double>(job.size.paper->nTwoUpSplit));
+    draw_line(preview, {left, split, right, split});
   }
-  return preview;
+  return {};
 }
 
 }  // namespace tools

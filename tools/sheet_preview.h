@@ -6,17 +6,19 @@
 #define TQR7_TOOLS_SHEET_PREVIEW_H
 
 #include <cstddef>
+#include <cstdio>
+#include <string>
 
-#include "tools/picture.h"
-#include "tools/placement.h"
-#include "tools/print_sizes.h"
+#include "tools/photo_check.h"
 
 namespace tools {
 
 inline constexpr std::size_t kPreviewLongest = 1000;  ///< pixels of the longer side
 
-/// Draws the sheet, or the half of it that the page takes, on grey, with a line around it.
-Picture draw_preview(const Picture& photo, const PrintSize& size, const Placement& placement);
+/// Draws the sheet, or the half of it that the page takes, on grey, with a line around it. Reads
+/// the photo again from its beginning. Returns why it cannot be drawn, or nothing.
+std::string draw_preview(std::FILE* file, const PhotoJob& job, const PhotoCheck& check,
+                         photo::Picture& preview);
 
 }  // namespace tools
 

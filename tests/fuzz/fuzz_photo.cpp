@@ -5,22 +5,15 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
 #include <string>
 
-#include "photo/layout.h"
 #include "photo/page_picture.h"
-#include "photo/read_facts.h"
 
 namespace {
 
 constexpr std::size_t kPageWidth = 60;
 constexpr std::size_t kPageHeight = 40;
 constexpr std::size_t kPixelsMost = 1'000'000;  ///< so that an input takes no second
-
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
 
 photo::JobWishes wishes_of(std::uint8_t first, std::uint8_t second) {
   photo::JobWishes wishes;
@@ -36,26 +29,27 @@ photo::JobWishes wishes_of(std::uint8_t first, std::uint8_t second) {
 
 // Pages or reasons, one behind the other.
 std::string print(std::FILE* file, const photo::JobWishes& wishes) {
-  photo::PhotoFacts facts;
-  if (std::string why = photo::read_facts(file, facts); !why.empty()) {
+  photo::PlannedPhoto plan;
+  if (std::string why = photo::plan_pages(file, kPageWidth, kPageHeight, wishes, plan);
+      !why.empty()) {
     return why;
   }
+  const photo::PhotoFacts& facts = plan.facts;
   if (facts.width == 0 || facts.height == 0 || facts.orientation < 1 || facts.orientation > 8) {
     std::abort();
   }
   if (facts.width > kPixelsMost / facts.height) {
     return "large";
   }
-  const photo::Layout layout =
-      photo::lay_out(photo::upright_shape(facts), kPageWidth, kPageHeight, wishes);
   std::string all;
-  for (std::size_t i = 0; i < layout.pages.size() && i < 3; ++i) {
-    tools::Picture page;
-    const std::string why = photo::make_page(file, layout, i, wishes, page);
-    if (why.empty() && (page.width != kPageWidth || page.height != kPageHeight)) {
+  for (std::size_t i = 0; i < plan.layout.pages.size() && i < 3; ++i) {
+    photo::PagePicture page;
+    const std::string why = photo::make_page(file, plan.layout, i, wishes, page);
+    const photo::Picture& picture = page.picture;
+    if (why.empty() && (picture.width != kPageWidth || picture.height != kPageHeight)) {
       std::abort();
     }
-    all += why.empty() ? std::string(page.rgb.begin(), page.rgb.end()) : why;
+    all += why.empty() ? std::string(picture.rgb.begin(), picture.rgb.end()) : why;
   }
   return all;
 }
@@ -68,7 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   const photo::JobWishes wishes = wishes_of(data[0], data[1]);
   std::string bytes(data + 2, data + size);
-  const std::unique_ptr<std::FILE, CloseFile> file(fmemopen(bytes.data(), bytes.size(), "rb"));
+  const photo::File file(fmemopen(bytes.data(), bytes.size(), "rb"));
   if (file == nullptr) {
     std::abort();
   }

@@ -9,11 +9,7 @@ namespace photo {
 namespace {
 
 JobWishes wishes_of(const char* text, bool borderless = true, const char* copies = "1") {
-  cups_option_t* options = nullptr;
-  const int count = cupsParseOptions(text, 0, &options);
-  const JobWishes wishes = read_wishes(count, options, copies, borderless);
-  cupsFreeOptions(count, options);
-  return wishes;
+  return read_wishes(JobOptions(text), copies, borderless);
 }
 
 TEST(JobWishes, AreToFitWhenNothingIsSaid) {

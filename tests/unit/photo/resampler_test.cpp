@@ -11,8 +11,6 @@
 namespace photo {
 namespace {
 
-using tools::Picture;
-
 // Gives the rows of a picture, and counts them.
 struct Rows {
   const Picture& picture;
@@ -27,7 +25,7 @@ struct Rows {
   }
 };
 
-Picture resampled(const Picture& from, const PhotoArea& area, std::size_t width,
+Picture resampled(const Picture& from, const PictureArea& area, std::size_t width,
                   std::size_t height) {
   Rows rows{from};
   Picture to(width, height);

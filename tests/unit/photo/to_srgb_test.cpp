@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 #include <lcms2.h>
 
+#include "tests/unit/simulator/test_profiles.h"
+
 namespace photo {
 namespace {
 
@@ -36,32 +38,6 @@ Bytes grey_profile(double gamma) {
   Bytes bytes = bytes_of(cmsCreateGrayProfile(cmsD50_xyY(), curve));
   cmsFreeToneCurve(curve);
   return bytes;
-}
-
-// A press whose black alone is seen, from white paper to black.
-Bytes black_only_profile() {
-  cmsHPROFILE profile = cmsCreateProfilePlaceholder(nullptr);
-  cmsSetProfileVersion(profile, 2.1);
-  cmsSetDeviceClass(profile, cmsSigOutputClass);
-  cmsSetColorSpace(profile, cmsSigCmykData);
-  cmsSetPCS(profile, cmsSigLabData);
-  cmsPipeline* const way = cmsPipelineAlloc(nullptr, 4, 3);
-  cmsStage* const table = cmsStageAllocCLut16bit(nullptr, 2, 4, 3, nullptr);
-  cmsStageSampleCLut16bit(
-      table,
-      [](const cmsUInt16Number* ink, cmsUInt16Number* lab, void* /*cargo*/) -> cmsInt32Number {
-        lab[0] = ink[3] == 0 ? 0xFF00 : 0;  // as version 2 counts
-        lab[1] = 0x8000;
-        lab[2] = 0x8000;
-        return 1;
-      },
-      nullptr, 0);
-  cmsPipelineInsertStage(way, cmsAT_END, table);
-  cmsWriteTag(profile, cmsSigAToB0Tag, way);
-  cmsWriteTag(profile, cmsSigAToB1Tag, way);
-  cmsWriteTag(profile, cmsSigMediaWhitePointTag, cmsD50_XYZ());
-  cmsPipelineFree(way);
-  return bytes_of(profile);
 }
 
 constexpr cmsCIExyYTRIPLE kScreen = {{0.64, 0.33, 1}, {0.30, 0.60, 1}, {0.15, 0.06, 1}};
@@ -171,7 +147,7 @@ TEST(ToSrgb, TakesInkWithoutAProfileForWhatItLeavesOfTheLight) {
 TEST(ToSrgb, ConvertsInkByItsProfileBothWaysRound) {
   PhotoFacts facts;
   facts.samples = Samples::Cmyk;
-  facts.profile = black_only_profile();
+  facts.profile = profiles::black_only_press();
   EXPECT_EQ(ToSrgb(facts).Source(), ColourSource::Profile);
   EXPECT_THAT(converted(facts, {255, 255, 255, 0}), ElementsAre(255, 255, 255));
   EXPECT_THAT(converted(facts, {0, 0, 0, 255}), ElementsAre(0, 0, 0));

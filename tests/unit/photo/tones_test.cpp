@@ -12,7 +12,7 @@ using testing::ElementsAre;
 
 std::vector<unsigned char> after(const JobWishes& wishes, unsigned char red, unsigned char green,
                                  unsigned char blue) {
-  tools::Picture picture(1, 1);
+  Picture picture(1, 1);
   picture.rgb = {red, green, blue};
   apply_tones(wishes, picture);
   return picture.rgb;

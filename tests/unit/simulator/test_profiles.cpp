@@ -127,6 +127,31 @@ Profile rgb_scanner() {
   return with_class(matrix_printer(), "scnr");
 }
 
+Profile black_only_press() {
+  cmsHPROFILE profile = cmsCreateProfilePlaceholder(nullptr);
+  cmsSetProfileVersion(profile, 2.1);
+  cmsSetDeviceClass(profile, cmsSigOutputClass);
+  cmsSetColorSpace(profile, cmsSigCmykData);
+  cmsSetPCS(profile, cmsSigLabData);
+  cmsPipeline* const way = cmsPipelineAlloc(nullptr, 4, 3);
+  cmsStage* const table = cmsStageAllocCLut16bit(nullptr, 2, 4, 3, nullptr);
+  cmsStageSampleCLut16bit(
+      table,
+      [](const cmsUInt16Number* ink, cmsUInt16Number* lab, void* /*cargo*/) -> cmsInt32Number {
+        lab[0] = ink[3] == 0 ? 0xFF00 : 0;  // as version 2 counts
+        lab[1] = 0x8000;
+        lab[2] = 0x8000;
+        return 1;
+      },
+      nullptr, 0);
+  cmsPipelineInsertStage(way, cmsAT_END, table);
+  cmsWriteTag(profile, cmsSigAToB0Tag, way);
+  cmsWriteTag(profile, cmsSigAToB1Tag, way);
+  cmsWriteTag(profile, cmsSigMediaWhitePointTag, cmsD50_XYZ());
+  cmsPipelineFree(way);
+  return saved(profile);
+}
+
 std::vector<double> on_screen(const Profile& profile, std::span<const std::uint16_t> samples) {
   cmsHPROFILE device =
       cmsOpenProfileFromMem(profile.data(), static_cast<cmsUInt32Number>(profile.size()));

@@ -36,6 +36,9 @@ Profile grey_display();
 Profile link_of_two();
 Profile rgb_scanner();
 
+/// A press whose black alone is seen, from white paper to black.
+Profile black_only_press();
+
 /// What Little CMS itself says of these colours, in double precision: device values of 14 bits to
 /// sRGB as 0 … 255, neither clipped nor rounded.
 std::vector<double> on_screen(const Profile& profile, std::span<const std::uint16_t> samples);

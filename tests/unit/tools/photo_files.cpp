@@ -28,10 +28,12 @@ std::string chunk(const std::string& typeAndData) {
 }
 
 constexpr int kColours = 3;
+const std::vector<std::uint8_t> kGrey(kColours, 0x80);
 
-// A grey picture; `addMarkers` may write what goes before the pixels.
+// A picture of one colour, RGB or CMYK; `addMarkers` may write what goes before the pixels.
 template <typename AddMarkers>
-std::string compressed(unsigned width, unsigned height, const std::vector<jpeg_scan_info>& steps,
+std::string compressed(unsigned width, unsigned height, const std::vector<std::uint8_t>& colour,
+                       bool byAdobe, const std::vector<jpeg_scan_info>& steps,
                        const AddMarkers& addMarkers) {
   jpeg_compress_struct jpeg;
   jpeg_error_mgr errors;
@@ -42,14 +44,18 @@ std::string compressed(unsigned width, unsigned height, const std::vector<jpeg_s
   jpeg_mem_dest(&jpeg, &memory, &length);
   jpeg.image_width = width;
   jpeg.image_height = height;
-  jpeg.input_components = kColours;
-  jpeg.in_color_space = JCS_RGB;
+  jpeg.input_components = static_cast<int>(colour.size());
+  jpeg.in_color_space = colour.size() == kColours ? JCS_RGB : JCS_CMYK;
   jpeg_set_defaults(&jpeg);
+  jpeg.write_Adobe_marker = byAdobe ? TRUE : FALSE;
   jpeg.scan_info = steps.empty() ? nullptr : steps.data();
   jpeg.num_scans = static_cast<int>(steps.size());
   jpeg_start_compress(&jpeg, TRUE);
   addMarkers(jpeg);
-  std::vector<unsigned char> row(3UL * width, 0x80);
+  std::vector<std::uint8_t> row;
+  for (unsigned x = 0; x < width; ++x) {
+    row.insert(row.end(), colour.begin(), colour.end());
+  }
   while (jpeg.next_scanline < height) {
     JSAMPROW rows = row.data();
     jpeg_write_scanlines(&jpeg, &rows, 1);
@@ -65,7 +71,7 @@ std::string compressed(unsigned width, unsigned height, const std::vector<jpeg_s
 
 std::string jpeg_file(unsigned width, unsigned height, const std::vector<std::uint8_t>& exif,
                       const std::vector<std::uint8_t>& profile) {
-  return compressed(width, height, {}, [&](jpeg_compress_struct& jpeg) {
+  return compressed(width, height, kGrey, false, {}, [&](jpeg_compress_struct& jpeg) {
     if (!exif.empty()) {
       constexpr std::string_view kBegin("Exif\0\0", 6);
       jpeg_write_m_header(&jpeg, JPEG_APP0 + 1, static_cast<unsigned>(kBegin.size() + exif.size()));
@@ -76,6 +82,16 @@ std::string jpeg_file(unsigned width, unsigned height, const std::vector<std::ui
         jpeg_write_m_byte(&jpeg, byte);
       }
     }
+    if (!profile.empty()) {
+      jpeg_write_icc_profile(&jpeg, profile.data(), static_cast<unsigned>(profile.size()));
+    }
+  });
+}
+
+std::string cmyk_jpeg(const std::array<std::uint8_t, 4>& samples, bool byAdobe,
+                      const std::vector<std::uint8_t>& profile) {
+  const std::vector<std::uint8_t> colour(samples.begin(), samples.end());
+  return compressed(1852, 1232, colour, byAdobe, {}, [&](jpeg_compress_struct& jpeg) {
     if (!profile.empty()) {
       jpeg_write_icc_profile(&jpeg, profile.data(), static_cast<unsigned>(profile.size()));
     }
@@ -93,7 +109,14 @@ std::string jpeg_in_steps(unsigned width, unsigned height) {
       steps.push_back({1, {colour}, coefficient, coefficient, 1, 0});
     }
   }
-  return compressed(width, height, steps, [](jpeg_compress_struct&) {});
+  return compressed(width, height, kGrey, false, steps, [](jpeg_compress_struct&) {});
+}
+
+std::string jpeg_claim(std::uint16_t width, std::uint16_t height, bool inSteps) {
+  std::string file = inSteps ? jpeg_in_steps(16, 16) : jpeg_file(16, 16);
+  const std::size_t frame = file.find(inSteps ? "\xFF\xC2" : "\xFF\xC0");
+  file.replace(frame + 5, 4, big_endian(std::uint32_t{height} << 16U | width));
+  return file;
 }
 
 std::string with_density(std::string jpeg, unsigned char unit, unsigned char across,

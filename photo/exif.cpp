@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "tools/exif.h"
+#include "photo/exif.h"
 
 #include <cstddef>
 #include <optional>
 
-#include "language/messages.h"
-
-namespace tools {
+namespace photo {
 namespace {
 
 using Bytes = std::span<const std::uint8_t>;
@@ -137,27 +135,4 @@ bool exif_says_adobe_rgb(Bytes bytes) {
   return text.Number(*index, 4) == kAdobeRgb;
 }
 
-// TRANSLATORS: each stands in the sentence that says what the photo must be to be seen upright.
-const char* exif_orientation_words(int orientation) {
-  using language::N_;
-  switch (orientation) {
-    case 2:
-      return N_("mirrored left to right");
-    case 3:
-      return N_("turned by 180 degrees");
-    case 4:
-      return N_("mirrored top to bottom");
-    case 5:
-      return N_("turned by 90 degrees clockwise and mirrored left to right");
-    case 6:
-      return N_("turned by 90 degrees clockwise");
-    case 7:
-      return N_("turned by 90 degrees counter-clockwise and mirrored left to right");
-    case 8:
-      return N_("turned by 90 degrees counter-clockwise");
-    default:
-      return "";
-  }
-}
-
-}  // namespace tools
+}  // namespace photo

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "photo/picture_turn.h"
+#include "photo/picture.h"
+
+#include <png.h>
 
 #include <algorithm>
 #include <array>
@@ -30,10 +32,10 @@ constexpr std::array<Way, 9> kWays = {{{false, false, false},
 
 }  // namespace
 
-tools::Picture turned(const tools::Picture& picture, int orientation) {
+Picture turned(const Picture& picture, int orientation) {
   const Way& way = kWays.at(static_cast<std::size_t>(orientation));
-  tools::Picture upright(way.swapped ? picture.height : picture.width,
-                         way.swapped ? picture.width : picture.height);
+  Picture upright(way.swapped ? picture.height : picture.width,
+                  way.swapped ? picture.width : picture.height);
   for (std::size_t y = 0; y < upright.height; ++y) {
     for (std::size_t x = 0; x < upright.width; ++x) {
       std::size_t column = way.swapped ? y : x;
@@ -46,10 +48,10 @@ tools::Picture turned(const tools::Picture& picture, int orientation) {
   return upright;
 }
 
-PhotoArea area_in_file(const PhotoArea& upright, std::size_t width, std::size_t height,
-                       int orientation) {
+PictureArea area_in_file(const PictureArea& upright, std::size_t width, std::size_t height,
+                         int orientation) {
   const Way& way = kWays.at(static_cast<std::size_t>(orientation));
-  PhotoArea area = upright;
+  PictureArea area = upright;
   if (way.swapped) {
     std::swap(area.left, area.top);
     std::swap(area.width, area.height);
@@ -63,12 +65,23 @@ PhotoArea area_in_file(const PhotoArea& upright, std::size_t width, std::size_t 
   return area;
 }
 
-void mirror(tools::Picture& picture) {
+void mirror(Picture& picture) {
   for (std::size_t y = 0; y < picture.height; ++y) {
     for (std::size_t left = 0, right = picture.width - 1; left < right; ++left, --right) {
       std::swap_ranges(picture.At(left, y), picture.At(left, y) + kColours, picture.At(right, y));
     }
   }
+}
+
+std::string write_picture(const std::string& path, const Picture& picture) {
+  png_image png{};
+  png.version = PNG_IMAGE_VERSION;
+  png.width = static_cast<png_uint_32>(picture.width);
+  png.height = static_cast<png_uint_32>(picture.height);
+  png.format = PNG_FORMAT_RGB;
+  const int written =
+      png_image_write_to_file(&png, path.c_str(), 0, picture.rgb.data(), 0, nullptr);
+  return written != 0 ? "" : png.message;
 }
 
 }  // namespace photo

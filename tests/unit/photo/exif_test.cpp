@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "tools/exif.h"
+#include "photo/exif.h"
 
 #include <gmock/gmock.h>
 
@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace tools {
+namespace photo {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -109,12 +109,5 @@ TEST(ExifOrientation, IsFoundThoughTheDirectoryClaimsMoreEntriesThanThereAre) {
   EXPECT_EQ(exif_orientation(bytes), 6);
 }
 
-TEST(ExifOrientationWords, TellHowToSeeThePhotoUpright) {
-  EXPECT_STREQ(exif_orientation_words(1), "");
-  EXPECT_STREQ(exif_orientation_words(3), "turned by 180 degrees");
-  EXPECT_STREQ(exif_orientation_words(6), "turned by 90 degrees clockwise");
-  EXPECT_STREQ(exif_orientation_words(8), "turned by 90 degrees counter-clockwise");
-}
-
 }  // namespace
-}  // namespace tools
+}  // namespace photo

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // Pictures turned by the eight orientations.
-#include "photo/picture_turn.h"
+#include "photo/picture.h"
 
 #include <gmock/gmock.h>
 
@@ -11,12 +11,12 @@ namespace photo {
 namespace {
 
 // A letter a pixel, rows parted by a stroke.
-tools::Picture picture_of(const std::string& letters, std::size_t width) {
+Picture picture_of(const std::string& letters, std::size_t width) {
   std::string pixels;
   for (const char letter : letters) {
     pixels += letter == '/' ? "" : std::string(1, letter);
   }
-  tools::Picture picture(width, pixels.size() / width);
+  Picture picture(width, pixels.size() / width);
   for (std::size_t i = 0; i < pixels.size(); ++i) {
     picture.At(i % width, i / width)[0] = static_cast<unsigned char>(pixels[i]);
     picture.At(i % width, i / width)[2] = static_cast<unsigned char>(pixels[i]);
@@ -24,7 +24,7 @@ tools::Picture picture_of(const std::string& letters, std::size_t width) {
   return picture;
 }
 
-std::string letters_of(const tools::Picture& picture) {
+std::string letters_of(const Picture& picture) {
   std::string letters;
   for (std::size_t y = 0; y < picture.height; ++y) {
     letters += y > 0 ? "/" : "";
@@ -54,7 +54,7 @@ TEST(PictureTurn, BringsTheTopRightCornerToTheTopLeftWithOrientation8) {
 // The upper left pixel of a picture of 3 x 2, as it is seen.
 void expect_upper_left(int orientation, std::size_t width, std::size_t height, double left,
                        double top) {
-  const PhotoArea area = area_in_file({0, 0, 1, 1}, width, height, orientation);
+  const PictureArea area = area_in_file({0, 0, 1, 1}, width, height, orientation);
   EXPECT_EQ(area.left, left) << orientation;
   EXPECT_EQ(area.top, top) << orientation;
   EXPECT_EQ(area.width, 1) << orientation;
@@ -73,7 +73,7 @@ TEST(PictureTurn, FindsTheUpperLeftPixelInTheFile) {
 }
 
 TEST(PictureTurn, FindsAnAreaThatLiesAcrossInTheFile) {
-  const PhotoArea area = area_in_file({1, 0.5, 2, 1}, 2, 3, 6);
+  const PictureArea area = area_in_file({1, 0.5, 2, 1}, 2, 3, 6);
   EXPECT_EQ(area.left, 0.5);
   EXPECT_EQ(area.top, 0);
   EXPECT_EQ(area.width, 1);
@@ -81,10 +81,10 @@ TEST(PictureTurn, FindsAnAreaThatLiesAcrossInTheFile) {
 }
 
 TEST(PictureTurn, MirrorsRowsOfAnyLength) {
-  tools::Picture even = picture_of("abcd/efgh", 4);
+  Picture even = picture_of("abcd/efgh", 4);
   mirror(even);
   EXPECT_EQ(letters_of(even), "dcba/hgfe");
-  tools::Picture odd = picture_of("abc", 3);
+  Picture odd = picture_of("abc", 3);
   mirror(odd);
   EXPECT_EQ(letters_of(odd), "cba");
 }
