@@ -64,7 +64,7 @@ bool Condition::IsGood() const {
                      [](const Reason& reason) { return reason.harmless; });
 }
 
-Condition condition_of(const Room& room, const Queue& queue) {
+Condition condition_of(const QueueList& list, const Queue& queue) {
   Condition condition;
   condition.queue = plain_text(queue.name);
   condition.isClass = queue.isClass;
@@ -74,7 +74,7 @@ Condition condition_of(const Room& room, const Queue& queue) {
   condition.state = queue.state;
   condition.message = plain_text(queue.message);
   condition.accepting = queue.accepting;
-  condition.cause = cause_of_standstill(room, queue);
+  condition.cause = cause_of_standstill(list, queue);
   condition.reasons = reasons_of(queue);
   condition.printing = numbers_of(queue, JobState::Processing);
   condition.waiting = numbers_of(queue, JobState::Pending);

@@ -48,7 +48,7 @@ struct Condition {
   bool IsGood() const;
 };
 
-Condition condition_of(const Room& room, const Queue& queue);
+Condition condition_of(const QueueList& list, const Queue& queue);
 
 /// Why a stopped queue stands and what to do, as one explanation.
 Explanation explain_standstill(const Condition& condition);

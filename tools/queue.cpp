@@ -9,13 +9,13 @@ namespace tools {
 
 using language::N_;
 
-const Queue* Room::Find(std::string_view name) const {
+const Queue* QueueList::Find(std::string_view name) const {
   const auto found = std::find_if(queues.begin(), queues.end(),
                                   [&](const Queue& queue) { return queue.name == name; });
   return found == queues.end() ? nullptr : &*found;
 }
 
-bool Room::IsOurs(const Queue& queue) const {
+bool QueueList::IsOurs(const Queue& queue) const {
   if (!queue.isClass) {
     return queue.makeAndModel == kMakeAndModel;
   }

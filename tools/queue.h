@@ -61,7 +61,7 @@ struct Queue {
 };
 
 /// All queues and classes of a scheduler, by name.
-struct Room {
+struct QueueList {
   std::vector<Queue> queues;
 
   const Queue* Find(std::string_view name) const;

@@ -11,13 +11,13 @@ namespace tools {
 using language::_;
 using language::filled;
 
-QueueChoice choose_queues(const Room& room, const std::vector<std::string>& names) {
+QueueChoice choose_queues(const QueueList& list, const std::vector<std::string>& names) {
   QueueChoice choice;
   for (const std::string& name : names) {
-    const Queue* const queue = room.Find(name);
+    const Queue* const queue = list.Find(name);
     if (queue == nullptr) {
       choice.complaints.push_back(filled(_("there is no queue %s"), plain_text(name).c_str()));
-    } else if (!room.IsOurs(*queue)) {
+    } else if (!list.IsOurs(*queue)) {
       choice.complaints.push_back(
           filled(_("the queue %s is not one of this driver's"), plain_text(name).c_str()));
     } else if (std::find(choice.queues.begin(), choice.queues.end(), queue) ==
@@ -28,8 +28,8 @@ QueueChoice choose_queues(const Room& room, const std::vector<std::string>& name
   if (!names.empty()) {
     return choice;
   }
-  for (const Queue& queue : room.queues) {
-    if (room.IsOurs(queue)) {
+  for (const Queue& queue : list.queues) {
+    if (list.IsOurs(queue)) {
       choice.queues.push_back(&queue);
     }
   }

@@ -12,12 +12,12 @@
 namespace tools {
 
 struct QueueChoice {
-  std::vector<const Queue*> queues;     ///< of the room that was looked into
+  std::vector<const Queue*> queues;     ///< of the list that was looked into
   std::vector<std::string> complaints;  ///< sentences; not empty when something cannot be told
 };
 
 /// Looks the names up; without any, takes all of the driver's queues and classes.
-QueueChoice choose_queues(const Room& room, const std::vector<std::string>& names);
+QueueChoice choose_queues(const QueueList& list, const std::vector<std::string>& names);
 
 }  // namespace tools
 

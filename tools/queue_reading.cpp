@@ -186,20 +186,20 @@ std::string queue_of_uri(const char* uri) {
   return slash != nullptr ? slash + 1 : "";
 }
 
-Room read_queues(ipp_t* response) {
-  Room room{read_records<Queue>(response, IPP_TAG_PRINTER)};
-  std::erase_if(room.queues, [](const Queue& queue) { return queue.name.empty(); });
-  std::sort(room.queues.begin(), room.queues.end(),
+QueueList read_queues(ipp_t* response) {
+  QueueList list{read_records<Queue>(response, IPP_TAG_PRINTER)};
+  std::erase_if(list.queues, [](const Queue& queue) { return queue.name.empty(); });
+  std::sort(list.queues.begin(), list.queues.end(),
             [](const Queue& left, const Queue& right) { return left.name < right.name; });
-  return room;
+  return list;
 }
 
-void read_jobs(ipp_t* response, Room& room) {
+void read_jobs(ipp_t* response, QueueList& list) {
   std::vector<Job> jobs = read_records<Job>(response, IPP_TAG_JOB);
   std::sort(jobs.begin(), jobs.end(),
             [](const Job& left, const Job& right) { return left.id < right.id; });
   for (const Job& job : jobs) {
-    for (Queue& queue : room.queues) {
+    for (Queue& queue : list.queues) {
       if (job.id > 0 && queue.name == job.queue) {
         queue.jobs.push_back(job);
       }

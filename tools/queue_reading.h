@@ -12,10 +12,10 @@
 namespace tools {
 
 /// The queues and classes of an answer to CUPS-Get-Printers, without their jobs.
-Room read_queues(ipp_t* response);
+QueueList read_queues(ipp_t* response);
 
 /// Gives each queue its jobs out of an answer to Get-Jobs, by number.
-void read_jobs(ipp_t* response, Room& room);
+void read_jobs(ipp_t* response, QueueList& list);
 
 /// The last part of a printer's URI, decoded: the queue's name.
 std::string queue_of_uri(const char* uri);

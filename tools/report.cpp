@@ -123,10 +123,10 @@ std::string readme(const Subject& subject, bool withStream) {
 }
 
 // The addresses of the printers that the queue's jobs may come to.
-std::vector<std::string> printers_of(const Room& room, const Queue& queue) {
+std::vector<std::string> printers_of(const QueueList& list, const Queue& queue) {
   std::vector<std::string> addresses = {queue.deviceUri};
   for (const std::string& name : queue.members) {
-    if (const Queue* const member = room.Find(name)) {
+    if (const Queue* const member = list.Find(name)) {
       addresses.push_back(member->deviceUri);
     }
   }
@@ -134,10 +134,10 @@ std::vector<std::string> printers_of(const Room& room, const Queue& queue) {
 }
 
 // The name of a class's member stands for the class: it has the PPD.
-std::string queue_with_ppd(const Room& room, const Queue& queue) {
+std::string queue_with_ppd(const QueueList& list, const Queue& queue) {
   for (const std::string& name : queue.members) {
-    const Queue* const member = room.Find(name);
-    if (member != nullptr && room.IsOurs(*member)) {
+    const Queue* const member = list.Find(name);
+    if (member != nullptr && list.IsOurs(*member)) {
       return name;
     }
   }
@@ -153,7 +153,7 @@ PpdText read_ppd(Scheduler& scheduler, const std::string& queue) {
   return ppd;
 }
 
-int write_report(Scheduler& scheduler, const Room& room, const Subject& subject,
+int write_report(Scheduler& scheduler, const QueueList& list, const Subject& subject,
                  const ReportOptions& options) {
   const Response queue = scheduler.QueueAttributes(subject.queue->name);
   const Response job = scheduler.JobAttributes(subject.job);
@@ -161,9 +161,9 @@ int write_report(Scheduler& scheduler, const Room& room, const Subject& subject,
     complain(filled(_("the scheduler does not tell of the job: %s"), scheduler.Error().c_str()));
     return kExitCannotTell;
   }
-  PersonalWords words = words_of_job(job.get(), printers_of(room, *subject.queue));
+  PersonalWords words = words_of_job(job.get(), printers_of(list, *subject.queue));
   add_own_names(words);
-  const PpdText ppd = read_ppd(scheduler, queue_with_ppd(room, *subject.queue));
+  const PpdText ppd = read_ppd(scheduler, queue_with_ppd(list, *subject.queue));
   const auto told = [&](const std::string& text) { return words.Without(text); };
 
   // Whoever looks for the fault reads English.
@@ -173,7 +173,7 @@ int write_report(Scheduler& scheduler, const Room& room, const Subject& subject,
     files = {
         {"README.txt", readme(subject, !options.stream.empty())},
         {"versions.txt", versions_text(TQR7_VERSION, text_attribute(queue.get(), "cups-version"))},
-        {"status.txt", told(in_words(condition_of(room, *subject.queue)))},
+        {"status.txt", told(in_words(condition_of(list, *subject.queue)))},
         {"queue.txt", told(queue_text(queue.get()))},
         {"ppd.txt", told(ppd.text)},
         {"job.txt", told(job_text(job.get(), ppd.options))}};
@@ -197,8 +197,8 @@ int write_report(Scheduler& scheduler, const Room& room, const Subject& subject,
 
 int report(const ReportOptions& options) {
   Scheduler scheduler;
-  const std::optional<Room> room = scheduler.Look();
-  if (!room) {
+  const std::optional<QueueList> list = scheduler.Look();
+  if (!list) {
     complain(filled(_("the scheduler does not answer: %s"), scheduler.Error().c_str()));
     return kExitCannotTell;
   }
@@ -207,13 +207,13 @@ int report(const ReportOptions& options) {
     complain(filled(_("\"%s\" is not the number of a job"), plain_text(options.job).c_str()));
     return kExitCannotTell;
   }
-  const Subject subject = find_subject(choose_queues(*room, {}).queues, number);
+  const Subject subject = find_subject(choose_queues(*list, {}).queues, number);
   if (subject.queue == nullptr) {
     complain(number > 0 ? filled(_("no queue of this driver's has a job %d"), number)
                         : _("no queue of this driver's has had a job"));
     return kExitCannotTell;
   }
-  return write_report(scheduler, *room, subject, options);
+  return write_report(scheduler, *list, subject, options);
 }
 
 }  // namespace

@@ -33,24 +33,24 @@ struct ResumeOptions {
 int resume_now(const ResumeOptions& options) {
   Scheduler scheduler;
   ResumeActions actions(scheduler, false);
-  const std::optional<Room> room = scheduler.Look();
-  if (!room) {
+  const std::optional<QueueList> list = scheduler.Look();
+  if (!list) {
     actions.Complain(filled(_("the scheduler does not answer: %s"), scheduler.Error().c_str()));
     return kExitCannotTell;
   }
-  const QueueChoice choice = choose_queues(*room, options.queues);
+  const QueueChoice choice = choose_queues(*list, options.queues);
   for (const std::string& complaint : choice.complaints) {
     actions.Complain(complaint);
   }
   bool good = true;
   for (const Queue* const queue : choice.queues) {
-    const ResumePlan own = plan_resume(*room, {queue}, {});
+    const ResumePlan own = plan_resume(*list, {queue}, {});
     if (!own.HasWork() && own.left.empty()) {
       actions.Note(queue->name, _("runs; nothing to start"));
     }
     good = good && own.left.empty();
   }
-  const ResumePlan plan = plan_resume(*room, choice.queues, {});
+  const ResumePlan plan = plan_resume(*list, choice.queues, {});
   good = actions.Do(plan) && good;
   actions.SayLeft(plan);
   if (!choice.complaints.empty()) {

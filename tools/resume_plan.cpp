@@ -53,8 +53,9 @@ void plan_job(const Queue& queue, const Job& job, const ResumeRules& rules, Resu
 }
 
 // A queue that a job of a class has stopped brings that job along.
-void plan_cause(const Room& room, const Cause& cause, const ResumeRules& rules, ResumePlan& plan) {
-  for (const Queue& queue : room.queues) {
+void plan_cause(const QueueList& list, const Cause& cause, const ResumeRules& rules,
+                ResumePlan& plan) {
+  for (const Queue& queue : list.queues) {
     for (const Job* const job : jobs_in(queue, JobState::Stopped)) {
       if (queue.isClass && queue.state != QueueState::Stopped && job->id == cause.job) {
         plan_job(queue, *job, rules, plan);
@@ -63,8 +64,9 @@ void plan_cause(const Room& room, const Cause& cause, const ResumeRules& rules, 
   }
 }
 
-void plan_queue(const Room& room, const Queue& queue, const ResumeRules& rules, ResumePlan& plan) {
-  const Cause cause = cause_of_standstill(room, queue);
+void plan_queue(const QueueList& list, const Queue& queue, const ResumeRules& rules,
+                ResumePlan& plan) {
+  const Cause cause = cause_of_standstill(list, queue);
   if (cause.kind == Standstill::ByPerson) {
     plan.left.push_back({queue.name, 0,
                          filled(_("a person stopped it, or a program that is not this driver; "
@@ -76,7 +78,7 @@ void plan_queue(const Room& room, const Queue& queue, const ResumeRules& rules, 
     plan_job(queue, *job, rules, plan);
   }
   if (cause.kind == Standstill::Refused) {
-    plan_cause(room, cause, rules, plan);
+    plan_cause(list, cause, rules, plan);
     plan.queues.push_back(
         {queue.name, cause.word.empty()
                          ? _("the driver had stopped it: refused sheet")
@@ -89,11 +91,11 @@ void plan_queue(const Room& room, const Queue& queue, const ResumeRules& rules, 
 
 }  // namespace
 
-ResumePlan plan_resume(const Room& room, const std::vector<const Queue*>& queues,
+ResumePlan plan_resume(const QueueList& list, const std::vector<const Queue*>& queues,
                        const ResumeRules& rules) {
   ResumePlan plan;
   for (const Queue* const queue : queues) {
-    plan_queue(room, *queue, rules, plan);
+    plan_queue(list, *queue, rules, plan);
   }
   std::sort(plan.jobs.begin(), plan.jobs.end(),
             [](const JobToRestart& left, const JobToRestart& right) { return left.id < right.id; });

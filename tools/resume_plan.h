@@ -51,7 +51,7 @@ struct ResumeRules {
   std::map<int, int> started;
 };
 
-ResumePlan plan_resume(const Room& room, const std::vector<const Queue*>& queues,
+ResumePlan plan_resume(const QueueList& list, const std::vector<const Queue*>& queues,
                        const ResumeRules& rules);
 
 /// The pause before the next attempt: twice the last, from `interval` to a minute, or `interval`

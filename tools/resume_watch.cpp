@@ -28,33 +28,33 @@ ResumeWatch::ResumeWatch(Scheduler& scheduler, ResumeActions& actions,
 }
 
 int ResumeWatch::Step() {
-  const std::optional<Room> room = scheduler_.Look();
-  if (!room) {
+  const std::optional<QueueList> list = scheduler_.Look();
+  if (!list) {
     actions_.Complain(filled(_("the scheduler does not answer: %s"), scheduler_.Error().c_str()));
     return kExitCannotTell;
   }
-  const QueueChoice choice = choose_queues(*room, names_);
+  const QueueChoice choice = choose_queues(*list, names_);
   for (const std::string& complaint : choice.complaints) {
     actions_.Complain(complaint);
   }
   for (const Queue* const queue : choice.queues) {
-    StepQueue(*room, *queue);
+    StepQueue(*list, *queue);
   }
   return choice.complaints.empty() ? StatusNow() : kExitCannotTell;
 }
 
 // Looks again: what was just started runs.
 int ResumeWatch::StatusNow() {
-  const std::optional<Room> room = scheduler_.Look();
-  if (!room) {
+  const std::optional<QueueList> list = scheduler_.Look();
+  if (!list) {
     return kExitCannotTell;
   }
-  const ResumePlan plan = plan_resume(*room, choose_queues(*room, names_).queues, rules_);
+  const ResumePlan plan = plan_resume(*list, choose_queues(*list, names_).queues, rules_);
   return plan.left.empty() && !plan.HasWork() ? kExitGood : kExitNotGood;
 }
 
-void ResumeWatch::StepQueue(const Room& room, const Queue& queue) {
-  const ResumePlan plan = plan_resume(room, {&queue}, rules_);
+void ResumeWatch::StepQueue(const QueueList& list, const Queue& queue) {
+  const ResumePlan plan = plan_resume(list, {&queue}, rules_);
   Track& track = tracks_[queue.name];
   if (!plan.HasWork()) {
     if (plan.left.empty() && queue.state == QueueState::Idle) {
@@ -68,7 +68,7 @@ void ResumeWatch::StepQueue(const Room& room, const Queue& queue) {
   if (Clock::now() < track.due) {
     return;
   }
-  if (PrinterStillInError(room, queue)) {
+  if (PrinterStillInError(list, queue)) {
     actions_.Note(queue.name, _("waits: the printer is still in error"));
     return;
   }
@@ -87,13 +87,13 @@ void ResumeWatch::Attempt(const ResumePlan& plan, Track& track) {
 
 // Asks a queue at rest, and a class's members that show a reason. A queue that cannot be asked is
 // tried instead: the driver asks the printer before any paper is spent.
-bool ResumeWatch::PrinterStillInError(const Room& room, const Queue& queue) {
+bool ResumeWatch::PrinterStillInError(const QueueList& list, const Queue& queue) {
   if (!queue.isClass) {
     return Ask(queue);
   }
   bool free_member = false;
   for (const std::string& name : queue.members) {
-    const Queue* const member = room.Find(name);
+    const Queue* const member = list.Find(name);
     if (member != nullptr && member->state != QueueState::Stopped) {
       free_member = !has_printer_reason(member->reasons) || !Ask(*member) || free_member;
     }
@@ -112,7 +112,7 @@ bool ResumeWatch::Ask(const Queue& queue) {
                              plain_text(queue.name).c_str(), why_not.c_str()));
     return false;
   }
-  const std::optional<Room> now = scheduler_.Look();
+  const std::optional<QueueList> now = scheduler_.Look();
   const Queue* const asked = now ? now->Find(queue.name) : nullptr;
   return asked != nullptr && has_printer_reason(asked->reasons);
 }

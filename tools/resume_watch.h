@@ -35,8 +35,8 @@ class ResumeWatch {
     double pause = 0;       ///< seconds, after the last attempt
   };
 
-  void StepQueue(const Room& room, const Queue& queue);
-  bool PrinterStillInError(const Room& room, const Queue& queue);
+  void StepQueue(const QueueList& list, const Queue& queue);
+  bool PrinterStillInError(const QueueList& list, const Queue& queue);
   bool Ask(const Queue& queue);
   void Attempt(const ResumePlan& plan, Track& track);
   int StatusNow();

@@ -147,18 +147,18 @@ Outcome Scheduler::Do(ipp_t* request, const char* resource) {
   return outcome_of(cupsLastError()) == Outcome::Forbidden ? Outcome::Forbidden : Outcome::Failed;
 }
 
-std::optional<Room> Scheduler::Look() {
+std::optional<QueueList> Scheduler::Look() {
   ipp_t* const queues = new_request(IPP_OP_CUPS_GET_PRINTERS);
   ask_for(queues, kQueueAttributes);
   const Response queueAnswer = Send(queues, "/");
   if (queueAnswer == nullptr) {
     // So does a scheduler without any queue answer.
     if (cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND) {
-      return Room{};
+      return QueueList{};
     }
     return std::nullopt;
   }
-  Room room = read_queues(queueAnswer.get());
+  QueueList list = read_queues(queueAnswer.get());
 
   ipp_t* const jobs = request_for(IPP_OP_GET_JOBS, "ipp://localhost/");
   add_string(jobs, IPP_TAG_KEYWORD, "which-jobs", "all");
@@ -167,8 +167,8 @@ std::optional<Room> Scheduler::Look() {
   if (jobAnswer == nullptr) {
     return std::nullopt;
   }
-  read_jobs(jobAnswer.get(), room);
-  return room;
+  read_jobs(jobAnswer.get(), list);
+  return list;
 }
 
 Response Scheduler::QueueAttributes(const std::string& queue) {

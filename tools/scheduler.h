@@ -37,7 +37,7 @@ class Scheduler {
   ~Scheduler();
 
   /// All queues and classes with their jobs; nothing when the scheduler does not answer.
-  std::optional<Room> Look();
+  std::optional<QueueList> Look();
 
   /// All attributes of a queue or of a job; null when there is none.
   Response QueueAttributes(const std::string& queue);

@@ -109,7 +109,7 @@ bool is_class_of(const Queue& group, const Queue& member) {
 
 // The job that ran last on the queue. Of a class's jobs only those count that show a refusal: which
 // member a job ran on is not told.
-const Job* last_job(const Room& room, const Queue& queue) {
+const Job* last_job(const QueueList& list, const Queue& queue) {
   const Job* last = nullptr;
   const auto look_at = [&](const Job& job) {
     const bool ran = job.processingSince > 0 && job.processingSince <= queue.changedAt;
@@ -121,7 +121,7 @@ const Job* last_job(const Room& room, const Queue& queue) {
   for (const Job& job : queue.jobs) {
     look_at(job);
   }
-  for (const Queue& group : room.queues) {
+  for (const Queue& group : list.queues) {
     for (const Job& job : group.jobs) {
       if (is_class_of(group, queue) && shows_refusal(job)) {
         look_at(job);
@@ -151,11 +151,11 @@ bool stopped_by_printer(const Job& job) {
          shows_refusal(job);
 }
 
-Cause cause_of_standstill(const Room& room, const Queue& queue) {
+Cause cause_of_standstill(const QueueList& list, const Queue& queue) {
   if (queue.state != QueueState::Stopped) {
     return {};
   }
-  const Job* const job = last_job(room, queue);
+  const Job* const job = last_job(list, queue);
   const bool touched = queue.isClass || contains(queue.reasons, "hold-new-jobs") ||
                        !is_of_programs(queue.message) || job == nullptr;
   if (!touched && (shows_refusal(*job) || shows_refusal_put_back(queue, *job))) {

@@ -42,7 +42,7 @@ struct Cause {
 };
 
 /// Why the queue stands.
-Cause cause_of_standstill(const Room& room, const Queue& queue);
+Cause cause_of_standstill(const QueueList& list, const Queue& queue);
 
 /// The driver's word in a job's message, such as "out-of-range"; empty when there is none.
 std::string refusal_word(const std::string& message);

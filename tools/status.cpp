@@ -44,14 +44,14 @@ void complain(Finding& finding, const std::string& sentence) {
   finding.complaints += "tqr7 status: " + sentence + "\n";
 }
 
-Finding describe(const Room& room, const StatusOptions& options) {
+Finding describe(const QueueList& list, const StatusOptions& options) {
   Finding finding;
-  const QueueChoice choice = choose_queues(room, options.queues);
+  const QueueChoice choice = choose_queues(list, options.queues);
   std::vector<Condition> conditions;
   const language::English for_programs(options.json);
   bool good = true;
   for (const Queue* const queue : choice.queues) {
-    conditions.push_back(condition_of(room, *queue));
+    conditions.push_back(condition_of(list, *queue));
     good = good && conditions.back().IsGood();
     finding.said += options.json ? "" : in_words(conditions.back());
   }
@@ -68,8 +68,8 @@ Finding describe(const Room& room, const StatusOptions& options) {
 }
 
 Finding look(Scheduler& scheduler, const StatusOptions& options) {
-  if (const std::optional<Room> room = scheduler.Look()) {
-    return describe(*room, options);
+  if (const std::optional<QueueList> list = scheduler.Look()) {
+    return describe(*list, options);
   }
   Finding finding;
   complain(finding, filled(_("the scheduler does not answer: %s"), scheduler.Error().c_str()));
@@ -84,11 +84,11 @@ void say(const Finding& finding) {
 
 void ask_queues(Scheduler& scheduler, const StatusOptions& options,
                 const Interruption& interruption) {
-  const std::optional<Room> room = scheduler.Look();
-  if (!room) {
+  const std::optional<QueueList> list = scheduler.Look();
+  if (!list) {
     return;  // the look that follows says so
   }
-  for (const Queue* const queue : choose_queues(*room, options.queues).queues) {
+  for (const Queue* const queue : choose_queues(*list, options.queues).queues) {
     if (queue->isClass) {
       continue;  // its members are asked
     }

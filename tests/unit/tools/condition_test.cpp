@@ -14,13 +14,13 @@ using testing::Not;
 using tools::Condition;
 using tools::JobState;
 using tools::Queue;
-using tools::Room;
+using tools::QueueList;
 
 namespace {
 
 Condition condition_of(const Queue& queue) {
-  const Room room{{queue}};
-  return tools::condition_of(room, room.queues.front());
+  const QueueList list{{queue}};
+  return tools::condition_of(list, list.queues.front());
 }
 
 Queue with_reason(const char* reason) {

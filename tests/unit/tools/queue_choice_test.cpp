@@ -11,7 +11,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using tools::Queue;
 using tools::QueueChoice;
-using tools::Room;
+using tools::QueueList;
 
 namespace {
 
@@ -24,15 +24,15 @@ Queue queue_of_another_driver(const char* name) {
 }  // namespace
 
 TEST(QueueChoice, IsOfAllOfTheDriversWithoutNames) {
-  const Room room{{idle_queue("left"), queue_of_another_driver("other"), idle_queue("right")}};
-  const QueueChoice choice = tools::choose_queues(room, {});
-  EXPECT_THAT(choice.queues, ElementsAre(&room.queues[0], &room.queues[2]));
+  const QueueList list{{idle_queue("left"), queue_of_another_driver("other"), idle_queue("right")}};
+  const QueueChoice choice = tools::choose_queues(list, {});
+  EXPECT_THAT(choice.queues, ElementsAre(&list.queues[0], &list.queues[2]));
   EXPECT_THAT(choice.complaints, IsEmpty());
 }
 
 TEST(QueueChoice, SaysThatNoneIsTheDrivers) {
-  const Room room{{queue_of_another_driver("other")}};
-  const QueueChoice choice = tools::choose_queues(room, {});
+  const QueueList list{{queue_of_another_driver("other")}};
+  const QueueChoice choice = tools::choose_queues(list, {});
   EXPECT_THAT(choice.queues, IsEmpty());
   EXPECT_THAT(choice.complaints, ElementsAre("there is no queue of this driver's"));
 }
@@ -42,25 +42,25 @@ TEST(QueueChoice, FollowsNoClassIntoItself) {
   circle.isClass = true;
   circle.makeAndModel = "Local Printer Class";
   circle.members = {"circle", "lost"};
-  const Room room{{circle}};
-  EXPECT_THAT(tools::choose_queues(room, {}).queues, IsEmpty());
+  const QueueList list{{circle}};
+  EXPECT_THAT(tools::choose_queues(list, {}).queues, IsEmpty());
 }
 
 TEST(QueueChoice, FollowsTheNamesInTheirOrder) {
-  const Room room{{idle_queue("left"), idle_queue("right")}};
-  EXPECT_THAT(tools::choose_queues(room, {"right", "left"}).queues,
-              ElementsAre(&room.queues[1], &room.queues[0]));
+  const QueueList list{{idle_queue("left"), idle_queue("right")}};
+  EXPECT_THAT(tools::choose_queues(list, {"right", "left"}).queues,
+              ElementsAre(&list.queues[1], &list.queues[0]));
 }
 
 TEST(QueueChoice, TakesAQueueOnceThatIsNamedTwice) {
-  const Room room{{idle_queue("left")}};
-  EXPECT_THAT(tools::choose_queues(room, {"left", "left"}).queues, ElementsAre(&room.queues[0]));
+  const QueueList list{{idle_queue("left")}};
+  EXPECT_THAT(tools::choose_queues(list, {"left", "left"}).queues, ElementsAre(&list.queues[0]));
 }
 
 TEST(QueueChoice, SaysWhichNamesAreNoneOfTheDrivers) {
-  const Room room{{idle_queue("left"), queue_of_another_driver("other")}};
-  const QueueChoice choice = tools::choose_queues(room, {"other", "lost\a", "left"});
-  EXPECT_THAT(choice.queues, ElementsAre(&room.queues[0]));
+  const QueueList list{{idle_queue("left"), queue_of_another_driver("other")}};
+  const QueueChoice choice = tools::choose_queues(list, {"other", "lost\a", "left"});
+  EXPECT_THAT(choice.queues, ElementsAre(&list.queues[0]));
   EXPECT_THAT(choice.complaints, ElementsAre("the queue other is not one of this driver's",
                                              "there is no queue lost?"));
 }

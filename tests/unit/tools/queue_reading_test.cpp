@@ -11,8 +11,8 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 using tools::JobState;
+using tools::QueueList;
 using tools::QueueState;
-using tools::Room;
 
 namespace {
 
@@ -66,16 +66,16 @@ TEST(QueueReading, ReadsQueuesByName) {
       .Next()
       .Name(kPrinter, "printer-name", "album")
       .Enum(kPrinter, "printer-state", 3);
-  const Room room = tools::read_queues(answer.Message());
-  ASSERT_EQ(room.queues.size(), 2U);
-  EXPECT_EQ(room.queues[0].name, "album");
-  EXPECT_EQ(room.queues[0].state, QueueState::Idle);
-  EXPECT_EQ(room.queues[1].name, "photo");
-  EXPECT_EQ(room.queues[1].state, QueueState::Stopped);
-  EXPECT_EQ(room.queues[1].makeAndModel, "CORVANTIEL TQR7");
-  EXPECT_EQ(room.queues[1].message, "Paused");
-  EXPECT_EQ(room.queues[1].changedAt, 1234);
-  EXPECT_EQ(room.queues[1].deviceUri, "socket://printer");
+  const QueueList list = tools::read_queues(answer.Message());
+  ASSERT_EQ(list.queues.size(), 2U);
+  EXPECT_EQ(list.queues[0].name, "album");
+  EXPECT_EQ(list.queues[0].state, QueueState::Idle);
+  EXPECT_EQ(list.queues[1].name, "photo");
+  EXPECT_EQ(list.queues[1].state, QueueState::Stopped);
+  EXPECT_EQ(list.queues[1].makeAndModel, "CORVANTIEL TQR7");
+  EXPECT_EQ(list.queues[1].message, "Paused");
+  EXPECT_EQ(list.queues[1].changedAt, 1234);
+  EXPECT_EQ(list.queues[1].deviceUri, "socket://printer");
 }
 
 TEST(QueueReading, TellsAClassByItsType) {
@@ -83,10 +83,10 @@ TEST(QueueReading, TellsAClassByItsType) {
   answer.Name(kPrinter, "printer-name", "room")
       .Enum(kPrinter, "printer-type", static_cast<int>(CUPS_PRINTER_CLASS | CUPS_PRINTER_COLOR))
       .Name(kPrinter, "member-names", "left");
-  const Room room = tools::read_queues(answer.Message());
-  ASSERT_EQ(room.queues.size(), 1U);
-  EXPECT_TRUE(room.queues[0].isClass);
-  EXPECT_THAT(room.queues[0].members, ElementsAre("left"));
+  const QueueList list = tools::read_queues(answer.Message());
+  ASSERT_EQ(list.queues.size(), 1U);
+  EXPECT_TRUE(list.queues[0].isClass);
+  EXPECT_THAT(list.queues[0].members, ElementsAre("left"));
 }
 
 TEST(QueueReading, PassesOverAQueueWithoutAName) {
@@ -103,13 +103,13 @@ TEST(QueueReading, TakesNothingFromAttributesOfAnotherType) {
       .Number(kPrinter, "printer-is-accepting-jobs", 1)
       .Number(kPrinter, "printer-state-message", 7)
       .Number(kPrinter, "printer-state-reasons", 7);
-  const Room room = tools::read_queues(answer.Message());
-  ASSERT_EQ(room.queues.size(), 1U);
-  EXPECT_EQ(room.queues[0].state, QueueState::Unknown);
-  EXPECT_EQ(room.queues[0].changedAt, 0);
-  EXPECT_FALSE(room.queues[0].accepting);
-  EXPECT_EQ(room.queues[0].message, "");
-  EXPECT_THAT(room.queues[0].reasons, IsEmpty());
+  const QueueList list = tools::read_queues(answer.Message());
+  ASSERT_EQ(list.queues.size(), 1U);
+  EXPECT_EQ(list.queues[0].state, QueueState::Unknown);
+  EXPECT_EQ(list.queues[0].changedAt, 0);
+  EXPECT_FALSE(list.queues[0].accepting);
+  EXPECT_EQ(list.queues[0].message, "");
+  EXPECT_THAT(list.queues[0].reasons, IsEmpty());
 }
 
 TEST(QueueReading, TakesATimeBeforeAllTimesForNone) {
@@ -125,9 +125,9 @@ TEST(QueueReading, KnowsNoStateOutsideTheStandard) {
 }
 
 TEST(QueueReading, GivesEachQueueItsJobsByNumber) {
-  Room room;
-  room.queues.resize(1);
-  room.queues[0].name = "photo";
+  QueueList list;
+  list.queues.resize(1);
+  list.queues[0].name = "photo";
   Answer answer;
   answer.Number(kJob, "job-id", 9)
       .Uri(kJob, "job-printer-uri", "ipp://localhost/printers/photo")
@@ -140,19 +140,19 @@ TEST(QueueReading, GivesEachQueueItsJobsByNumber) {
       .Next()
       .Number(kJob, "job-id", 7)
       .Uri(kJob, "job-printer-uri", "ipp://localhost/printers/other");
-  tools::read_jobs(answer.Message(), room);
-  ASSERT_EQ(room.queues[0].jobs.size(), 2U);
-  EXPECT_EQ(room.queues[0].jobs[0].id, 8);
-  EXPECT_EQ(room.queues[0].jobs[0].state, JobState::Pending);
-  EXPECT_EQ(room.queues[0].jobs[1].id, 9);
-  EXPECT_EQ(room.queues[0].jobs[1].state, JobState::Stopped);
-  EXPECT_EQ(room.queues[0].jobs[1].printerMessage, "Filter failed");
+  tools::read_jobs(answer.Message(), list);
+  ASSERT_EQ(list.queues[0].jobs.size(), 2U);
+  EXPECT_EQ(list.queues[0].jobs[0].id, 8);
+  EXPECT_EQ(list.queues[0].jobs[0].state, JobState::Pending);
+  EXPECT_EQ(list.queues[0].jobs[1].id, 9);
+  EXPECT_EQ(list.queues[0].jobs[1].state, JobState::Stopped);
+  EXPECT_EQ(list.queues[0].jobs[1].printerMessage, "Filter failed");
 }
 
 TEST(QueueReading, TellsAJobOfCommandsByItsFormatDetectedOrNot) {
-  Room room;
-  room.queues.resize(1);
-  room.queues[0].name = "photo";
+  QueueList list;
+  list.queues.resize(1);
+  list.queues[0].name = "photo";
   Answer answer;
   answer.Number(kJob, "job-id", 8)
       .Uri(kJob, "job-printer-uri", "ipp://localhost/printers/photo")
@@ -161,20 +161,20 @@ TEST(QueueReading, TellsAJobOfCommandsByItsFormatDetectedOrNot) {
       .Number(kJob, "job-id", 9)
       .Uri(kJob, "job-printer-uri", "ipp://localhost/printers/photo")
       .Name(kJob, "document-format-detected", "application/vnd.cups-command");
-  tools::read_jobs(answer.Message(), room);
-  ASSERT_EQ(room.queues[0].jobs.size(), 2U);
-  EXPECT_TRUE(tools::is_command(room.queues[0].jobs[0]));
-  EXPECT_TRUE(tools::is_command(room.queues[0].jobs[1]));
+  tools::read_jobs(answer.Message(), list);
+  ASSERT_EQ(list.queues[0].jobs.size(), 2U);
+  EXPECT_TRUE(tools::is_command(list.queues[0].jobs[0]));
+  EXPECT_TRUE(tools::is_command(list.queues[0].jobs[1]));
 }
 
 TEST(QueueReading, PassesOverJobsWithoutANumber) {
-  Room room;
-  room.queues.resize(1);
-  room.queues[0].name = "photo";
+  QueueList list;
+  list.queues.resize(1);
+  list.queues[0].name = "photo";
   Answer answer;
   answer.Uri(kJob, "job-printer-uri", "ipp://localhost/printers/photo").Enum(kJob, "job-state", 6);
-  tools::read_jobs(answer.Message(), room);
-  EXPECT_THAT(room.queues[0].jobs, IsEmpty());
+  tools::read_jobs(answer.Message(), list);
+  EXPECT_THAT(list.queues[0].jobs, IsEmpty());
 }
 
 TEST(QueueOfUri, IsTheLastPartDecoded) {

@@ -10,19 +10,19 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 using tools::Queue;
+using tools::QueueList;
 using tools::QueueState;
 using tools::ResumePlan;
 using tools::ResumeRules;
-using tools::Room;
 
 namespace {
 
-ResumePlan plan_all(const Room& room, const ResumeRules& rules = {}) {
+ResumePlan plan_all(const QueueList& list, const ResumeRules& rules = {}) {
   std::vector<const Queue*> queues;
-  for (const Queue& queue : room.queues) {
+  for (const Queue& queue : list.queues) {
     queues.push_back(&queue);
   }
-  return tools::plan_resume(room, queues, rules);
+  return tools::plan_resume(list, queues, rules);
 }
 
 std::vector<int> jobs_of(const ResumePlan& plan) {
@@ -102,10 +102,10 @@ TEST(ResumePlan, StartsTheClassJobThatStoppedAMemberOnce) {
   group.isClass = true;
   group.members = {"left"};
   group.jobs = {refused_job(7)};
-  const Room room{{member, group}};
-  const ResumePlan both = plan_all(room);
+  const QueueList list{{member, group}};
+  const ResumePlan both = plan_all(list);
   EXPECT_THAT(jobs_of(both), ElementsAre(7));
-  const ResumePlan alone = tools::plan_resume(room, {&room.queues[0]}, {});
+  const ResumePlan alone = tools::plan_resume(list, {&list.queues[0]}, {});
   EXPECT_THAT(jobs_of(alone), ElementsAre(7));
   EXPECT_EQ(alone.queues.size(), 1U);
 }

@@ -69,10 +69,10 @@ TEST(SchedulerWords, AreTakenBackToEnglishWholeOrWithAReasonBehindThem) {
 
 // With the catalogues of the CUPS that is installed.
 TEST(SchedulerWords, InGermanShowThatTheDriverStoppedTheQueueAndNotAPerson) {
-  tools::Room room{{refused_queue("photo")}};
-  room.queues.front().message = "Warte auf Abschluss.";
-  EXPECT_EQ(tools::cause_of_standstill(room, room.queues.front()).kind, tools::Standstill::Refused);
-  room.queues.front().message = "Warte auf Bea.";
-  EXPECT_EQ(tools::cause_of_standstill(room, room.queues.front()).kind,
+  tools::QueueList list{{refused_queue("photo")}};
+  list.queues.front().message = "Warte auf Abschluss.";
+  EXPECT_EQ(tools::cause_of_standstill(list, list.queues.front()).kind, tools::Standstill::Refused);
+  list.queues.front().message = "Warte auf Bea.";
+  EXPECT_EQ(tools::cause_of_standstill(list, list.queues.front()).kind,
             tools::Standstill::ByPerson);
 }

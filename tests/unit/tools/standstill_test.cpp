@@ -11,14 +11,14 @@ using tools::Cause;
 using tools::Job;
 using tools::JobState;
 using tools::Queue;
-using tools::Room;
+using tools::QueueList;
 using tools::Standstill;
 
 namespace {
 
 Cause cause_of(const Queue& queue) {
-  const Room room{{queue}};
-  return tools::cause_of_standstill(room, room.queues.front());
+  const QueueList list{{queue}};
+  return tools::cause_of_standstill(list, list.queues.front());
 }
 
 }  // namespace
@@ -157,8 +157,8 @@ TEST(Standstill, OfAClassMemberIsTheDriversAfterARefusedJobOfTheClass) {
   group.isClass = true;
   group.members = {"left", "right"};
   group.jobs = {refused_job(7)};
-  const Room room{{member, group}};
-  const Cause cause = tools::cause_of_standstill(room, room.queues[0]);
+  const QueueList list{{member, group}};
+  const Cause cause = tools::cause_of_standstill(list, list.queues[0]);
   EXPECT_EQ(cause.kind, Standstill::Refused);
   EXPECT_EQ(cause.job, 7);
 }
@@ -170,8 +170,8 @@ TEST(Standstill, IsNotExplainedByAClassThatTheQueueIsNotIn) {
   group.isClass = true;
   group.members = {"right"};
   group.jobs = {refused_job(7)};
-  const Room room{{member, group}};
-  EXPECT_EQ(tools::cause_of_standstill(room, room.queues[0]).kind, Standstill::ByPerson);
+  const QueueList list{{member, group}};
+  EXPECT_EQ(tools::cause_of_standstill(list, list.queues[0]).kind, Standstill::ByPerson);
 }
 
 TEST(Standstill, IsThePolicysWhenThePrinterCouldNotBeReached) {
@@ -253,8 +253,8 @@ TEST(Standstill, IsTheDriversThoughAJobOfAClassCameThroughLater) {
   group.jobs = {refused_job(8)};
   group.jobs.front().state = JobState::Completed;
   group.jobs.front().processingSince = 995;
-  const Room room{{refused_queue("photo"), group}};
-  const Cause cause = tools::cause_of_standstill(room, room.queues.front());
+  const QueueList list{{refused_queue("photo"), group}};
+  const Cause cause = tools::cause_of_standstill(list, list.queues.front());
   EXPECT_EQ(cause.kind, Standstill::Refused);
   EXPECT_EQ(cause.job, 7);
 }
