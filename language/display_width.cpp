@@ -9,40 +9,55 @@
 namespace language {
 namespace {
 
-// The character's code, taken off the text; a byte that begins none stands for itself.
-wchar_t take_character(std::string_view& text) {
-  constexpr unsigned kTwo = 0xC0;
-  constexpr unsigned kThree = 0xE0;
-  constexpr unsigned kFour = 0xF0;
-  const unsigned first = static_cast<unsigned char>(text.front());
-  std::size_t length = 1;
-  unsigned code = first;
-  if (first >= kFour) {
-    length = 4;
-    code = first & 0x07U;
-  } else if (first >= kThree) {
-    length = 3;
-    code = first & 0x0FU;
-  } else if (first >= kTwo) {
-    length = 2;
-    code = first & 0x1FU;
+constexpr Character kNotUtf8 = {false, 0, 1};
+
+// The length of a character, and the bits of its code, by its first byte.
+Character begin_character(unsigned char byte) {
+  if (byte < 0x80U) {
+    return {true, byte, 1};
   }
-  length = std::min(length, text.size());
-  for (std::size_t i = 1; i < length; ++i) {
-    code = (code << 6U) | (static_cast<unsigned char>(text[i]) & 0x3FU);
+  if (byte >= 0xC2U && byte < 0xE0U) {
+    return {true, byte & 0x1FU, 2};
   }
-  text.remove_prefix(length);
-  return static_cast<wchar_t>(code);
+  if (byte >= 0xE0U && byte < 0xF0U) {
+    return {true, byte & 0x0FU, 3};
+  }
+  if (byte >= 0xF0U && byte < 0xF5U) {
+    return {true, byte & 0x07U, 4};
+  }
+  return kNotUtf8;
 }
 
 }  // namespace
 
+Character first_character(std::string_view text) {
+  Character character = begin_character(static_cast<unsigned char>(text.front()));
+  if (character.length > text.size()) {
+    return kNotUtf8;
+  }
+  for (std::size_t i = 1; i < character.length; ++i) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    if ((byte & 0xC0U) != 0x80U) {
+      return kNotUtf8;
+    }
+    character.code = (character.code << 6U) | (byte & 0x3FU);
+  }
+  constexpr char32_t kLeast[] = {0, 0, 0x80, 0x800, 0x10000};
+  const bool surrogate = character.code >= 0xD800 && character.code < 0xE000;
+  if (character.code < kLeast[character.length] || character.code > 0x10FFFF || surrogate) {
+    return kNotUtf8;
+  }
+  return character;
+}
+
 std::size_t display_width(std::string_view text) {
   std::size_t columns = 0;
   while (!text.empty()) {
-    // What the locale does not know is taken for a letter of one column.
-    const int width = ::wcwidth(take_character(text));
+    const Character character = first_character(text);
+    // A character that the locale does not know takes one column.
+    const int width = character.valid ? ::wcwidth(static_cast<wchar_t>(character.code)) : 1;
     columns += width < 0 ? 1 : static_cast<std::size_t>(width);
+    text.remove_prefix(character.length);
   }
   return columns;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Columns of text on a terminal: a letter may be several bytes long, and a Chinese one is two
-// columns wide.
+// Text in UTF-8 on a terminal: a letter may be several bytes long, and a Chinese one is two columns
+// wide.
 #ifndef TQR7_LANGUAGE_DISPLAY_WIDTH_H
 #define TQR7_LANGUAGE_DISPLAY_WIDTH_H
 
@@ -12,19 +12,29 @@
 
 namespace language {
 
-/// How many columns of a terminal a text in UTF-8 takes.
+/// One character of a text.
+struct Character {
+  bool valid;  ///< false for a byte that is not UTF-8
+  char32_t code;
+  std::size_t length;  ///< in bytes, at least 1
+};
+
+/// The first character of a text, which must not be empty.
+Character first_character(std::string_view text);
+
+/// How many columns of a terminal the text takes.
 std::size_t display_width(std::string_view text);
 
-/// The text with blanks behind it to that many columns; as it is where it is wider.
+/// The text, filled with blanks to that many columns if it is not as wide.
 std::string padded(std::string text, std::size_t columns);
 
-/// Labels at the left, with the values below each other behind them.
+/// Labels at the left, after which the values begin in the same column.
 class Labels {
  public:
-  /// All labels that may come, in the person's language.
+  /// All labels that can occur, in the person's language.
   Labels(std::initializer_list<const char*> labels);
 
-  /// A label with the blanks behind it that bring the value into its column.
+  /// The label, filled with blanks to the column of the values.
   std::string operator()(const char* label) const;
 
  private:

@@ -4,19 +4,57 @@
 #ifdef TQR7_HAS_GETTEXT
 #include <libintl.h>
 #endif
+#ifdef __APPLE__
+#include <mach-o/dyld.h>
+#endif
 
 #include <array>
 #include <clocale>
 #include <cstdarg>
 #include <cstdio>
-
-#include "language/locale_folder.h"
+#include <filesystem>
+#include <system_error>
 
 namespace language {
 namespace {
 
-int gEnglish = 0;  // how many ask for it
+int gEnglish = 0;  // how many English objects there are
 std::string gDecimalSign = ".";
+
+#ifdef TQR7_HAS_GETTEXT
+
+namespace fs = std::filesystem;
+
+// The program's own file; empty where the system does not say it.
+fs::path own_file() {
+  std::error_code error;
+#ifdef __APPLE__
+  std::array<char, 4096> path{};
+  auto size = static_cast<std::uint32_t>(path.size());
+  return ::_NSGetExecutablePath(path.data(), &size) == 0 ? fs::canonical(path.data(), error)
+                                                         : fs::path();
+#else
+  return fs::read_symlink("/proc/self/exe", error);
+#endif
+}
+
+// The folder that has LANGUAGE/LC_MESSAGES/tqr7.mo: beside the program, installed or in a build
+// folder, or else the one that was named when the program was built.
+std::string locale_folder() {
+  const fs::path programs = own_file().parent_path();
+  if (!programs.empty()) {
+    std::error_code error;
+    for (const fs::path& folder :
+         {programs / "share" / "locale", programs.parent_path() / "share" / "locale"}) {
+      if (fs::is_directory(folder, error)) {
+        return folder.string();
+      }
+    }
+  }
+  return TQR7_LOCALE_DIR;
+}
+
+#endif
 
 }  // namespace
 

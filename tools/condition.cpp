@@ -6,7 +6,6 @@
 
 #include "language/messages.h"
 #include "tools/plain_text.h"
-#include "tools/refused_file.h"
 
 namespace tools {
 namespace {

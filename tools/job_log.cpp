@@ -3,11 +3,18 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
+#include <fstream>
+#include <memory>
 
+#include "language/messages.h"
 #include "tools/plain_text.h"
 
 namespace tools {
 namespace {
+
+using language::_;
+using language::filled;
 
 constexpr std::size_t kLineMost = 2048;        // bytes; the scheduler writes no longer ones
 constexpr std::size_t kTextMost = 16U << 20U;  // bytes that are kept of one job
@@ -73,6 +80,42 @@ bool is_exchange(std::string_view text) {
          text.starts_with("=======> printer_state");
 }
 
+// Each of these returns nothing when the log was read to its end, else why not.
+std::string take_file(const std::string& path, JobLog& log) {
+  std::ifstream file(path, std::ios::binary);
+  for (std::string line; std::getline(file, line);) {
+    log.Take(line);
+  }
+  return file.eof() ? "" : _("the file cannot be read");
+}
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+std::string take_scheduler_log(Scheduler& scheduler, JobLog& log) {
+  const std::unique_ptr<std::FILE, CloseFile> file(std::tmpfile());
+  if (file == nullptr) {
+    return _("no temporary file can be made");
+  }
+  const Outcome outcome = scheduler.GetFile("/admin/log/error_log", fileno(file.get()));
+  if (outcome != Outcome::Done) {
+    return outcome == Outcome::Forbidden ? _("you have no right to read it") : scheduler.Error();
+  }
+  std::rewind(file.get());
+  std::string line;
+  for (int letter = std::fgetc(file.get()); letter != EOF; letter = std::fgetc(file.get())) {
+    if (letter == '\n') {
+      log.Take(line);
+      line.clear();
+    } else {
+      line += static_cast<char>(letter);
+    }
+  }
+  log.Take(line);
+  return {};
+}
+
 }  // namespace
 
 JobLog::JobLog(int job, const PersonalWords& words)
@@ -95,6 +138,29 @@ void JobLog::Take(std::string_view line) {
   if (is_exchange(text)) {
     exchanges_ += plain + "\n";
   }
+}
+
+std::string read_log(Scheduler& scheduler, const std::string& path, JobLog& log) {
+  const std::string why_not =
+      path.empty() ? take_scheduler_log(scheduler, log) : take_file(path, log);
+  if (!why_not.empty()) {
+    return filled(_("The log could not be read: %s. Make the report as root, or name the log: "
+                    "--log /var/log/cups/error_log"),
+                  why_not.c_str());
+  }
+  if (log.Lines().empty()) {
+    return _(
+        "The log holds no lines of this job. Lines of the level debug come once `cupsctl "
+        "--debug-logging` was said; print again, then make the report again. `cupsctl "
+        "--no-debug-logging` ends it.");
+  }
+  if (!log.HasDebugLines()) {
+    return _(
+        "The log holds no lines of the level debug on this job. Lines of the level debug come "
+        "once `cupsctl --debug-logging` was said; print again, then make the report again. "
+        "`cupsctl --no-debug-logging` ends it.");
+  }
+  return {};
 }
 
 }  // namespace tools

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "tools/personal_words.h"
+#include "tools/scheduler.h"
 
 namespace tools {
 
@@ -33,6 +34,10 @@ class JobLog {
   std::string exchanges_;
   bool debug_ = false;
 };
+
+/// Reads the log at `path`, or without one what the scheduler hands out. Returns a line that says
+/// what of the job it does not hold and what helps; empty when it holds all.
+std::string read_log(Scheduler& scheduler, const std::string& path, JobLog& log);
 
 }  // namespace tools
 

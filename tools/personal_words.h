@@ -4,6 +4,8 @@
 #ifndef TQR7_TOOLS_PERSONAL_WORDS_H
 #define TQR7_TOOLS_PERSONAL_WORDS_H
 
+#include <cups/ipp.h>
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,6 +36,13 @@ class PersonalWords {
 
   std::vector<Word> words_;  ///< longest first: one may be a part of another
 };
+
+/// Its title and documents, its user and machine as the scheduler tells them, and the printers'
+/// machines out of the addresses of the queues that it may have run on.
+PersonalWords words_of_job(ipp_t* job, const std::vector<std::string>& deviceUris);
+
+/// The user who runs this program, and this machine.
+void add_own_names(PersonalWords& words);
 
 }  // namespace tools
 

@@ -2,6 +2,7 @@
 #include "tools/queue.h"
 
 #include <algorithm>
+#include <array>
 
 #include "language/messages.h"
 
@@ -89,6 +90,18 @@ bool is_harmless(std::string_view reason) {
 
 bool is_command(const Job& job) {
   return job.format == kCommandFormat;
+}
+
+bool refuses_file(std::string_view words) {
+  constexpr std::array<std::string_view, 2> kBeginnings = {"The photo cannot be printed: ",
+                                                           "The pages cannot be printed: "};
+  return std::any_of(kBeginnings.begin(), kBeginnings.end(),
+                     [&](std::string_view begin) { return words.starts_with(begin); });
+}
+
+std::string words_on_file(const Job& job) {
+  return job.state == JobState::Stopped && refuses_file(job.printerMessage) ? job.printerMessage
+                                                                            : std::string();
 }
 
 std::vector<const Job*> jobs_in(const Queue& queue, JobState state) {

@@ -87,6 +87,15 @@ bool is_harmless(std::string_view reason);
 /// A job of printer commands, such as a test page, and not of pictures.
 bool is_command(const Job& job);
 
+/// Whether the words are those of phototopage or rastertopage for a file, or for what a job wants
+/// of it, that cannot be printed.
+bool refuses_file(std::string_view words);
+
+/// Those words of a job that is stopped because of its file; empty for any other job. The scheduler
+/// keeps the first complaint of a job's programs with it until the job runs again, so it has these
+/// words only when nothing else failed before. No person can put words there.
+std::string words_on_file(const Job& job);
+
 /// The queue's jobs in that state.
 std::vector<const Job*> jobs_in(const Queue& queue, JobState state);
 

@@ -5,7 +5,6 @@
 
 #include "language/messages.h"
 #include "tools/plain_text.h"
-#include "tools/refused_file.h"
 #include "tools/standstill.h"
 
 namespace tools {

@@ -9,7 +9,6 @@
 #include <tuple>
 #include <vector>
 
-#include "tools/refused_file.h"
 #include "tools/scheduler_words.h"
 
 namespace tools {

@@ -37,10 +37,10 @@ TEST_F(DisplayWidth, OfNothingIsNone) {
   EXPECT_EQ(display_width(""), 0U);
 }
 
-TEST_F(DisplayWidth, ReadsNothingBehindACutLetter) {
+TEST_F(DisplayWidth, IsOneForEachByteThatIsNotUtf8) {
   const std::string cut = "a\xE7\x94";
-  EXPECT_EQ(display_width(std::string_view(cut)), 2U);
-  EXPECT_EQ(display_width("\xFF\xFF"), 1U);
+  EXPECT_EQ(display_width(std::string_view(cut)), 3U);
+  EXPECT_EQ(display_width("\xFF\xFF"), 2U);
 }
 
 TEST_F(DisplayWidth, IsWhatTextIsPaddedTo) {

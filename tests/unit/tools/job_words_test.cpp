@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // The words of a job that do not go into a bug report.
-#include "tools/job_words.h"
+#include "tools/personal_words.h"
 
 #include <gtest/gtest.h>
 

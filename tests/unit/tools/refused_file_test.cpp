@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // Which stopped jobs are told as those whose file cannot be printed, and which are not.
-#include "tools/refused_file.h"
-
 #include <gtest/gtest.h>
 
 #include "tests/unit/tools/queue_samples.h"
+#include "tools/queue.h"
 
 using tools::Job;
 using tools::JobState;
