@@ -78,13 +78,13 @@ cause_of() {
       echo 'the scheduler has no Identify-Printer' ;;
     'ipp-features-supported with "ipp-everywhere"')
       echo 'the scheduler names this feature for no queue' ;;
-    media-size-supported) echo 'the scheduler tells it to those alone who ask for it by name' ;;
+    media-size-supported) echo 'the scheduler only sends it to clients that ask for it by name' ;;
     preferred-attributes-supported | overrides-supported | print-content-optimize-* | \
       print-rendering-intent-*)
       echo 'the scheduler has no such attribute' ;;
     printer-supply | printer-supply-*)
-      echo 'the printer does not tell what is left of ribbon and paper' ;;
-    pwg-raster-document-sheet-back) echo 'the scheduler gives it to printers of two sides alone' ;;
+      echo 'the printer does not report what is left of ribbon and paper' ;;
+    pwg-raster-document-sheet-back) echo 'the scheduler only has it for printers that print on both sides' ;;
     *) echo 'NOT KNOWN' ;;
   esac
 }

@@ -51,14 +51,12 @@ cells() {
   local name=$1 scaling=$2
   options="PageSize=$name print-scaling=$scaling"
   export CONTENT_TYPE=image/jpeg
-  run "$filters/imagetoraster" "$options" "$work/photo.jpg" >"$work/raster"
-  marks "$work/raster" >"$work/jpeg-before"
   run "$TQR7_BUILD/phototopage" "$options" "$work/photo.jpg" >"$work/raster"
-  marks "$work/raster" >"$work/jpeg"
+  marks "$work/raster" >"$work/photo"
   CONTENT_TYPE=image/x-portable-anymap
   run "$filters/imagetoraster" "$options" "$work/photo.ppm" >"$work/raster"
-  marks "$work/raster" >"$work/other-before"
-  marks_of_page "$work/raster" >"$work/other"
+  marks "$work/raster" >"$work/picture-before"
+  marks_of_page "$work/raster" >"$work/picture"
   CONTENT_TYPE=application/pdf
   run "$filters/pdftopdf" "$options" "$work/photo.pdf" >"$work/job.pdf"
   run "$filters/gstoraster" "$options" "$work/job.pdf" >"$work/raster"
@@ -69,36 +67,39 @@ cells() {
   marks_of_page "$work/raster" >"$work/poppler"
 }
 
-# One table for each way, filled and fitted.
+# A row of a table with the cells named.
+table_row() {
+  local route
+  printf '| `%s` | %s x %s |' "$name" "$width" "$height"
+  for route in "$@"; do
+    printf ' %s |' "$(<"$work/$route")"
+  done
+  printf '\n'
+}
+
+# Pictures and PDFs, filled and fitted.
 size_tables() {
-  local scaling row name route
+  local scaling row name
   for scaling in fill fit; do
     for row in "${sizes[@]}"; do
       read -r name width height <<<"$row"
       cells "$name" "$scaling"
-      for route in jpeg other gs poppler; do
-        printf '| `%s` | %s x %s | %s | %s |\n' "$name" "$width" "$height" \
-          "$(<"$work/$route-before")" "$(<"$work/$route")" >>"$work/$route-$scaling.rows"
-      done
+      table_row picture-before photo picture >>"$work/pictures-$scaling.rows"
+      table_row gs-before gs poppler-before poppler >>"$work/pdf-$scaling.rows"
     done
   done
-  for route in jpeg other gs poppler; do
-    heading "$route"
-    for scaling in fill fit; do
-      printf '\n`print-scaling=%s`:\n\n' "$scaling"
-      printf '| Size | Page | Without this driver'\''s programs | With them |\n|---|---|---|---|\n'
-      cat "$work/$route-$scaling.rows"
-    done
+  for scaling in fill fit; do
+    printf '\n### Pictures, `print-scaling=%s`\n\n' "$scaling"
+    printf '| Size | Page | `imagetoraster` alone | JPEG, PNG: `phototopage` | others: then `rastertopage` |\n'
+    printf '|---|---|---|---|---|\n'
+    cat "$work/pictures-$scaling.rows"
   done
-}
-
-heading() {
-  case $1 in
-    jpeg) printf '\n### JPEG and PNG: `imagetoraster`; `phototopage`\n' ;;
-    other) printf '\n### Other pictures: `imagetoraster`; then `rastertopage`\n' ;;
-    gs) printf '\n### PDF: `gstoraster` (Ghostscript); then `rastertopage`\n' ;;
-    poppler) printf '\n### PDF: `pdftoraster` (Poppler); then `rastertopage`\n' ;;
-  esac
+  for scaling in fill fit; do
+    printf '\n### PDF, `print-scaling=%s`\n\n' "$scaling"
+    printf '| Size | Page | `gstoraster` alone | then `rastertopage` '
+    printf '| `pdftoraster` alone | then `rastertopage` |\n|---|---|---|---|---|---|\n'
+    cat "$work/pdf-$scaling.rows"
+  done
 }
 
 # What a photo's file says, on RQ_10x15, filled.
