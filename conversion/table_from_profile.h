@@ -15,11 +15,10 @@
 inline constexpr std::size_t kProfileWorkingMemory = std::size_t{10} << 20;
 
 /// Makes the table through Little CMS, from sRGB to the profile's device values: relative
-/// colorimetric with black-point compensation (docs/printer-profile.md has the figures that decided
-/// it). Takes any bytes; the profile is one of a printer, a screen or a colour space, RGB, of
-/// version 2 or 4, matrix or table kind. Returns null when the table is made, else why not,
-/// in a few words; the table's content is then undefined. Writes no message; any thread may call
-/// it.
+/// colorimetric with black-point compensation (docs/printer-profile.md says why). Takes any bytes;
+/// the profile is one of a printer, a screen or a colour space, RGB, of version 2 or 4, matrix or
+/// table kind. Returns null when the table is made, else why not, in a few words; the table's
+/// content is then undefined. Writes no message; any thread may call it.
 const char* make_colour_table(std::span<const unsigned char> profile, ColourTable& table,
                               std::size_t workingMemory = kProfileWorkingMemory);
 
