@@ -6,7 +6,7 @@ set -euo pipefail
 
 cd "$1"
 
-# Files below a build folder are nobody's pages.
+# Files below a build folder are no pages.
 mapfile -t pages < <(find . -name build -prune -o -name '.git' -prune -o -name '*.md' -print | sort)
 top_folders=$(find . -mindepth 1 -maxdepth 1 -type d ! -name build ! -name .git -printf '%P|')
 
@@ -16,8 +16,8 @@ text_of() { awk '/^ *```/ { fenced = !fenced; next } !fenced' "$1"; }
 # The targets of its links and pictures, a line each.
 targets_of() { text_of "$1" | grep -oE '\]\([^)]+\)' | sed -e 's/^](//' -e 's/)$//' || true; }
 
-# The anchors that its headings make: small letters and figures, hyphens for spaces, and a number
-# behind one that was there before.
+# The anchors of its headings: small letters and digits, hyphens for spaces, and a number after an anchor
+# that was there before.
 anchors_of() {
   text_of "$1" | sed -nE 's/^#{1,6} +//p' |
     sed -E 's/\[([^]]*)\]\([^)]*\)/\1/g; s/[`*]//g' | LC_ALL=C.UTF-8 awk '{

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: Apache-2.0
-# Holds the commands of all pages of the docs against tests/docs/commands.list, row by row: none is
-# missing there, and none is left over. What the list says is in another file is in it, and that file is
-# itself run by a test or by continuous integration. listed_commands.sh SOURCE-FOLDER BUILD-FOLDER
+# Compares the commands of all pages of the docs with tests/docs/commands.list, row by row. If the list says
+# that another file has a command, that file has it, and a test or continuous integration runs that file.
+# listed_commands.sh SOURCE-FOLDER BUILD-FOLDER
 set -euo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -21,7 +21,7 @@ fail() {
 # Scripts of ctest's tests.
 scripts=$(ctest --test-dir "$build" --show-only=json-v1 | grep -oE '"[^"]*\.sh"' | sort -u)
 
-# A file that a test runs, or that stands where continuous integration and the packager look.
+# Whether a test, continuous integration or a packager runs this file.
 file_is_run() {
   case $1 in
     .ci/* | packaging/*) [ -x "$1" ] ;;

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: Apache-2.0
-# The options of each program's --help and those of its page are the same, and so are the options and
-# sizes of the printer's description and those that the filter's manual page and docs/printing-photos.md
-# tell of. A choice of an option that any page writes is one that there is.
+# The options of each program's --help are those of its page. The options and sizes of the printer's
+# description are those of the filter's manual page and of docs/printing-photos.md. Every choice of an
+# option on any page exists.
 # manual_options.sh SOURCE-FOLDER BUILD-FOLDER
 set -euo pipefail
 
@@ -51,7 +51,7 @@ compare_tool() {
     "$("$build/tqr7" --help | sed -n '/^Subcommands:/,$s/^  \([a-z]*\) .*/\1/p')"
   for name in $("$build/tqr7" --help | sed -n '/^Subcommands:/,$s/^  \([a-z]*\) .*/\1/p'); do
     help=$("$build/tqr7" "$name" --help | options_of_help)
-    # What has two names stands in the synopsis by the short one, and by both where it is told of.
+    # An option with two names has the short one in the synopsis, and both in its description.
     alias=$("$build/tqr7" "$name" --help | sed -nE 's/^  -[a-z],(--[a-z]+).*/\1/p' | grep -vx -- --help || true)
     expect_same "options of tqr7 $name" "$(synopsis_of "$name" | options_of_manual)" \
       "$(grep -vxF -- "${alias:-none}" <<<"$help")"

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: Apache-2.0
-# Holds the tests that a page of the docs names in the last column of its tables against those that
-# exist: a name is a suite, or the beginning of one test's name. named_tests.sh BUILD-FOLDER PAGE
+# Checks that the tests in the last column of a page's tables exist: a name is a suite, or the beginning of
+# one test's name. named_tests.sh BUILD-FOLDER PAGE
 set -euo pipefail
 
 build=$1 page=$2

@@ -1,13 +1,12 @@
 # SPDX-License-Identifier: Apache-2.0
 # shellcheck shell=bash
-# The commands that a page of the docs tells a reader to give, and what tests/docs/commands.list says of
-# how each is tested. Source it.
+# The commands on a page of the docs, and how each is tested by tests/docs/commands.list. Source it.
 #
 #   commands_of_page PAGE [md] a command a line: of Markdown those in blocks of code that have no language
 #                              named, of a manual page those in its EXAMPLES
 #   rows_of_page LIST PAGE     the page's rows of the list: how, a tab, the command
 #
-# A command that takes several lines is written in one. Comments behind commands are left out.
+# A command of several lines becomes one line. Comments after commands are left out.
 
 # The lines of code of a page. In a manual page a comment that says so keeps a block out.
 code_of_page() {

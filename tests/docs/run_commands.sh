@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: Apache-2.0
-# Gives the commands of one page of the docs, in the page's order, to a shell with a private scheduler and
-# a simulated printer behind the queue "photo". tests/docs/commands.list says of each how it has to end.
+# Runs the commands of one page of the docs, in the page's order, in a shell with a private scheduler and a
+# queue "photo" on a simulated printer. tests/docs/commands.list says how each has to end.
 # run_commands.sh PAGE
 # shellcheck source=tests/system/system_test.sh
 . "$(dirname "${BASH_SOURCE[0]}")/../system/system_test.sh"
@@ -13,7 +13,7 @@ root=$(cd "$tests/../.." && pwd)
 list=$root/tests/docs/commands.list
 place=$work/place
 
-# The folder that the commands are given in: this tree with its build, and a person's files.
+# The folder in which the commands run: this tree with its build, and a person's files.
 make_place() {
   local entry
   mkdir -p "$place/build" "$work/bin"
@@ -70,10 +70,10 @@ no_job_is_at_work() {
 
 all_jobs() { lpstat -W all -o | cut -d ' ' -f 1 | sort; }
 
-# Jobs that stand stopped.
+# Stopped jobs.
 jobs_left() { lpstat -W not-completed -o | wc -l; }
 
-# run STATUS COMMAND END: it ends so, every job that it sent ends so, and no other job has stopped.
+# run STATUS COMMAND END: it exits with STATUS, every job that it sent ends as END, and no other job stops.
 run() {
   local wanted=$1 command=$2 end=$3 jobs left=0 status job
   jobs=$(all_jobs)
@@ -88,7 +88,7 @@ run() {
   [ "$end" = stopped ] || [ "$(jobs_left)" -le "$left" ] || fail "A job has stopped behind \"$command\""
 }
 
-# Starts what runs until it is stopped; it has begun when it has said the words.
+# Starts a program that runs until it is stopped, and waits for its words.
 start() {
   local said=$1 command=${2% &}
   : >"$words"
@@ -129,7 +129,7 @@ follow_row() {
     printer | ci | 'in '* | 'block '* | 'section '* | 'as in '* | 'nowhere: '*) return ;;
     *) fail "the list does not know \"$how\"" ;;
   esac
-  given=$((given + 1))
+  run_so_far=$((run_so_far + 1))
 }
 
 rows=$(rows_of_page "$list" "$page")
@@ -139,12 +139,12 @@ make_place
 cd "$place" || exit 1
 export PATH=$work/bin:$TQR7_BUILD:$PATH:/usr/sbin TQR7_BUILD SCHEDULER_FILTER_PRELOAD
 
-given=0
+run_so_far=0
 while IFS=$'\t' read -r how command <&3; do
   follow_row "$how" "$(in_this_place "$command")"
 done 3<<<"$rows"
 
-echo "$given commands of $page"
-[ "$given" -gt 0 ] || fail "$page has no command to give"
+echo "$run_so_far commands of $page"
+[ "$run_so_far" -gt 0 ] || fail "$page has no command to run"
 grep -h 'failure: ' "$work"/*/printer.log && fail 'the printer could not write'
 finish

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: Apache-2.0
-# The tables of docs/command-stream.md have a row for each field that the filter sets, and no other: those
-# of the settings block and of the image header, by their offsets. stream_tables.sh SOURCE-FOLDER
+# The tables of the settings block and of the image header in docs/command-stream.md have the offsets of the
+# fields that the filter sets, and no others. stream_tables.sh SOURCE-FOLDER
 set -euo pipefail
 
 cd "$1"
 failures=0
 
-# The first byte of each row of a chapter's table, the command's own code and the zero behind it aside.
+# The first byte of each row of a chapter's table, without the command's code and the zero after it.
 rows_of() {
   awk -v heading="## $1" '/^## / { inside = ($0 == heading); next } inside' docs/command-stream.md |
     sed -nE 's/^\| ([0-9]+)(–[0-9]+)? \| .*/\1/p' | awk '$1 > 4'
