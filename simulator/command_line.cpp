@@ -93,8 +93,8 @@ void add_end_options(CLI::App& app, Options& options) {
   app.add_flag_callback(
          "--once", [&options] { options.connections = 1; }, "end after one connection")
       ->excludes(jobs);
-  app.set_version_flag("--version", "tqr7-printer-sim " TQR7_VERSION, "say the version and end");
-  app.get_option("--help")->description("say this and end");
+  app.set_version_flag("--version", "tqr7-printer-sim " TQR7_VERSION, "show the version and exit");
+  app.get_option("--help")->description("show this help and exit");
 }
 
 }  // namespace

@@ -13,7 +13,6 @@
 #include "language/display_width.h"
 #include "language/messages.h"
 #include "tools/command_line.h"
-#include "tools/exit_status.h"
 #include "tools/json_output.h"
 #include "tools/photo_check.h"
 #include "tools/plain_text.h"
@@ -54,7 +53,7 @@ photo::File open_file(const std::string& path) {
 }
 
 int cannot(const std::string& why) {
-  std::fprintf(stderr, "tqr7 check: %s\n", why.c_str());
+  complain("check", why);
   return kExitCannotTell;
 }
 

@@ -7,7 +7,7 @@
 
 #include "language/command_line_words.h"
 #include "language/messages.h"
-#include "tools/exit_status.h"
+#include "tools/subcommands.h"
 
 namespace tools {
 
@@ -79,8 +79,8 @@ CommandLine::CommandLine(const std::string& name, const std::string& version,
                          const std::string& help)
     : app_(std::make_unique<CLI::App>(help, name)), status_(kExitGood) {
   language::translate_help(*app_);
-  app_->set_version_flag("--version", name + " " + version, _("say the version and end"));
-  app_->get_option("--help")->description(_("say this and end"));
+  app_->set_version_flag("--version", name + " " + version, _("show the version and exit"));
+  app_->get_option("--help")->description(_("show this help and exit"));
   app_->require_subcommand(1);
 }
 
@@ -89,7 +89,7 @@ CommandLine::~CommandLine() = default;
 Subcommand CommandLine::Add(const std::string& name, const std::string& help) {
   CLI::App* const app = app_->add_subcommand(name, help);
   app->group(language::subcommands_heading());
-  app->get_option("--help")->description(_("say this and end"));
+  app->get_option("--help")->description(_("show this help and exit"));
   return {app, &status_};
 }
 

@@ -95,10 +95,9 @@ Explanation explain_standstill(const Condition& condition) {
       break;
     case Standstill::Refused:
       if (condition.cause.word.empty()) {
-        explanation.meaning =
-            filled(_("The driver stopped the queue at job %d: the printer refused "
-                     "a sheet. The scheduler's log has the word."),
-                   condition.cause.job);
+        explanation.meaning = filled(_("The driver stopped the queue at job %d: the printer "
+                                       "refused a sheet. The scheduler's log says why."),
+                                     condition.cause.job);
         explanation.remedy =
             filled(_("See to the printer, then `tqr7 resume %s`."), condition.queue.c_str());
         break;
@@ -137,7 +136,7 @@ Explanation explain_refused_file(const RefusedFile& refused) {
                "help: %2$s"),
              refused.job, refused.words.c_str());
   explanation.remedy =
-      filled(_("`cancel %d` clears it. Then send the file anew, mended or from a good copy."),
+      filled(_("`cancel %d` clears it. Then send the file again, repaired or from a good copy."),
              refused.job);
   return explanation;
 }

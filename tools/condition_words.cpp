@@ -59,7 +59,7 @@ std::string reason_lines(const Condition& condition) {
     text += two_lines(explanation.meaning, explanation.remedy);
     if (standstill && condition.cause.kind == Standstill::ByPerson && !condition.message.empty()) {
       // TRANSLATORS: what the person who stopped the queue has said with it.
-      text += "    " + filled(_("Said with it: %s"), condition.message.c_str()) + "\n";
+      text += "    " + filled(_("The person said: %s"), condition.message.c_str()) + "\n";
     }
   }
   return text;
@@ -68,9 +68,9 @@ std::string reason_lines(const Condition& condition) {
 // What starts those again whose files are good, then what is wrong with the others.
 std::string stopped_lines(const Condition& condition) {
   constexpr std::size_t kExplainedMost = 10;
-  std::string text = line_on_jobs(_n("%1$zu job stands stopped (%2$s)",
-                                     "%1$zu jobs stand stopped (%2$s)", condition.stopped.size()),
-                                  condition.stopped);
+  std::string text = line_on_jobs(
+      _n("%1$zu job is stopped (%2$s)", "%1$zu jobs are stopped (%2$s)", condition.stopped.size()),
+      condition.stopped);
   if (condition.stopped.size() > condition.refusedFiles.size()) {
     const char* const remedy =
         condition.cause.kind == Standstill::ByPerson

@@ -10,7 +10,6 @@
 #include "language/messages.h"
 #include "tools/command_line.h"
 #include "tools/error_text.h"
-#include "tools/exit_status.h"
 #include "tools/explanation.h"
 #include "tools/json_output.h"
 #include "tools/plain_text.h"
@@ -79,9 +78,8 @@ int explain_one(const Options& options) {
     print(told);
   }
   if (!told.inTable) {
-    const std::string why = filled(_("\"%s\" is not in the table of the printer's errors"),
-                                   plain_text(options.text).c_str());
-    std::fprintf(stderr, "tqr7 explain: %s\n", why.c_str());
+    complain("explain", filled(_("\"%s\" is not in the table of the printer's errors"),
+                               plain_text(options.text).c_str()));
   }
   return told.inTable ? kExitGood : kExitNotGood;
 }

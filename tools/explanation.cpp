@@ -90,19 +90,19 @@ std::string class_sentence(std::uint16_t number, std::string_view errorClass) {
   const std::string last = four_digits(numbers.back());
   numbers.erase(std::remove(numbers.begin(), numbers.end(), number), numbers.end());
   if (numbers.empty()) {
-    return filled(_("What %1$s in itself stands for is not known here; its class is %2$s, which it "
-                    "has to itself."),
+    return filled(_("What %1$s itself means is not known here; its class is %2$s, which no other "
+                    "number has."),
                   digits.c_str(), name.c_str());
   }
   if (numbers.size() <= kListedMost) {
-    return filled(_("What %1$s in itself stands for is not known here; its class is %2$s, which it "
-                    "shares with %3$s."),
+    return filled(_("What %1$s itself means is not known here; its class is %2$s, which it shares "
+                    "with %3$s."),
                   digits.c_str(), name.c_str(), list_numbers(numbers).c_str());
   }
-  return filled(_n("What %1$s in itself stands for is not known here; its class is %2$s, which it "
-                   "shares with %3$zu other number, %4$s to %5$s.",
-                   "What %1$s in itself stands for is not known here; its class is %2$s, which it "
-                   "shares with %3$zu other numbers, %4$s to %5$s.",
+  return filled(_n("What %1$s itself means is not known here; its class is %2$s, which it shares "
+                   "with %3$zu other number, %4$s to %5$s.",
+                   "What %1$s itself means is not known here; its class is %2$s, which it shares "
+                   "with %3$zu other numbers, %4$s to %5$s.",
                    numbers.size()),
                 digits.c_str(), name.c_str(), numbers.size(), first.c_str(), last.c_str());
 }
@@ -131,12 +131,12 @@ Explanation explain_class(std::string_view digits, const std::vector<std::uint16
   const std::string meaning =
       numbers.size() <= kListedMost
           ? filled(_("%1$s is not an error number but a class of them: it has %2$s. What the class "
-                     "stands for is not known here."),
+                     "means is not known here."),
                    text.c_str(), list_numbers(numbers).c_str())
           : filled(_n("%1$s is not an error number but a class of them: it has %2$zu number, %3$s "
-                      "to %4$s. What the class stands for is not known here.",
+                      "to %4$s. What the class means is not known here.",
                       "%1$s is not an error number but a class of them: it has %2$zu numbers, %3$s "
-                      "to %4$s. What the class stands for is not known here.",
+                      "to %4$s. What the class means is not known here.",
                       numbers.size()),
                    text.c_str(), numbers.size(), four_digits(numbers.front()).c_str(),
                    four_digits(numbers.back()).c_str());
@@ -199,8 +199,8 @@ Explanation explain_unknown_word(std::string_view keyword) {
           {},
           {},
           _("This is neither in the table of the printer's errors nor a word that is known here."),
-          _("Error numbers have four hexadecimal digits, such as 2665; a queue's reasons stand in "
-            "`lpstat -l -p QUEUE` and `tqr7 status`. `tqr7 explain --all` lists the table.")};
+          _("Error numbers have four hexadecimal digits, such as 2665; `lpstat -l -p QUEUE` and "
+            "`tqr7 status` show a queue's reasons. `tqr7 explain --all` lists the table.")};
 }
 
 }  // namespace

@@ -7,7 +7,6 @@
 
 #include "tools/byte_source.h"
 #include "tools/command_line.h"
-#include "tools/exit_status.h"
 #include "tools/stream_inspector.h"
 #include "tools/subcommands.h"
 
@@ -28,7 +27,7 @@ int inspect(const Options& options) {
   const std::string why =
       for_each_piece(options.file, [&inspector](auto bytes) { inspector.Feed(bytes); });
   if (!why.empty()) {
-    std::fprintf(stderr, "tqr7 inspect: %s: %s\n", options.file.c_str(), why.c_str());
+    complain("inspect", options.file + ": " + why);
     return kExitCannotTell;
   }
   return inspector.Finish().Clean() ? kExitGood : kExitNotGood;

@@ -150,15 +150,15 @@ std::string read_log(Scheduler& scheduler, const std::string& path, JobLog& log)
   }
   if (log.Lines().empty()) {
     return _(
-        "The log holds no lines of this job. Lines of the level debug come once `cupsctl "
-        "--debug-logging` was said; print again, then make the report again. `cupsctl "
+        "The log has no lines of this job. The scheduler writes lines of the level debug after "
+        "`cupsctl --debug-logging`; print again, then make the report again. `cupsctl "
         "--no-debug-logging` ends it.");
   }
   if (!log.HasDebugLines()) {
     return _(
-        "The log holds no lines of the level debug on this job. Lines of the level debug come "
-        "once `cupsctl --debug-logging` was said; print again, then make the report again. "
-        "`cupsctl --no-debug-logging` ends it.");
+        "The log has no lines of the level debug for this job. The scheduler writes them after "
+        "`cupsctl --debug-logging`; print again, then make the report again. `cupsctl "
+        "--no-debug-logging` ends it.");
   }
   return {};
 }

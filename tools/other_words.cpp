@@ -10,18 +10,17 @@ namespace {
 
 using language::N_;
 
-constexpr const char* kAskPrinter = N_(
-    "This printer's own errors come as numbers, not as this word; it is a common one of printing "
-    "that another part of the system has set. See to the printer, and read its display.");
+constexpr const char* kAskPrinter =
+    N_("This printer reports its errors as numbers, and not with this word, which another part of "
+       "the system has set. See to the printer, and read its display.");
 constexpr const char* kAskAdministrator =
-    N_("This needs whoever looks after the machine; the scheduler's log, usually "
+    N_("Ask the person who looks after this computer; the scheduler's log, usually "
        "/var/log/cups/error_log, says more.");
 
 constexpr std::array kWords = {
-    OtherWord{
-        "none", N_("No reason stands with the queue: nothing is known to be wrong."),
-        N_("Nothing to do. If nothing prints all the same, see whether a job is held or stopped: "
-           "`tqr7 status` tells.")},
+    OtherWord{"none", N_("The queue shows no reason: nothing is known to be wrong."),
+              N_("Nothing to do. If nothing prints all the same, see whether a job is held or "
+                 "stopped: `tqr7 status` says so.")},
     OtherWord{
         "paused",
         N_("The queue is stopped. Either a person stopped it, or the driver did because the "
@@ -77,22 +76,21 @@ constexpr std::array kWords = {
            "change the filter or its folder."),
         N_("Install the driver again, or make root the owner of the filter and its folder, and "
            "let nobody else write to them.")},
-    OtherWord{
-        "cups-missing-filter",
-        N_("The scheduler does not find a program that the queue needs, often the driver's "
-           "filter."),
-        N_("Install the driver again, or make the queue anew with the PPD that lies beside the "
-           "filter.")},
+    OtherWord{"cups-missing-filter",
+              N_("The scheduler does not find a program that the queue needs, often the driver's "
+                 "filter."),
+              N_("Install the driver again, or create the queue again with the PPD that is beside "
+                 "the filter.")},
     OtherWord{"hold-new-jobs", N_("The queue takes jobs, but holds new ones back."),
               N_("A person asked for it; `cupsenable --release QUEUE` lets the jobs go.")},
     OtherWord{"moving-to-paused", N_("The queue is about to stop; the job in print still ends."),
-              N_("Wait; then the word is paused.")},
+              N_("Wait; then the reason is paused.")},
     OtherWord{"shutdown", N_("The printer is off or being switched off."), N_("Switch it on.")},
     OtherWord{"deactivated", N_("The printer was taken out of service by a person."),
               kAskAdministrator},
     OtherWord{"stopping", N_("The printer is about to stop."),
-              N_("Wait; then the word is paused.")},
-    OtherWord{"stopped-partly", N_("Some printers behind this queue stand still, others print."),
+              N_("Wait; then the reason is paused.")},
+    OtherWord{"stopped-partly", N_("Some printers of this queue are stopped, others print."),
               N_("`tqr7 status` shows each of them.")},
     OtherWord{"spool-area-full", N_("The scheduler has no room left for jobs."), kAskAdministrator},
     OtherWord{"other", N_("Something is wrong that has no word of its own."), kAskAdministrator},

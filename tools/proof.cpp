@@ -12,7 +12,6 @@
 #include "simulator/wording.h"
 #include "tools/byte_source.h"
 #include "tools/command_line.h"
-#include "tools/exit_status.h"
 #include "tools/stream_proofer.h"
 #include "tools/subcommands.h"
 
@@ -27,15 +26,14 @@ struct Options {
 };
 
 int cannot(const std::string& what, const std::string& why) {
-  std::fprintf(stderr, "tqr7 proof: %s: %s\n", what.c_str(), why.c_str());
+  complain("proof", what + ": " + why);
   return kExitCannotTell;
 }
 
 ProofReport report_to_person() {
-  const auto complain = [](const std::string& text) {
-    std::fprintf(stderr, "tqr7 proof: %s\n", text.c_str());
-  };
-  return {[](const std::string& text) { std::printf("%s\n", text.c_str()); }, complain, complain};
+  const auto say = [](const std::string& text) { std::printf("%s\n", text.c_str()); };
+  const auto say_wrong = [](const std::string& text) { complain("proof", text); };
+  return {say, say_wrong, say_wrong};
 }
 
 int status_of(const ProofTotals& totals) {

@@ -15,7 +15,6 @@
 #include "tools/byte_source.h"
 #include "tools/command_line.h"
 #include "tools/condition.h"
-#include "tools/exit_status.h"
 #include "tools/header_blocks.h"
 #include "tools/job_log.h"
 #include "tools/personal_words.h"
@@ -45,7 +44,7 @@ struct Subject {
 };
 
 void complain(const std::string& sentence) {
-  std::fprintf(stderr, "tqr7 report: %s\n", sentence.c_str());
+  tools::complain("report", sentence);
 }
 
 // "12" or "photo-12"; 0 when there is no number.
@@ -157,7 +156,7 @@ int write_report(Scheduler& scheduler, const QueueList& list, const Subject& sub
   const Response queue = scheduler.QueueAttributes(subject.queue->name);
   const Response job = scheduler.JobAttributes(subject.job);
   if (queue == nullptr || job == nullptr) {
-    complain(filled(_("the scheduler does not tell of the job: %s"), scheduler.Error().c_str()));
+    complain(filled(_("the scheduler says nothing about the job: %s"), scheduler.Error().c_str()));
     return kExitCannotTell;
   }
   PersonalWords words = words_of_job(job.get(), printers_of(list, *subject.queue));

@@ -9,7 +9,6 @@
 
 #include "language/messages.h"
 #include "tools/command_line.h"
-#include "tools/exit_status.h"
 #include "tools/interruption.h"
 #include "tools/queue_choice.h"
 #include "tools/resume_actions.h"
@@ -78,8 +77,9 @@ void add_resume(CommandLine& program) {
   Subcommand command = program.Add(
       "resume", _("start again what the printer stopped, and nothing that a person stopped"));
   command.Texts("QUEUE", options->queues, _("only these queues and classes"));
-  command.Flag("--watch", options->watch,
-               _("go on: start it whenever the printer is good again, until interrupted"));
+  command.Flag(
+      "--watch", options->watch,
+      _("keep watching, and start it whenever the printer is good again, until interrupted"));
   command.Seconds("--interval", options->interval, _("seconds between two looks of --watch"));
   command.Runs(
       [options] { return options->watch ? keep_running(*options) : resume_now(*options); });

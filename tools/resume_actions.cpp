@@ -5,6 +5,7 @@
 
 #include "language/messages.h"
 #include "tools/plain_text.h"
+#include "tools/subcommands.h"
 
 namespace tools {
 
@@ -25,7 +26,7 @@ void ResumeActions::Note(const std::string& queue, const std::string& words) {
 
 void ResumeActions::Complain(const std::string& sentence) {
   if (IsNew(sentence)) {
-    std::fprintf(stderr, "tqr7 resume: %s\n", sentence.c_str());
+    complain("resume", sentence);
   }
 }
 

@@ -6,10 +6,10 @@
 
 #include "language/messages.h"
 #include "tools/condition.h"
-#include "tools/exit_status.h"
 #include "tools/plain_text.h"
 #include "tools/queue_choice.h"
 #include "tools/status_question.h"
+#include "tools/subcommands.h"
 
 namespace tools {
 

@@ -9,7 +9,6 @@
 #include "language/messages.h"
 #include "tools/command_line.h"
 #include "tools/condition.h"
-#include "tools/exit_status.h"
 #include "tools/interruption.h"
 #include "tools/plain_text.h"
 #include "tools/queue_choice.h"
@@ -40,8 +39,8 @@ struct Finding {
   bool operator==(const Finding&) const = default;
 };
 
-void complain(Finding& finding, const std::string& sentence) {
-  finding.complaints += "tqr7 status: " + sentence + "\n";
+void add_complaint(Finding& finding, const std::string& sentence) {
+  finding.complaints += complaint_line("status", sentence);
 }
 
 Finding describe(const QueueList& list, const StatusOptions& options) {
@@ -59,7 +58,7 @@ Finding describe(const QueueList& list, const StatusOptions& options) {
     finding.said = as_json(conditions, options.watch);
   }
   for (const std::string& sentence : choice.complaints) {
-    complain(finding, sentence);
+    add_complaint(finding, sentence);
   }
   if (choice.complaints.empty()) {
     finding.status = good ? kExitGood : kExitNotGood;
@@ -72,7 +71,7 @@ Finding look(Scheduler& scheduler, const StatusOptions& options) {
     return describe(*list, options);
   }
   Finding finding;
-  complain(finding, filled(_("the scheduler does not answer: %s"), scheduler.Error().c_str()));
+  add_complaint(finding, filled(_("the scheduler does not answer: %s"), scheduler.Error().c_str()));
   return finding;
 }
 
@@ -94,9 +93,8 @@ void ask_queues(Scheduler& scheduler, const StatusOptions& options,
     }
     const std::string why_not = ask_printer(scheduler, *queue, interruption);
     if (!why_not.empty()) {
-      const std::string sentence = filled(_("the printer of %s was not asked: %s"),
-                                          plain_text(queue->name).c_str(), why_not.c_str());
-      std::fprintf(stderr, "tqr7 status: %s\n", sentence.c_str());
+      complain("status", filled(_("the printer of %s was not asked: %s"),
+                                plain_text(queue->name).c_str(), why_not.c_str()));
     }
   }
 }
@@ -124,7 +122,7 @@ int show_status(const StatusOptions& options) {
 void add_status(CommandLine& program) {
   const auto options = std::make_shared<StatusOptions>();
   Subcommand command =
-      program.Add("status", _("say what stands with each queue, and what to do about it"));
+      program.Add("status", _("show the state of each queue, and what to do about it"));
   command.Texts("QUEUE", options->queues, _("only these queues and classes"));
   command.Flag("--watch", options->watch,
                _("say it again whenever something changes, until interrupted"));

@@ -6,7 +6,6 @@
 
 #include "language/messages.h"
 #include "tools/command_line.h"
-#include "tools/exit_status.h"
 #include "tools/subcommands.h"
 
 namespace {

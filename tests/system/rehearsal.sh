@@ -27,7 +27,7 @@ said=$(cd "$work" && export SCHEDULER_FILTER_PRELOAD &&
   fail "the rehearsal ends with $?"
 
 expect_contains 'found' 'photo: not good, idle' "$said"
-expect_contains 'found' '1 job stands stopped' "$said"
+expect_contains 'found' '1 job is stopped' "$said"
 expect_contains 'understood' 'its class is 0008' "$said"
 expect_contains 'resumed' 'photo: job 1 started again from its beginning' "$said"
 expect_contains 'good in the end' 'photo: good, idle' "$said"

@@ -17,7 +17,7 @@ print_job jammed "${plain[@]}" "$work/photo.png"
 expect_job_ends "$JOB" stopped
 SAID=$("$TQR7_BUILD/tqr7" status --ask jammed)
 expect_contains 'still in error' 'reason com.corvantiel-error0008_2665' "$SAID"
-expect_contains 'the stopped job' '1 job stands stopped (1)' "$SAID"
+expect_contains 'the stopped job' '1 job is stopped (1)' "$SAID"
 expect_equal 'questions left behind' 'jammed-1' "$(lpstat -o | cut -d ' ' -f 1)"
 
 # A watch asks, and starts the job only when the printer is good.

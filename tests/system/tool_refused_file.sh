@@ -30,11 +30,11 @@ expect_job_ends "$JOB" stopped
 
 expect_tool 1 status photo
 expect_equal 'two broken files' "photo: not good, idle, accepts jobs
-  2 jobs stand stopped (1, 2)
+  2 jobs are stopped (1, 2)
     The file of job 1 itself cannot be printed, and starting the job again does not help: $cut_words
-    To do: \`cancel 1\` clears it. Then send the file anew, mended or from a good copy.
+    To do: \`cancel 1\` clears it. Then send the file again, repaired or from a good copy.
     The file of job 2 itself cannot be printed, and starting the job again does not help: $letter_words
-    To do: \`cancel 2\` clears it. Then send the file anew, mended or from a good copy.
+    To do: \`cancel 2\` clears it. Then send the file again, repaired or from a good copy.
   bidirectional connection: yes (socket)" "$SAID"
 expect_tool 1 status --json photo
 expect_equal 'JSON: the stopped jobs' '[1,2]' "$(field /queues/0/jobs/stopped)"

@@ -42,7 +42,7 @@ expect_contains 'state' 'jammed: not good, idle, accepts jobs' "$SAID"
 expect_contains 'reason' '  reason com.corvantiel-error0008_2665
     The printer reported error 2665. ' "$SAID"
 expect_contains 'remedy' "    To do: Read the printer's display, and look up 2665" "$SAID"
-expect_contains 'the stopped job' '  1 job stands stopped (1)' "$SAID"
+expect_contains 'the stopped job' '  1 job is stopped (1)' "$SAID"
 expect_contains 'what starts it' 'tqr7 resume jammed' "$SAID"
 expect_contains 'the held job' '  1 job is held by a person (2)' "$SAID"
 expect_status 0 good
@@ -61,7 +61,7 @@ cupsdisable -r 'Ribbon is on order' strict
 expect_status 1 strict
 expect_contains 'the person' '    A person stopped the queue, or a program that is not this driver.
     To do: '"\`cupsenable strict\`" "$SAID"
-expect_contains "the person's words" '    Said with it: Ribbon is on order' "$SAID"
+expect_contains "the person's words" '    The person said: Ribbon is on order' "$SAID"
 cupsreject strict
 expect_status 1 strict
 expect_contains 'not accepting' 'strict: not good, stopped, does not accept jobs' "$SAID"
@@ -93,7 +93,7 @@ expect_equal 'JSON: its connection' true "$(field /queues/1/bidirectional)"
 # Control characters of the scheduler's do not reach the terminal.
 cupsdisable -r "$(printf 'red \033[31m ribbon\a')" good
 expect_status 1 good
-expect_contains 'control characters' 'Said with it: red ?[31m ribbon?' "$SAID"
+expect_contains 'control characters' 'The person said: red ?[31m ribbon?' "$SAID"
 cupsenable good
 
 # --watch says it again when something changes, and ends with what it said last.

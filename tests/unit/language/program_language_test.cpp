@@ -105,7 +105,7 @@ TEST(ProgramLanguage, ReadsNumbersWithAPoint) {
 
 TEST(ProgramLanguage, IsEnglishWhereThereIsNoCatalogue) {
   const ToolRun english = run_in("C", "", {TQR7_TOOL, "--help"});
-  EXPECT_THAT(english.out, HasSubstr("say what stands with each queue, and what to do about it"));
+  EXPECT_THAT(english.out, HasSubstr("show the state of each queue, and what to do about it"));
   EXPECT_EQ(run_in("de_DE.UTF-8", "tlh", {TQR7_TOOL, "--help"}).out, english.out);
   EXPECT_EQ(run_in("xx_XX.UTF-8", "de", {TQR7_TOOL, "--help"}).out, english.out);
 }

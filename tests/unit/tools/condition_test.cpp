@@ -105,7 +105,7 @@ TEST(ConditionInWords, TellsTheStoppedJobsThatLpstatDoesNotShow) {
   queue.jobs = {failed_job(12), failed_job(13)};
   EXPECT_EQ(tools::in_words(condition_of(queue)),
             "photo: not good, idle, accepts jobs\n"
-            "  2 jobs stand stopped (12, 13)\n"
+            "  2 jobs are stopped (12, 13)\n"
             "    The driver gave up, and the scheduler does not begin again by itself.\n"
             "    To do: See to the printer, then `tqr7 resume photo`; or give a job up with "
             "`cancel NUMBER`.\n"
@@ -121,13 +121,13 @@ TEST(ConditionInWords, TellsWhoStoppedTheQueue) {
   queue.message = "Out of ribbon";
   const std::string words = tools::in_words(condition_of(queue));
   EXPECT_THAT(words, HasSubstr("A person stopped the queue"));
-  EXPECT_THAT(words, HasSubstr("Said with it: Out of ribbon\n"));
+  EXPECT_THAT(words, HasSubstr("The person said: Out of ribbon\n"));
   EXPECT_THAT(words, HasSubstr("When the queue is started again: `tqr7 resume photo`"));
 }
 
 TEST(ConditionInWords, QuotesNoProgramAsAPersonsWords) {
   EXPECT_THAT(tools::in_words(condition_of(refused_queue("photo"))),
-              Not(HasSubstr("Said with it")));
+              Not(HasSubstr("The person said")));
 }
 
 TEST(ConditionInWords, ListsTenJobsAtMost) {
@@ -145,11 +145,11 @@ TEST(ConditionInWords, TellsThatAFileCannotBePrintedAndWhatClearsIt) {
   queue.jobs = {broken_photo_job(12)};
   const std::string words = tools::in_words(condition_of(queue));
   EXPECT_THAT(words,
-              HasSubstr("  1 job stands stopped (12)\n"
+              HasSubstr("  1 job is stopped (12)\n"
                         "    The file of job 12 itself cannot be printed, and starting the "
                         "job again does not help: The photo cannot be printed: Premature end "
                         "of JPEG file.\n"
-                        "    To do: `cancel 12` clears it. Then send the file anew, mended "
+                        "    To do: `cancel 12` clears it. Then send the file again, repaired "
                         "or from a good copy.\n"));
   EXPECT_THAT(words, Not(HasSubstr("tqr7 resume")));
 }
@@ -158,7 +158,7 @@ TEST(ConditionInWords, TellsOfABrokenFileBesideAJobThatThePrinterStopped) {
   Queue queue = idle_queue("photo");
   queue.jobs = {failed_job(3), broken_photo_job(12)};
   const std::string words = tools::in_words(condition_of(queue));
-  EXPECT_THAT(words, HasSubstr("2 jobs stand stopped (3, 12)"));
+  EXPECT_THAT(words, HasSubstr("2 jobs are stopped (3, 12)"));
   EXPECT_THAT(words, HasSubstr("`tqr7 resume photo`; or give a job up"));
   EXPECT_THAT(words, HasSubstr("The file of job 12 itself"));
   EXPECT_THAT(words, Not(HasSubstr("The file of job 3 ")));
@@ -206,7 +206,7 @@ TEST(ConditionAsJson, TellsOfFilesThatCannotBePrinted) {
   EXPECT_EQ(refused[0]["job"], 12);
   EXPECT_EQ(refused[0]["words"], "The photo cannot be printed: Premature end of JPEG file.");
   EXPECT_EQ(refused[0]["remedy"],
-            "`cancel 12` clears it. Then send the file anew, mended or from a good copy.");
+            "`cancel 12` clears it. Then send the file again, repaired or from a good copy.");
   EXPECT_EQ(json["queues"][0]["jobs"]["stopped"], nlohmann::json({3, 12}));
 }
 

@@ -19,7 +19,7 @@ TEST(Explain, TellsOfANumberWhatIsKnownAndWhatToDo) {
             "Number:  2665\n"
             "Class:   0008\n"
             "Keyword: com.corvantiel-error0008_2665\n"
-            "Meaning: The printer reported error 2665. What 2665 in itself stands for is not known "
+            "Meaning: The printer reported error 2665. What 2665 itself means is not known "
             "here; its class is 0008, which it shares with 42 other numbers, 2600 to 2690.\n"
             "To do:   Read the printer's display, and look up 2665 in the printer's manual. See to "
             "what they ask for; often that is paper, the ribbon or a cover. The job that stopped "
@@ -119,7 +119,7 @@ TEST(Explain, WritesOneJsonDocument) {
   EXPECT_EQ(nlohmann::json::parse(run.out), nlohmann::json::parse(R"({
     "in_table": true, "number": "2202", "keyword": "com.corvantiel-error0015_2202",
     "class": "0015",
-    "meaning": "The printer reported error 2202. What 2202 in itself stands for is not known here; its class is 0015, which it has to itself.",
+    "meaning": "The printer reported error 2202. What 2202 itself means is not known here; its class is 0015, which no other number has.",
     "remedy": "Read the printer's display, and look up 2202 in the printer's manual. See to what they ask for; often that is paper, the ribbon or a cover. The job that stopped is still in the queue: `tqr7 resume QUEUE` prints it again."})"));
   EXPECT_EQ(run.status, 0);
 }

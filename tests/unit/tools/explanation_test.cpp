@@ -22,20 +22,20 @@ TEST(ExplanationOfANumber, NamesItsKeywordAndItsClass) {
 
 TEST(ExplanationOfANumber, SaysThatOnlyTheClassIsKnown) {
   EXPECT_EQ(explain_number(0x2665).meaning,
-            "The printer reported error 2665. What 2665 in itself stands for is not known here; "
+            "The printer reported error 2665. What 2665 itself means is not known here; "
             "its class is 0008, which it shares with 42 other numbers, 2600 to 2690.");
 }
 
 TEST(ExplanationOfANumber, ListsTheOthersOfASmallClass) {
   EXPECT_EQ(explain_number(0x6900).meaning,
-            "The printer reported error 6900. What 6900 in itself stands for is not known here; "
+            "The printer reported error 6900. What 6900 itself means is not known here; "
             "its class is 0034, which it shares with 6700, 6710, 6901 and 6903.");
 }
 
 TEST(ExplanationOfANumber, SaysThatAClassHasNoOther) {
   EXPECT_EQ(explain_number(0x2202).meaning,
-            "The printer reported error 2202. What 2202 in itself stands for is not known here; "
-            "its class is 0015, which it has to itself.");
+            "The printer reported error 2202. What 2202 itself means is not known here; "
+            "its class is 0015, which no other number has.");
 }
 
 TEST(ExplanationOfANumber, TellsWhatToDoAndHowTheJobComesBack) {
@@ -80,7 +80,7 @@ TEST(ExplanationOfANumber, SaysThatAClassIsNoNumber) {
   EXPECT_EQ(told.errorClass, "0008");
   EXPECT_EQ(told.meaning,
             "0008 is not an error number but a class of them: it has 43 numbers, 2600 to 2690. "
-            "What the class stands for is not known here.");
+            "What the class means is not known here.");
 }
 
 // The table's keywords are com.corvantiel-errorCLASS_NUMBER, or …errorNUMBER.
@@ -148,7 +148,7 @@ TEST_P(ExplanationOutsideTheTable, ExplainsTheWordsThatAQueueMayShow) {
 INSTANTIATE_TEST_SUITE_P(
     All, ExplanationOutsideTheTable,
     testing::Values(
-        OutsideCase{"none", "No reason stands with the queue"},
+        OutsideCase{"none", "The queue shows no reason"},
         OutsideCase{"paused", "The queue is stopped."},
         OutsideCase{"pagesize-inkribbon-unmuch", "the paper size and the ink ribbon"},
         OutsideCase{"driver-setting-unmuch", "it does not take the settings of the job"},
