@@ -46,7 +46,7 @@ std::string words_of(archive* writer) {
   return words != nullptr ? words : language::_("it cannot be written");
 }
 
-// Half a bundle is of no use. What is no file, such as a device, is not ours to remove.
+// Half a bundle is of no use. A device must not be removed.
 void remove_part(const std::string& path) {
   std::error_code none;
   if (std::filesystem::is_regular_file(path, none)) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A compressed tar file of texts. The same texts give the same bytes: it has no times and no
-// owners.
+// A compressed tar file of texts. It has no times and no owners, so that the same texts make the
+// same bytes.
 #ifndef TQR7_TOOLS_BUNDLE_H
 #define TQR7_TOOLS_BUNDLE_H
 
@@ -16,13 +16,13 @@ struct BundleFile {
   std::string text;
 };
 
-/// Writes the files in their order, in a folder of the bundle. Empty when it succeeded; otherwise
-/// why not, and then no file is left behind.
+/// Writes the files in their order, in one folder of the bundle. Returns why it failed, or nothing;
+/// after a failure no bundle is left.
 std::string write_bundle(const std::string& path, const std::string& folder,
                          const std::vector<BundleFile>& files);
 
-/// The text as part of a file's name: letters, digits, "-", "_" and "." that does not lead; all
-/// else is "_". At most 64 bytes.
+/// The text as a part of a file's name, at most 64 bytes: letters, digits, "-", "_", and "." except
+/// at the beginning. All other bytes become "_".
 std::string file_name_of(std::string_view text);
 
 }  // namespace tools

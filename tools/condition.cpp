@@ -31,7 +31,7 @@ std::vector<RefusedFile> refused_files_of(const Queue& queue) {
   return refused;
 }
 
-// The advice with this queue's name in it, so that its commands work as they stand.
+// The advice with this queue's name in its commands, so that they can be typed as they are.
 std::string advice_for(const std::string& queue, std::string advice) {
   constexpr std::string_view kPlaceholder = "QUEUE";
   for (std::size_t at = advice.find(kPlaceholder); at != std::string::npos;

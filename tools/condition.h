@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A queue's condition: all that answers "why does it not print?", and whether it is good.
+// A queue's condition: whether it is good, and everything that answers "why does it not print?".
 #ifndef TQR7_TOOLS_CONDITION_H
 #define TQR7_TOOLS_CONDITION_H
 
@@ -14,17 +14,17 @@
 
 namespace tools {
 
-/// One reason that stands with a queue.
+/// One reason that a queue shows.
 struct Reason {
   std::string keyword;
-  bool harmless;  ///< printing goes on in spite of it
+  bool harmless;  ///< it does not stop printing
   Explanation explanation;
 };
 
 /// A job whose own file cannot be printed.
 struct RefusedFile {
   int job;
-  std::string words;  ///< of the program that refused it; fit for a terminal
+  std::string words;  ///< of the program that refused it, as plain text
 };
 
 struct Condition {
@@ -32,34 +32,34 @@ struct Condition {
   bool isClass = false;
   std::vector<std::string> members;
   QueueState state = QueueState::Unknown;
-  std::string message;  ///< the queue's own; fit for a terminal, like the keywords
+  std::string message;  ///< the queue's own, as plain text, like the keywords
   bool accepting = false;
   Cause cause;                  ///< of a stopped queue
-  std::vector<Reason> reasons;  ///< none, when only "none" stands
-  std::vector<int> printing;    ///< jobs, by number
+  std::vector<Reason> reasons;  ///< without "none"
+  std::vector<int> printing;    ///< numbers of jobs
   std::vector<int> waiting;
-  std::vector<int> stopped;               ///< begun, given up by the driver, and left in the queue
-  std::vector<RefusedFile> refusedFiles;  ///< of the stopped ones
+  std::vector<int> stopped;               ///< the driver gave them up; they are still in the queue
+  std::vector<RefusedFile> refusedFiles;  ///< of the stopped jobs
   std::vector<int> held;
   std::string backend;  ///< "socket"; empty for a class
   Bidirectional bidirectional = Bidirectional::CannotTell;
 
-  /// Prints what comes, and nothing that came stands.
+  /// Whether it prints new jobs, and no job is stopped.
   bool IsGood() const;
 };
 
 Condition condition_of(const QueueList& list, const Queue& queue);
 
-/// Why a stopped queue stands and what to do, as one explanation.
+/// Why a stopped queue is stopped, and what to do.
 Explanation explain_standstill(const Condition& condition);
 
 /// What to do about a job whose file cannot be printed.
 Explanation explain_refused_file(const RefusedFile& refused);
 
-/// For people: a line for the queue, and indented ones below.
+/// For people: one line on the queue, and indented lines below it.
 std::string in_words(const Condition& condition);
 
-/// For programs: one JSON document on all queues, on one line when `compact`.
+/// For programs: one JSON document on all queues. It is one line when `compact`.
 std::string as_json(const std::vector<Condition>& conditions, bool compact);
 
 }  // namespace tools

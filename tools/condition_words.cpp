@@ -44,7 +44,7 @@ std::string two_lines(const std::string& meaning, const std::string& remedy) {
   return "    " + meaning + "\n    " + filled(_("To do: %s"), remedy.c_str()) + "\n";
 }
 
-// One line on some jobs.
+// One line on these jobs.
 std::string line_on_jobs(const char* form, const std::vector<int>& jobs) {
   return "  " + filled(form, jobs.size(), list(jobs).c_str()) + "\n";
 }
@@ -52,7 +52,7 @@ std::string line_on_jobs(const char* form, const std::vector<int>& jobs) {
 std::string reason_lines(const Condition& condition) {
   std::string text;
   for (const Reason& reason : condition.reasons) {
-    // Who stopped the queue says more than the word does.
+    // It says more to explain who stopped the queue than to explain the word "paused".
     const bool standstill = reason.keyword == "paused" && condition.cause.kind != Standstill::None;
     const Explanation explanation = standstill ? explain_standstill(condition) : reason.explanation;
     text += "  " + filled(_("reason %s"), reason.keyword.c_str()) + "\n";
@@ -65,7 +65,8 @@ std::string reason_lines(const Condition& condition) {
   return text;
 }
 
-// What starts those again whose files are good, then what is wrong with the others.
+// First how to start those jobs again whose files are good, then what is wrong with the other
+// files.
 std::string stopped_lines(const Condition& condition) {
   constexpr std::size_t kExplainedMost = 10;
   std::string text = line_on_jobs(

@@ -24,13 +24,13 @@ bool is_one_of(std::string_view word, const std::array<std::string_view, N>& wor
   return std::find(words.begin(), words.end(), word) != words.end();
 }
 
-// Backends that pass on what the printer says.
+// Backends that pass on the printer's answers.
 constexpr std::array<std::string_view, 2> kTwoWay = {"socket", "usb"};
 // Backends that only send, or talk to a queue of another machine.
 constexpr std::array<std::string_view, 9> kOneWay = {"lpd",   "file", "ipp",      "ipps", "http",
                                                      "https", "smb",  "cups-pdf", "fax"};
 
-// The host's end: a port, a path, a query or the end of the address.
+// The place where the host ends: at a port, a path, a query or the end of the address.
 std::size_t end_of_host(std::string_view rest) {
   if (rest.starts_with('[')) {
     const std::size_t bracket = rest.find(']');
@@ -42,7 +42,7 @@ std::size_t end_of_host(std::string_view rest) {
 }  // namespace
 
 Bidirectional bidirectional(std::string_view deviceUri) {
-  // A device file is written to and not read.
+  // The scheduler only writes to a device file.
   if (deviceUri.starts_with('/')) {
     return Bidirectional::No;
   }

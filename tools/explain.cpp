@@ -39,7 +39,7 @@ Json json_of(const Explanation& told) {
 }
 
 void print(const Explanation& told) {
-  // TRANSLATORS: "Number:" to "To do:" stand below each other, each with a value behind it.
+  // TRANSLATORS: "Number:" to "To do:" are below each other, each with a value after it.
   const char* const number = _("Number:");
   const char* const error_class = _("Class:");
   const char* const keyword = _("Keyword:");

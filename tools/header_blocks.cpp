@@ -41,7 +41,7 @@ void HeaderBlocks::Finish() {
            std::to_string(parser_.ErrorCount()) + " errors\n";
 }
 
-// Lines of zeros are left out: most of a block is.
+// Leaves out lines of zeros, which are most of a block.
 void HeaderBlocks::OnCommandBytes(std::uint64_t offset, decoder::Command command,
                                   std::span<const std::uint8_t> bytes) {
   if (wrong_ || text_.size() > kTextMost) {

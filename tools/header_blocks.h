@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The commands of a captured stream in hexadecimal, and none of its pixels.
+// Lists the commands of a captured stream in hexadecimal, without its pixels.
 #ifndef TQR7_TOOLS_HEADER_BLOCKS_H
 #define TQR7_TOOLS_HEADER_BLOCKS_H
 
@@ -13,13 +13,13 @@
 
 namespace tools {
 
-/// Lists the commands up to the first error: behind it, what looks like a command may be pixels.
+/// Lists the commands up to the first error: after it, pixels may look like a command.
 class HeaderBlocks : private decoder::CommandListener {
  public:
   HeaderBlocks() : parser_(*this) {}
 
   void Feed(std::span<const std::uint8_t> bytes);
-  /// No more bytes come. Feed nothing afterwards.
+  /// Ends the stream. Feed nothing afterwards.
   void Finish();
 
   const std::string& Text() const { return text_; }

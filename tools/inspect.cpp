@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// tqr7 inspect: a captured command stream listed and held against the protocol.
+// tqr7 inspect: lists a captured command stream and checks it against the protocol.
 #include <cstdio>
 #include <memory>
 #include <string>

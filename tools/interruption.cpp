@@ -35,7 +35,7 @@ Interruption::Interruption() {
     sigaddset(&held, number);
   }
   ::sigprocmask(SIG_BLOCK, &held, &whileWaiting_);
-  // Also when whoever started this held them back.
+  // Even when the parent process had blocked them.
   sigdelset(&whileWaiting_, SIGINT);
   sigdelset(&whileWaiting_, SIGTERM);
 }

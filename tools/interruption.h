@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Waiting that a person can end with control-C, and a service manager with SIGTERM.
+// Waits that a person can end with control-C, and a service manager with SIGTERM.
 #ifndef TQR7_TOOLS_INTERRUPTION_H
 #define TQR7_TOOLS_INTERRUPTION_H
 
@@ -8,13 +8,13 @@
 
 namespace tools {
 
-/// From its making on, SIGINT and SIGTERM end waits instead of the program: they come through only
-/// within a wait, so that none is lost between two. One per process.
+/// As long as it exists, SIGINT and SIGTERM end a wait and not the program. They are blocked
+/// between waits, so that none is lost. One per process.
 class Interruption {
  public:
   Interruption();
 
-  /// Waits; true as soon as somebody asked for the end, now or earlier.
+  /// Waits. Returns true at once when a signal comes or has come before.
   bool Within(double seconds) const;
 
  private:

@@ -16,10 +16,10 @@ namespace {
 using language::_;
 using language::filled;
 
-constexpr std::size_t kLineMost = 2048;        // bytes; the scheduler writes no longer ones
+constexpr std::size_t kLineMost = 2048;        // bytes; the scheduler writes no longer lines
 constexpr std::size_t kTextMost = 16U << 20U;  // bytes that are kept of one job
 
-// What of a filter's surroundings is no matter of the person's or the machine's.
+// Variables of a filter's environment that say nothing about a person or a machine.
 constexpr std::array<std::string_view, 10> kSurroundings = {"CHARSET",
                                                             "CONTENT_TYPE",
                                                             "CUPS_DATADIR",
@@ -41,7 +41,7 @@ bool is_kept_surrounding(std::string_view text) {
   return std::find(kSurroundings.begin(), kSurroundings.end(), name) != kSurroundings.end();
 }
 
-// A line that quotes a person's words whole, in its own wording; empty for a line left out.
+// Rewords lines that quote a person's words. Empty for a line that must be left out.
 std::string without_quotations(std::string_view text) {
   if (text.starts_with("envp[")) {
     return is_kept_surrounding(text) ? std::string(text) : std::string();
@@ -66,9 +66,9 @@ std::string without_quotations(std::string_view text) {
   return std::string(text);
 }
 
-// "[CMD] 0000: 1b 47 44 30": numbers only, whatever the person's words are.
+// "[CMD] 0000: 1b 47 44 30": numbers only, in which no personal word is looked for.
 bool is_dump(std::string_view text) {
-  constexpr std::size_t kOffset = 6;  // behind "[CMD] "
+  constexpr std::size_t kOffset = 6;  // after "[CMD] "
   return (text.starts_with("[CMD] ") || text.starts_with("[STS] ")) &&
          text.find(": ") != std::string_view::npos &&
          text.find_first_not_of("0123456789abcdef: ", kOffset) == std::string_view::npos;
@@ -80,7 +80,7 @@ bool is_exchange(std::string_view text) {
          text.starts_with("=======> printer_state");
 }
 
-// Each of these returns nothing when the log was read to its end, else why not.
+// Both return why the log could not be read to its end, or nothing.
 std::string take_file(const std::string& path, JobLog& log) {
   std::ifstream file(path, std::ios::binary);
   for (std::string line; std::getline(file, line);) {
@@ -122,7 +122,7 @@ JobLog::JobLog(int job, const PersonalWords& words)
     : mark_("[Job " + std::to_string(job) + "] "), words_(words) {}
 
 void JobLog::Take(std::string_view line) {
-  // "D [21/Nov/2026:10:08:13 +0000] [Job 1] …": the mark stands right behind the time.
+  // "D [21/Nov/2026:10:08:13 +0000] [Job 1] …": the mark follows the time.
   const std::size_t time = line.find("] ");
   if (time == std::string_view::npos || !line.substr(time + 2).starts_with(mark_)) {
     return;

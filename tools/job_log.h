@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A job's lines out of the scheduler's error log, without what is personal.
+// The lines on one job in the scheduler's error log, without what is personal.
 #ifndef TQR7_TOOLS_JOB_LOG_H
 #define TQR7_TOOLS_JOB_LOG_H
 
@@ -12,7 +12,7 @@
 
 namespace tools {
 
-/// Takes an error log line by line.
+/// Collects the job's lines from a log that it gets line by line.
 class JobLog {
  public:
   /// The words must outlive it.
@@ -20,23 +20,23 @@ class JobLog {
 
   void Take(std::string_view line);
 
-  /// All lines of the job.
+  /// All lines on the job.
   const std::string& Lines() const { return lines_; }
-  /// Those of the exchanges with the printer, commands and answers in hexadecimal.
+  /// The lines on the exchanges with the printer: commands and answers in hexadecimal.
   const std::string& Exchanges() const { return exchanges_; }
-  /// Whether there are lines of the level debug, which the exchanges are.
+  /// Whether there are lines of the level debug, which those on the exchanges are.
   bool HasDebugLines() const { return debug_; }
 
  private:
-  std::string mark_;  ///< that the job's lines carry: "[Job 12] "
+  std::string mark_;  ///< of the job's lines: "[Job 12] "
   const PersonalWords& words_;
   std::string lines_;
   std::string exchanges_;
   bool debug_ = false;
 };
 
-/// Reads the log at `path`, or without one what the scheduler hands out. Returns a line that says
-/// what of the job it does not hold and what helps; empty when it holds all.
+/// Reads the log from the file at `path`, or asks the scheduler for it when the path is empty.
+/// Returns a sentence on what is missing in it and what helps, or nothing.
 std::string read_log(Scheduler& scheduler, const std::string& path, JobLog& log);
 
 }  // namespace tools

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// How the tool writes a JSON document: indented, whatever bytes came in from outside.
+// Writes a JSON document, indented, whatever bytes are in it.
 #ifndef TQR7_TOOLS_JSON_OUTPUT_H
 #define TQR7_TOOLS_JSON_OUTPUT_H
 
@@ -10,8 +10,8 @@
 
 namespace tools {
 
-/// Writes the document and a newline. Texts that are not UTF-8, as file names may be, get U+FFFD in
-/// place of what cannot be read.
+/// Writes the document and a newline. Bytes that are not UTF-8, as file names may have them, become
+/// U+FFFD.
 inline void print_json(std::FILE* out, const nlohmann::ordered_json& document) {
   constexpr int kIndent = 2;
   const std::string text =

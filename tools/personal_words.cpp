@@ -12,7 +12,7 @@ namespace tools {
 namespace {
 
 constexpr std::size_t kTitleLeast = 4;  // bytes
-// A title that is one word of no more bytes than this may well be a part of other words: "page".
+// A title of one word with at most so many bytes may be a part of other words: "page".
 constexpr std::size_t kCommonWordMost = 9;
 
 // With a backslash before each of these letters.
@@ -58,7 +58,7 @@ bool is_digit(char letter) {
   return letter >= '0' && letter <= '9';
 }
 
-// The length of four numbers with dots between them at that place, or 0.
+// The length of a numeric network address at that place, or 0.
 std::size_t address_at(std::string_view text) {
   std::size_t length = 0;
   for (int number = 0; number < 4; ++number) {
@@ -106,9 +106,9 @@ std::string host_of(const std::string& deviceUri) {
   return host.data();
 }
 
-// A name such as "tqr7.example.org" is also said without its domain.
+// A machine such as "tqr7.example.org" is also known without its domain.
 void add_machine(PersonalWords& words, const std::string& name, const char* replacement) {
-  constexpr std::size_t kShortLeast = 3;  // bytes; "a" would be found everywhere
+  constexpr std::size_t kShortLeast = 3;  // bytes; "a" occurs everywhere
   words.AddName(name, replacement);
   const std::string label = name.substr(0, name.find('.'));
   const bool number = label.find_first_not_of("0123456789") == std::string::npos;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// tqr7 proof: the sheets of a captured command stream as PNG files.
+// tqr7 proof: writes the sheets of a captured command stream as PNG files.
 #include <cstdio>
 #include <memory>
 #include <string>

@@ -79,7 +79,7 @@ bool is_harmless(std::string_view reason) {
   if (is_printer_reason(reason)) {
     return false;
   }
-  // Warnings by name only: the scheduler starts no job with these.
+  // They are called warnings, but the scheduler starts no job because of them.
   if (reason == "cups-insecure-filter-warning" || reason == "cups-missing-filter-warning") {
     return false;
   }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A queue and its jobs as the scheduler tells them, and what the driver's own ones are told by.
+// A queue and its jobs as the scheduler describes them, and how to recognise those of this driver.
 #ifndef TQR7_TOOLS_QUEUE_H
 #define TQR7_TOOLS_QUEUE_H
 
@@ -11,7 +11,7 @@
 
 namespace tools {
 
-/// The NickName of the driver's PPD, which the scheduler tells as the queue's make and model.
+/// The NickName of the driver's PPD, which is the queue's make and model for the scheduler.
 inline constexpr char kMakeAndModel[] = "CORVANTIEL TQR7";
 inline constexpr char kReasonPrefix[] = "com.corvantiel-";
 inline constexpr char kCommandFormat[] = "application/vnd.cups-command";
@@ -31,16 +31,16 @@ enum class JobState : std::uint8_t {
 /// IPP's numbers.
 enum class QueueState : std::uint8_t { Unknown = 0, Idle = 3, Processing = 4, Stopped = 5 };
 
-/// Times are seconds since 1970, 0 where there is none.
+/// A job. Times are seconds since 1970, or 0.
 struct Job {
   int id = 0;
-  std::string queue;  ///< or class that it was sent to
+  std::string queue;  ///< the queue or class that it was sent to
   JobState state = JobState::Unknown;
   std::vector<std::string> reasons;
-  std::string printerMessage;  ///< the last line of its programs that the scheduler kept with it
+  std::string printerMessage;  ///< what its programs said, as far as the scheduler keeps it
   std::vector<std::string> printerReasons;  ///< the queue's reasons when it last ran
   std::int64_t processingSince = 0;
-  int impressions = 0;  ///< raster pages begun
+  int impressions = 0;  ///< raster pages that have begun
   std::string format;
 };
 
@@ -56,44 +56,45 @@ struct Queue {
   bool accepting = false;
   std::string deviceUri;
   std::string errorPolicy;
-  std::vector<std::string> commands;  ///< what its command filter knows
-  std::vector<Job> jobs;              ///< sent to it, by number
+  std::vector<std::string> commands;  ///< that its command filter knows
+  std::vector<Job> jobs;              ///< sent to it, in the order of their numbers
 };
 
-/// All queues and classes of a scheduler, by name.
+/// All queues and classes of a scheduler, in the order of their names.
 struct QueueList {
   std::vector<Queue> queues;
 
+  /// The queue or class of that name, or null.
   const Queue* Find(std::string_view name) const;
-  /// Printers with the driver's PPD, and classes that have such a member.
+  /// Whether it is a printer with the driver's PPD, or a class that has such a member.
   bool IsOurs(const Queue& queue) const;
 };
 
 /// "idle", "processing", "stopped" or "unknown".
 const char* to_string(QueueState state);
-/// IPP's word without "processing-" and "pending-": "stopped", "held", …
+/// IPP's word for it without "processing-" or "pending-": "stopped", "held", …
 const char* to_string(JobState state);
 
 bool contains(const std::vector<std::string>& words, std::string_view word);
 
-/// Whether the reason is one of the printer's own.
+/// Whether the reason is an error of the printer, which the driver has raised.
 bool is_printer_reason(std::string_view reason);
 bool has_printer_reason(const std::vector<std::string>& reasons);
 
-/// Whether printing goes on in spite of the reason: reports, warnings, and what a job in print
-/// shows.
+/// Whether the reason does not stop printing: a report, a warning, or what is normal while a job
+/// prints.
 bool is_harmless(std::string_view reason);
 
-/// A job of printer commands, such as a test page, and not of pictures.
+/// Whether it is a job of printer commands, such as a test page.
 bool is_command(const Job& job);
 
-/// Whether the words are those of phototopage or rastertopage for a file, or for what a job wants
-/// of it, that cannot be printed.
+/// Whether phototopage or rastertopage says with these words that a file, or what the job wants of
+/// it, cannot be printed.
 bool refuses_file(std::string_view words);
 
-/// Those words of a job that is stopped because of its file; empty for any other job. The scheduler
-/// keeps the first complaint of a job's programs with it until the job runs again, so it has these
-/// words only when nothing else failed before. No person can put words there.
+/// These words, for a job that is stopped because of its file; empty for any other job. The
+/// scheduler keeps the first complaint of a job's programs until the job runs again, so a job has
+/// these words only if nothing else failed before. No person can set them.
 std::string words_on_file(const Job& job);
 
 /// The queue's jobs in that state.

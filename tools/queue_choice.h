@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The queues that a person means: those named, or all with the driver's PPD.
+// The queues that a person means: those that are named, or all with the driver's PPD.
 #ifndef TQR7_TOOLS_QUEUE_CHOICE_H
 #define TQR7_TOOLS_QUEUE_CHOICE_H
 
@@ -12,11 +12,11 @@
 namespace tools {
 
 struct QueueChoice {
-  std::vector<const Queue*> queues;     ///< of the list that was looked into
-  std::vector<std::string> complaints;  ///< sentences; not empty when something cannot be told
+  std::vector<const Queue*> queues;     ///< in the list
+  std::vector<std::string> complaints;  ///< sentences on what cannot be chosen
 };
 
-/// Looks the names up; without any, takes all of the driver's queues and classes.
+/// Looks the names up in the list. Without names, chooses all of the driver's queues and classes.
 QueueChoice choose_queues(const QueueList& list, const std::vector<std::string>& names);
 
 }  // namespace tools

@@ -10,7 +10,8 @@
 namespace tools {
 namespace {
 
-// One attribute of an answer, read with an eye on its type: the other side may send any.
+// One attribute of an answer. It may have any type, so each value is read only if the type is
+// right.
 class Attribute {
  public:
   explicit Attribute(ipp_attribute_t* attribute)
@@ -67,15 +68,15 @@ class Attribute {
   const char* name_;
 };
 
-// Calls take(group number, attribute) for each attribute of a group, a run of attributes with that
-// tag.
+// Calls take(group number, attribute) for each attribute with that group tag. Attributes that
+// follow each other form one group.
 template <typename Take>
 void for_each_in_groups(ipp_t* response, ipp_tag_t tag, const Take& take) {
   std::size_t group = 0;
   bool within = false;
   for (ipp_attribute_t* attribute = ippFirstAttribute(response); attribute != nullptr;
        attribute = ippNextAttribute(response)) {
-    // An attribute without a name stands between two groups.
+    // An attribute without a name separates two groups.
     const bool belongs = ippGetName(attribute) != nullptr && ippGetGroupTag(attribute) == tag;
     if (belongs && !within) {
       ++group;
@@ -153,7 +154,7 @@ void read_into(Job& job, const Attribute& attribute) {
   } else if (attribute.Is("job-impressions-completed")) {
     attribute.To(job.impressions);
   } else if (attribute.Is("document-format") || attribute.Is("document-format-detected")) {
-    // Detected is only what was sent without a type.
+    // There is a detected format only for a file that was sent without one.
     attribute.To(job.format);
   }
 }

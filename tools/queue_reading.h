@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The scheduler's answers turned into records. What an answer says wrongly, or twice, or not at
-// all, leaves the record's field as it is.
+// Turns the scheduler's answers into records. A field keeps its default when an answer does not
+// have it, or has it in the wrong type.
 #ifndef TQR7_TOOLS_QUEUE_READING_H
 #define TQR7_TOOLS_QUEUE_READING_H
 
@@ -11,13 +11,13 @@
 
 namespace tools {
 
-/// The queues and classes of an answer to CUPS-Get-Printers, without their jobs.
+/// Reads the queues and classes, without their jobs, from an answer to CUPS-Get-Printers.
 QueueList read_queues(ipp_t* response);
 
-/// Gives each queue its jobs out of an answer to Get-Jobs, by number.
+/// Adds to each queue its jobs from an answer to Get-Jobs, in the order of their numbers.
 void read_jobs(ipp_t* response, QueueList& list);
 
-/// The last part of a printer's URI, decoded: the queue's name.
+/// The queue's name, which is the last part of a printer's URI, decoded.
 std::string queue_of_uri(const char* uri);
 
 }  // namespace tools

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// tqr7 report: a bundle for a bug report, with all that is needed to find a fault and without what
-// is personal: no picture, no titles, no names.
+// tqr7 report: writes a bundle for a bug report, with everything that is needed to find a fault,
+// and without what is personal: no picture, no titles, no names.
 #include <charconv>
 #include <cstdio>
 #include <memory>
@@ -37,7 +37,7 @@ struct ReportOptions {
   std::string stream;
 };
 
-// What the report is on.
+// The job that the report is about, and its queue.
 struct Subject {
   const Queue* queue = nullptr;
   int job = 0;
@@ -47,7 +47,7 @@ void complain(const std::string& sentence) {
   tools::complain("report", sentence);
 }
 
-// "12" or "photo-12"; 0 when there is no number.
+// Reads "12" or "photo-12"; 0 when there is no number.
 int job_number(const std::string& text) {
   const std::size_t dash = text.rfind('-');
   const char* const begin = text.c_str() + (dash == std::string::npos ? 0 : dash + 1);
@@ -57,7 +57,7 @@ int job_number(const std::string& text) {
   return error == std::errc{} && stop == end && number > 0 ? number : 0;
 }
 
-// The job with that number, or, without one, the one that ran last.
+// The job with that number; without a number, the job that ran last.
 Subject find_subject(const std::vector<const Queue*>& queues, int number) {
   Subject subject;
   std::tuple<std::int64_t, int> last{-1, 0};
@@ -120,7 +120,7 @@ std::string readme(const Subject& subject, bool withStream) {
          "replaced, such as by (title). Whoever sends the report looks it through before.\n";
 }
 
-// The addresses of the printers that the queue's jobs may come to.
+// The addresses of the printers that may get the queue's jobs.
 std::vector<std::string> printers_of(const QueueList& list, const Queue& queue) {
   std::vector<std::string> addresses = {queue.deviceUri};
   for (const std::string& name : queue.members) {
@@ -131,7 +131,7 @@ std::vector<std::string> printers_of(const QueueList& list, const Queue& queue) 
   return addresses;
 }
 
-// The name of a class's member stands for the class: it has the PPD.
+// A class has no PPD, so one of its members is asked.
 std::string queue_with_ppd(const QueueList& list, const Queue& queue) {
   for (const std::string& name : queue.members) {
     const Queue* const member = list.Find(name);
@@ -164,7 +164,7 @@ int write_report(Scheduler& scheduler, const QueueList& list, const Subject& sub
   const PpdText ppd = read_ppd(scheduler, queue_with_ppd(list, *subject.queue));
   const auto told = [&](const std::string& text) { return words.Without(text); };
 
-  // Whoever looks for the fault reads English.
+  // English, for the people who look for the fault.
   std::vector<BundleFile> files;
   {
     const language::English for_others;

@@ -98,7 +98,7 @@ std::string attribute_line(ipp_attribute_t* attribute) {
   return plain_text(ippGetName(attribute)) + ": " + value_of(attribute) + "\n";
 }
 
-// The attributes that are wanted, by their names.
+// The attributes that are wanted, sorted by name, one on each line.
 template <typename IsWanted>
 std::string attribute_lines(ipp_t* attributes, const IsWanted& is_wanted) {
   std::vector<std::string> lines;

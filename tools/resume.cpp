@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// tqr7 resume: starts again what the printer brought to a standstill, and nothing that a person
-// stopped.
+// tqr7 resume: starts again what the printer stopped, and nothing that a person stopped.
 #include <cstdio>
 #include <memory>
 #include <string>

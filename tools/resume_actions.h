@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Doing what a plan says, and saying what was done.
+// Does what a plan says, and says what was done.
 #ifndef TQR7_TOOLS_RESUME_ACTIONS_H
 #define TQR7_TOOLS_RESUME_ACTIONS_H
 
@@ -14,18 +14,18 @@ namespace tools {
 
 class ResumeActions {
  public:
-  /// Both must outlive it. With `onceOnly`, a line that tells no deed is said when it is new only.
+  /// The scheduler must outlive it. With `onceOnly`, Note and Complain write each line only once.
   ResumeActions(Scheduler& scheduler, bool onceOnly) : scheduler_(scheduler), onceOnly_(onceOnly) {}
 
-  /// Starts the plan's jobs and queues. False when something failed.
+  /// Starts the plan's jobs and queues. Returns false when something failed.
   bool Do(const ResumePlan& plan);
   /// Says what is left alone.
   void SayLeft(const ResumePlan& plan);
-  /// A line about a queue, to standard output.
+  /// Writes a line about a queue to standard output.
   void Note(const std::string& queue, const std::string& words);
-  /// A sentence to standard error.
+  /// Writes a sentence to standard error.
   void Complain(const std::string& sentence);
-  /// The queue runs: what was noted of it may be said again when it comes again.
+  /// The queue runs: lines about it may be written again.
   void Forget(const std::string& queue);
 
  private:

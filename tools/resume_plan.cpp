@@ -15,8 +15,8 @@ using language::filled;
 
 constexpr double kPauseMost = 60;  // seconds
 
-// The scheduler counts a page when it begins, so the first page of a refused job counts; and it
-// goes on counting when a job is started again.
+// The scheduler counts a page when it begins, so it counts the first page of a refused job. It goes
+// on counting when the job is started again.
 bool has_spent_paper(const Job& job, const ResumeRules& rules) {
   const auto started = rules.started.find(job.id);
   return started != rules.started.end() && job.impressions - started->second > 1;
@@ -51,7 +51,7 @@ void plan_job(const Queue& queue, const Job& job, const ResumeRules& rules, Resu
   }
 }
 
-// A queue that a job of a class has stopped brings that job along.
+// If a job of a class has stopped the queue, plans that job, too.
 void plan_cause(const QueueList& list, const Cause& cause, const ResumeRules& rules,
                 ResumePlan& plan) {
   for (const Queue& queue : list.queues) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// What is to be started again, and what is left alone and why.
+// Plans what to start again, and what to leave alone and why.
 #ifndef TQR7_TOOLS_RESUME_PLAN_H
 #define TQR7_TOOLS_RESUME_PLAN_H
 
@@ -12,17 +12,17 @@
 
 namespace tools {
 
-/// A stopped job that is printed again from its beginning.
+/// A stopped job to print again from its beginning.
 struct JobToRestart {
   int id;
   std::string queue;
   int impressions;  ///< raster pages begun so far, over all attempts
 };
 
-/// A stopped queue that is started.
+/// A stopped queue to start.
 struct QueueToStart {
   std::string name;
-  std::string why;  ///< it may be: what had stopped it
+  std::string why;  ///< what had stopped it
 };
 
 /// A queue, or one job of it, that stays as it is.
@@ -32,8 +32,8 @@ struct LeftAlone {
   std::string why;
 };
 
-/// Jobs come first, in the order of their numbers, then the queues: so a queue finds its jobs in
-/// the order in which they were sent.
+/// Jobs are started first, in the order of their numbers, and then the queues, so that a queue
+/// prints its jobs in the order in which they were sent.
 struct ResumePlan {
   std::vector<JobToRestart> jobs;
   std::vector<QueueToStart> queues;
@@ -42,20 +42,21 @@ struct ResumePlan {
   bool HasWork() const { return !jobs.empty() || !queues.empty(); }
 };
 
-/// What a run may start by itself.
+/// What may be started.
 struct ResumeRules {
-  /// Without a person at hand only jobs are started that the printer stopped.
+  /// No person watches: starts only jobs that the printer stopped.
   bool unattended = false;
-  /// Jobs that this run has started, with their impressions then. One that has put out sheets since
-  /// and stands again is not started unattended: it would spend paper for ever.
+  /// Jobs that this run has started, with their impressions at that time. A job that has printed
+  /// sheets since then and is stopped again is not started unattended: it would use up paper
+  /// without end.
   std::map<int, int> started;
 };
 
 ResumePlan plan_resume(const QueueList& list, const std::vector<const Queue*>& queues,
                        const ResumeRules& rules);
 
-/// The pause before the next attempt: twice the last, from `interval` to a minute, or `interval`
-/// where that is longer. In seconds.
+/// The pause before the next attempt, in seconds: twice the last one, but at most a minute and at
+/// least `interval`.
 double next_pause(double last, double interval);
 
 }  // namespace tools

@@ -43,7 +43,7 @@ int ResumeWatch::Step() {
   return choice.complaints.empty() ? StatusNow() : kExitCannotTell;
 }
 
-// Looks again: what was just started runs.
+// Looks again, because what was just started runs now.
 int ResumeWatch::StatusNow() {
   const std::optional<QueueList> list = scheduler_.Look();
   if (!list) {
@@ -85,8 +85,9 @@ void ResumeWatch::Attempt(const ResumePlan& plan, Track& track) {
                                  std::chrono::duration<double>(track.pause));
 }
 
-// Asks a queue at rest, and a class's members that show a reason. A queue that cannot be asked is
-// tried instead: the driver asks the printer before any paper is spent.
+// Asks the printer of an idle queue, and those of a class's members that show a reason. A queue
+// that cannot be asked counts as good: when it is started, the driver asks the printer before it
+// uses paper.
 bool ResumeWatch::PrinterStillInError(const QueueList& list, const Queue& queue) {
   if (!queue.isClass) {
     return Ask(queue);
@@ -101,7 +102,7 @@ bool ResumeWatch::PrinterStillInError(const QueueList& list, const Queue& queue)
   return !free_member;
 }
 
-// True when the printer was asked and its reasons stand.
+// True when the printer was asked and the queue still shows its reasons.
 bool ResumeWatch::Ask(const Queue& queue) {
   if (queue.state != QueueState::Idle || !can_be_asked(queue)) {
     return false;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Keeping queues running without a person: when to ask the printer, and when to try again.
+// Keeps queues running without a person: knows when to ask the printer, and when to try again.
 #ifndef TQR7_TOOLS_RESUME_WATCH_H
 #define TQR7_TOOLS_RESUME_WATCH_H
 
@@ -21,17 +21,18 @@ namespace tools {
 
 class ResumeWatch {
  public:
-  /// `interval` in seconds; no names: all of the driver's queues. What is given must outlive it.
+  /// `interval` is in seconds. Without names it watches all of the driver's queues. Scheduler,
+  /// actions and interruption must outlive it.
   ResumeWatch(Scheduler& scheduler, ResumeActions& actions, const Interruption& interruption,
               std::vector<std::string> names, double interval);
 
-  /// Looks once, and does what is due. The exit status that the tool would end with now.
+  /// Looks once, and does what is due. Returns the exit status with which the tool would end now.
   int Step();
 
  private:
   using Clock = std::chrono::steady_clock;
   struct Track {
-    Clock::time_point due;  ///< no attempt before
+    Clock::time_point due;  ///< when the next attempt may be
     double pause = 0;       ///< seconds, after the last attempt
   };
 

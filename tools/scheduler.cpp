@@ -14,9 +14,10 @@ namespace tools {
 namespace {
 
 constexpr int kConnectTimeout = 5000;    // milliseconds
-constexpr double kAnswerTimeout = 15.0;  // seconds that the scheduler may be silent
+constexpr double kAnswerTimeout = 15.0;  // seconds
 
-// Asked for by name: of a job that is not in the scheduler's memory, "all" gives next to nothing.
+// Each attribute is asked for by name. "all" is not enough: for a job that the scheduler has not in
+// its memory, it returns only a few attributes.
 constexpr std::array<const char*, 12> kQueueAttributes = {"printer-name",
                                                           "printer-type",
                                                           "member-names",
@@ -132,7 +133,7 @@ Response Scheduler::Send(ipp_t* request, const char* resource) {
   Response response(cupsDoRequest(http, request, resource));
   if (Remember(cupsLastError(), cupsLastErrorString()) != Outcome::Done) {
     response.reset();
-    // The next request begins anew: this connection may be in any state.
+    // Nobody knows the state of this connection, so the next request opens a new one.
     httpClose(http_);
     http_ = nullptr;
   }
@@ -152,7 +153,7 @@ std::optional<QueueList> Scheduler::Look() {
   ask_for(queues, kQueueAttributes);
   const Response queueAnswer = Send(queues, "/");
   if (queueAnswer == nullptr) {
-    // So does a scheduler without any queue answer.
+    // A scheduler without any queue answers that it found nothing.
     if (cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND) {
       return QueueList{};
     }

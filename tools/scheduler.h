@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The connection to the scheduler: what the tool asks it and has it do, by IPP.
+// The connection to the scheduler, by IPP: what the tool asks, and what it tells the scheduler to
+// do.
 #ifndef TQR7_TOOLS_SCHEDULER_H
 #define TQR7_TOOLS_SCHEDULER_H
 
@@ -27,8 +28,8 @@ enum class Outcome : std::uint8_t {
   Failed,     ///< anything else; Scheduler::Error() says what
 };
 
-/// The scheduler that this program's environment names. Connects with the first request, and again
-/// when the connection was lost.
+/// The scheduler that this program's environment names. It connects with the first request, and
+/// again after the connection was lost.
 class Scheduler {
  public:
   Scheduler();
@@ -45,22 +46,24 @@ class Scheduler {
 
   /// Starts a stopped queue.
   Outcome StartQueue(const std::string& queue);
-  /// Prints a job that came to an end, or stands stopped, from its beginning.
+  /// Prints a job from its beginning that has ended or is stopped.
   Outcome RestartJob(int job);
   Outcome CancelJob(int job);
 
-  /// Has the queue's command filter ask the printer for its state; the job's number, or 0.
+  /// Sends a job by which the queue's command filter asks the printer for its state. Returns the
+  /// job's number, or 0 on failure.
   int AskForStatus(const std::string& queue);
-  /// The state of a job; Unknown when it cannot be told.
+  /// The state of a job; Unknown when the scheduler does not say it.
   JobState StateOf(int job);
 
-  /// Gets a file of the scheduler's, such as "/admin/log/error_log", into an open descriptor.
+  /// Writes one of the scheduler's files, such as "/admin/log/error_log", to an open descriptor.
   Outcome GetFile(const std::string& resource, int descriptor);
 
-  /// A copy of the queue's PPD, for the caller to remove; empty when there is none.
+  /// Makes a copy of the queue's PPD, which the caller must remove. Returns its path; empty when
+  /// there is no PPD.
   std::string CopyPpd(const std::string& queue);
 
-  /// The words for what failed last, fit for a terminal.
+  /// What failed last, as plain text.
   std::string Error() const { return error_; }
 
  private:

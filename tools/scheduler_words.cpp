@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// What stands between the quotes of a catalogue's line.
+// The text between the quotation marks of a catalogue's line.
 std::string unquoted(std::string_view line) {
   const std::size_t first = line.find('"');
   const std::size_t last = line.rfind('"');
@@ -26,7 +26,7 @@ std::string unquoted(std::string_view line) {
   return text;
 }
 
-// Goes through a catalogue's entries; those with plurals have no sentence that is looked for.
+// Reads a catalogue's entries. Those with plurals are not needed.
 class Entries {
  public:
   Entries(std::span<const std::string_view> wanted, std::map<std::string, std::string>& found)

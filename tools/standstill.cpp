@@ -18,7 +18,7 @@ constexpr std::array<std::string_view, 5> kRefusals = {"pagesize-inkribbon-unmuc
                                                        "driver-setting-unmuch", "out-of-range",
                                                        "memory-timeout", "protocol-error"};
 
-// What the programs of a print job leave as the queue's message when they end. Other words may be
+// The queue's messages that the programs of a print job leave when they end. Other messages may be
 // a person's.
 constexpr std::array<std::string_view, 12> kWordsOfPrograms = {
     "Waiting for printer to finish.",
@@ -43,7 +43,7 @@ constexpr std::array<std::string_view, 5> kWordsOfFailedBackends = {
     "Unable to locate printer",
 };
 
-// Whoever sent the job in another language has the backend speak it.
+// The backend speaks the language of the person who sent the job.
 std::string told_in_english(const std::string& message) {
   static const std::map<std::string, std::string> translations = [] {
     std::vector<std::string_view> sentences(kWordsOfPrograms.begin(), kWordsOfPrograms.end());
@@ -68,8 +68,8 @@ bool is_of_programs(const std::string& said) {
          !refusal_word(message).empty() || refuses_file(message);
 }
 
-// The word is lost where another program complained later. A job that was cancelled since may have
-// been printing when a person stopped the queue: of those only the word itself tells.
+// The word is lost when another program complained later. A job that was cancelled may have been
+// printing when a person stopped the queue, so for such a job only the word itself counts.
 bool shows_refusal(const Job& job) {
   if (!contains(job.printerReasons, "paused")) {
     return false;
@@ -79,8 +79,8 @@ bool shows_refusal(const Job& job) {
              : job.state == JobState::Stopped && is_of_programs(job.printerMessage);
 }
 
-// A change of the queue, such as of its address, puts a job in print back, also one that was
-// refused a moment before. So does a person's stop, but that takes the word out of the queue's
+// A change of the queue, such as of its address, makes a printing job pending again, even one that
+// was refused a moment before. A person's stop does the same, but removes the word from the queue's
 // message.
 bool shows_refusal_put_back(const Queue& queue, const Job& job) {
   return job.state == JobState::Pending && contains(job.printerReasons, "paused") &&
@@ -93,8 +93,8 @@ bool speaks_of_failed_backend(const std::string& said) {
                      [&](std::string_view words) { return message.starts_with(words); });
 }
 
-// Whether the backend or another program of the job spoke last is chance; the driver, whose
-// questions stayed without answer, has then left its own reason.
+// Either the backend or another program of the job may have complained last. In the second case the
+// driver, whose questions were not answered, has raised its own reason.
 bool shows_failed_backend(const Job& job) {
   return job.state == JobState::Pending && job.processingSince > 0 &&
          contains(job.reasons, "printer-stopped") && contains(job.printerReasons, "paused") &&
@@ -106,8 +106,8 @@ bool is_class_of(const Queue& group, const Queue& member) {
   return group.isClass && contains(group.members, member.name);
 }
 
-// The job that ran last on the queue. Of a class's jobs only those count that show a refusal: which
-// member a job ran on is not told.
+// The job that ran last on the queue. The scheduler does not say on which member of a class a job
+// ran, so of a class's jobs only those count that show a refusal.
 const Job* last_job(const QueueList& list, const Queue& queue) {
   const Job* last = nullptr;
   const auto look_at = [&](const Job& job) {

@@ -1,23 +1,26 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Whether a queue that stands was stopped by the driver or by a person.
+// Finds out whether the driver or a person stopped a queue.
 //
-// The scheduler keeps no record of who stopped a queue, so only a trace that no person's stop
-// leaves counts as the driver's; all else counts as a person's. The traces, as the scheduler shows
-// them (CUPS 2.4):
+// The scheduler does not record who stopped a queue. So it counts as stopped by the driver only if
+// there is a trace that a person never leaves. The traces that the scheduler shows (CUPS 2.4):
 //
-// - The driver pauses the queue for a refused sheet. The job stands stopped, and keeps with itself
-//   the reason "paused" and the driver's word ("driver-setting-unmuch 0x0200"), or a later
-//   complaint of another program; the word stays when the job is cancelled afterwards. A person who
-//   stops a queue that prints leaves the job pending, also within the driver's last second. So does
-//   a change of the queue's settings; then the driver's word is the queue's message, too.
+// - The driver pauses the queue for a refused sheet. The job is stopped, and has the reason
+// "paused" and
+//   the driver's word ("driver-setting-unmuch 0x0200"), or a later complaint of another program. It
+//   keeps the word even when it is cancelled afterwards. When a person stops a queue that prints,
+//   the job is pending, even if that happens in the driver's last second. After a change of the
+//   queue's settings the job is pending as well, but then the driver's word is also the queue's
+//   message.
 // - The error policy "stop-printer" stops the queue because the backend failed. The job is pending
-//   for the reason "printer-stopped", and keeps the backend's words with itself, or the driver's
-//   reason and a later complaint of another program.
-// - A person's stop of a queue at rest, also of one that the driver has paused, sets the queue's
-//   message to "Paused" or to the person's own words. One of a queue that prints leaves an empty
-//   message. So the message must be one that a program of a print job writes, in whatever language
-//   it was told to speak. A person who says just that cannot be told apart.
+// with
+//   the reason "printer-stopped", and has the backend's words, or the driver's reason and a later
+//   complaint of another program.
+// - When a person stops an idle queue, even one that the driver has paused, the queue's message
+// becomes
+//   "Paused" or the person's own words. When a person stops a queue that prints, the message
+//   becomes empty. So the message must be one that a program of a print job writes, in any
+//   language. A person who uses the same words is mistaken for the driver.
 #ifndef TQR7_TOOLS_STANDSTILL_H
 #define TQR7_TOOLS_STANDSTILL_H
 
@@ -32,22 +35,22 @@ enum class Standstill : std::uint8_t {
   None,      ///< the queue is not stopped
   Refused,   ///< the driver paused it, because the printer refused a sheet
   Policy,    ///< its error policy stopped it, because the printer could not be reached
-  ByPerson,  ///< a person stopped it, or nobody knows
+  ByPerson,  ///< a person stopped it, or it is not known
 };
 
 struct Cause {
   Standstill kind = Standstill::None;
-  int job = 0;       ///< that it came of; 0 when none is known
+  int job = 0;       ///< that was the cause; 0 when it is not known
   std::string word;  ///< the driver's word for a refusal, without its number; empty when it is lost
 };
 
-/// Why the queue stands.
+/// Why the queue is stopped.
 Cause cause_of_standstill(const QueueList& list, const Queue& queue);
 
 /// The driver's word in a job's message, such as "out-of-range"; empty when there is none.
 std::string refusal_word(const std::string& message);
 
-/// Whether a stopped job shows that this driver's printer is the cause: a reason or a refusal.
+/// Whether a stopped job shows, by a reason or a refusal, that the printer is the cause.
 bool stopped_by_printer(const Job& job);
 
 }  // namespace tools

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// tqr7 status: what stands with each queue, in words with a remedy.
+// tqr7 status: shows the state of each queue, and what to do about it.
 #include <cstdio>
 #include <memory>
 #include <string>
@@ -30,7 +30,7 @@ struct StatusOptions {
   bool ask = false;
 };
 
-// What one look found: for standard output, for standard error, and the exit status.
+// The result of one look: what goes to standard output and to standard error, and the exit status.
 struct Finding {
   std::string said;
   std::string complaints;
@@ -85,11 +85,11 @@ void ask_queues(Scheduler& scheduler, const StatusOptions& options,
                 const Interruption& interruption) {
   const std::optional<QueueList> list = scheduler.Look();
   if (!list) {
-    return;  // the look that follows says so
+    return;  // the next look will complain
   }
   for (const Queue* const queue : choose_queues(*list, options.queues).queues) {
     if (queue->isClass) {
-      continue;  // its members are asked
+      continue;  // it has no printer itself
     }
     const std::string why_not = ask_printer(scheduler, *queue, interruption);
     if (!why_not.empty()) {

@@ -9,7 +9,7 @@ namespace {
 using language::_;
 
 constexpr double kPoll = 0.1;    // seconds between two looks at the question's job
-constexpr int kPollsMost = 300;  // half a minute: a job in print may be in front
+constexpr int kPollsMost = 300;  // half a minute: it may have to wait for a job that prints
 
 bool is_at_end(JobState state) {
   return state == JobState::Completed || state == JobState::Canceled || state == JobState::Aborted;
@@ -40,7 +40,7 @@ std::string ask_printer(Scheduler& scheduler, const Queue& queue,
       return {};
     }
     if (state == JobState::Stopped) {
-      // The question was put; its filter says by this that the answer was not good.
+      // The filter has asked, and stops the job because the answer was not good.
       scheduler.CancelJob(job);
       return {};
     }

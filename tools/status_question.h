@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Having a queue's command filter ask the printer, so that the queue's reasons are those of now.
+// Has a queue's command filter ask the printer, so that the queue's reasons are up to date.
 #ifndef TQR7_TOOLS_STATUS_QUESTION_H
 #define TQR7_TOOLS_STATUS_QUESTION_H
 
@@ -12,11 +12,11 @@
 
 namespace tools {
 
-/// Whether the queue takes the question: it runs, and its command filter knows it.
+/// Whether the queue can ask: it runs, and its command filter knows the question.
 bool can_be_asked(const Queue& queue);
 
-/// Sends the question and waits for its end. Empty when the printer was asked; otherwise why not,
-/// and then no question is left behind in the queue.
+/// Sends the question and waits for its end. Returns why the printer was not asked, or nothing. No
+/// question is left in the queue.
 std::string ask_printer(Scheduler& scheduler, const Queue& queue, const Interruption& interruption);
 
 }  // namespace tools

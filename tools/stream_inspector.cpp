@@ -19,7 +19,7 @@ std::vector<ListedField> fields_of(decoder::Command command, std::span<const std
 
 }  // namespace
 
-// Behind the last error that is listed a stream is garbage to a person, and its commands too.
+// After so many errors a stream is garbage, and its commands are of no use to a person either.
 bool StreamInspector::ListsStill() const {
   return totals_.errors <= kErrorsListedMost && totals_.commands <= kCommandsListedMost;
 }

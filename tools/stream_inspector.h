@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A command stream held against the protocol and listed: what the decoder tells, counted and, up to
-// a length that a person can read, handed to a listing.
+// Checks a command stream against the protocol and lists it. It counts what the decoder reports,
+// and hands as much of it to a listing as a person can read.
 #ifndef TQR7_TOOLS_STREAM_INSPECTOR_H
 #define TQR7_TOOLS_STREAM_INSPECTOR_H
 
@@ -15,18 +15,18 @@
 namespace tools {
 
 inline constexpr std::uint64_t kErrorsListedMost = 200;
-inline constexpr std::uint64_t kCommandsListedMost = 100'000;  ///< some 15,000 sheets
+inline constexpr std::uint64_t kCommandsListedMost = 100'000;  ///< about 15,000 sheets
 
-/// Inspects one stream, which may be that of several connections one behind the other.
+/// Inspects one stream, which may consist of several connections, one after the other.
 class StreamInspector : private decoder::CommandListener {
  public:
   /// The listing must outlive the inspector.
   explicit StreamInspector(StreamListing& listing) : listing_(listing), parser_(*this) {}
 
-  /// The next bytes of the stream.
+  /// Takes the next bytes of the stream.
   void Feed(std::span<const std::uint8_t> bytes) { parser_.Feed(bytes); }
 
-  /// No more bytes come: finishes the listing. Feed nothing afterwards.
+  /// Ends the stream and finishes the listing. Feed nothing afterwards.
   const StreamTotals& Finish();
 
  private:

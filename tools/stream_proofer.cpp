@@ -40,7 +40,7 @@ void StreamProofer::OnSheetCut() {
 }
 
 void StreamProofer::OnError(const decoder::StreamError& error) {
-  constexpr std::uint64_t kErrorsToldMost = 20;  // the whole list is what tqr7 inspect is for
+  constexpr std::uint64_t kErrorsToldMost = 20;  // tqr7 inspect lists all
   ++totals_.errors;
   if (totals_.errors <= kErrorsToldMost) {
     report_.wrong(to_string(error));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The sheets of a command stream printed to PNG files, as the simulated printer prints them.
+// Prints the sheets of a command stream to PNG files, as the simulated printer does.
 #ifndef TQR7_TOOLS_STREAM_PROOFER_H
 #define TQR7_TOOLS_STREAM_PROOFER_H
 
@@ -15,32 +15,32 @@
 
 namespace tools {
 
-/// What a person is told while the proofs are made.
+/// What is called with a line for a person while the proofs are made.
 struct ProofReport {
   std::function<void(const std::string&)> done;    ///< a sheet that was written, in words
-  std::function<void(const std::string&)> wrong;   ///< a departure from the protocol
+  std::function<void(const std::string&)> wrong;   ///< an error in the stream
   std::function<void(const std::string&)> failed;  ///< what could not be written, and why
 };
 
-/// What the proofs came to.
+/// The whole stream in numbers.
 struct ProofTotals {
   std::uint64_t bytes = 0;
-  std::uint64_t sheets = 0;  ///< whole ones
+  std::uint64_t sheets = 0;  ///< that are whole
   std::uint64_t errors = 0;
   std::uint64_t failures = 0;  ///< files that could not be written
 };
 
-/// Proofs one stream.
+/// Makes the proofs of one stream.
 class StreamProofer : private decoder::CommandListener {
  public:
   /// The printer must outlive the proofer.
   StreamProofer(simulator::SheetPrinter& printer, ProofReport report)
       : printer_(printer), report_(std::move(report)), parser_(*this) {}
 
-  /// The next bytes of the stream.
+  /// Takes the next bytes of the stream.
   void Feed(std::span<const std::uint8_t> bytes) { parser_.Feed(bytes); }
 
-  /// No more bytes come. Feed nothing afterwards.
+  /// Ends the stream. Feed nothing afterwards.
   const ProofTotals& Finish();
 
  private:

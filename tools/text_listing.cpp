@@ -10,7 +10,7 @@ namespace {
 
 using simulator::counted;
 
-// A field that can only have one value tells nothing unless it is wrong, and then an error does.
+// A field that can have one value only says nothing; when the value is wrong, there is an error.
 bool worth_listing(const ListedField& field) {
   return field.rule->allowed.kind != decoder::Allowed::Kind::Exactly;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// tqr7: the operator's tool. Each subcommand has a file of its own; here they become one program.
+// tqr7: the operator's tool. Each subcommand has its own file; this makes one program of them.
 #include <cstdio>
 #include <exception>
 
