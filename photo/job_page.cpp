@@ -1,11 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "photo/job_page.h"
 
+#include <cups/ppd.h>
+#include <unistd.h>
+
 #include "filter/job_options.h"
 #include "filter/ppd_options.h"
 
 namespace photo {
 namespace {
+
+struct ClosePpd {
+  void operator()(ppd_file_t* ppd) const { ppdClose(ppd); }
+};
 
 constexpr unsigned kBitsPerPixel = 24;
 constexpr unsigned kBytesPerPixel = 3;
@@ -41,6 +48,25 @@ bool read_job_page(const char* optionText, const JobOptions& options, JobPage& p
     return false;
   }
   make_header(page);
+  return true;
+}
+
+Raster open_output() {
+  return Raster(cupsRasterOpen(STDOUT_FILENO, CUPS_RASTER_WRITE));
+}
+
+bool write_page(cups_raster_t* raster, const cups_page_header2_t& header,
+                const std::uint8_t* rows) {
+  cups_page_header2_t copy = header;
+  if (cupsRasterWriteHeader2(raster, &copy) == 0) {
+    return false;
+  }
+  for (unsigned y = 0; y < header.cupsHeight; ++y) {
+    auto* const row = const_cast<std::uint8_t*>(rows) + std::size_t{y} * header.cupsBytesPerLine;
+    if (cupsRasterWritePixels(raster, row, header.cupsBytesPerLine) < header.cupsBytesPerLine) {
+      return false;
+    }
+  }
   return true;
 }
 

@@ -1,24 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The page that a job's options choose: its dots, as the printer's filter will take them, and the
-// header of its raster.
+// The page that a job's options choose, as the printer's filter will take it, and the CUPS raster
+// stream that finished pages are written to.
 #ifndef TQR7_PHOTO_JOB_PAGE_H
 #define TQR7_PHOTO_JOB_PAGE_H
 
-#include <cups/cups.h>
-#include <cups/ppd.h>
 #include <cups/raster.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 
 #include "photo/job_wishes.h"
 
 namespace photo {
-
-struct ClosePpd {
-  void operator()(ppd_file_t* ppd) const { ppdClose(ppd); }
-};
 
 struct JobPage {
   std::size_t width = 0;   ///< dots of the image area
@@ -31,6 +26,19 @@ struct JobPage {
 
 /// The page of the PPD that the environment names. False when there is none.
 bool read_job_page(const char* optionText, const JobOptions& options, JobPage& page);
+
+struct CloseRaster {
+  void operator()(cups_raster_t* raster) const { cupsRasterClose(raster); }
+};
+using Raster = std::unique_ptr<cups_raster_t, CloseRaster>;
+
+/// Begins a stream on the standard output, uncompressed as the system's own filters write it; null
+/// when it cannot.
+Raster open_output();
+
+/// Writes one page of header.cupsHeight rows of header.cupsBytesPerLine bytes. False when the next
+/// program takes no more.
+bool write_page(cups_raster_t* raster, const cups_page_header2_t& header, const std::uint8_t* rows);
 
 }  // namespace photo
 

@@ -9,7 +9,6 @@
 #include "language/messages.h"
 #include "photo/exif.h"
 #include "photo/photo_rows.h"
-#include "photo/refusal.h"
 
 // jpeglib.h needs what <cstdio> declares.
 #include <jerror.h>

@@ -25,6 +25,9 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
 inline constexpr std::size_t kPixelsMost = 250'000'000;
 inline constexpr std::size_t kSideMost = 65'500;  ///< pixels; JPEG has no more either
 
+/// Why a photo is not printed that is all right: the machine's fault, not the file's.
+inline constexpr char kNoMemory[] = "there is too little memory";
+
 /// What the samples of a row count.
 enum class Samples : std::uint8_t {
   Rgb,          ///< red, green, blue

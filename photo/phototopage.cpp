@@ -13,9 +13,7 @@
 #include "photo/filter_program.h"
 #include "photo/job_page.h"
 #include "photo/job_wishes.h"
-#include "photo/page_output.h"
 #include "photo/page_picture.h"
-#include "photo/refusal.h"
 
 namespace {
 

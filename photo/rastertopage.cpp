@@ -13,8 +13,6 @@
 #include "photo/job_page.h"
 #include "photo/job_wishes.h"
 #include "photo/page_edges.h"
-#include "photo/page_output.h"
-#include "photo/refusal.h"
 #include "photo/tones.h"
 
 namespace {

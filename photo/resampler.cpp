@@ -12,7 +12,7 @@
 
 #include "language/messages.h"
 #include "photo/light_tables.h"
-#include "photo/refusal.h"
+#include "photo/photo_rows.h"
 
 namespace photo {
 namespace {

@@ -22,7 +22,6 @@ constexpr unsigned kFull = 255;
 // What a transform is made from, and what comes of it.
 struct Making {
   const PhotoFacts* facts;
-  ColourSource source;
   void* transform;  ///< null where the samples are sRGB already
 };
 
@@ -143,7 +142,6 @@ const char* make_from_profile(cmsContext context, void* argument) {
     return kUnusable;
   }
   cmsCloseProfile(profile);
-  making.source = ColourSource::Profile;
   if (facts.samples == Samples::Rgb && changes_nothing(making.transform)) {
     making.transform = nullptr;
   }
@@ -157,7 +155,6 @@ const char* make_from_marks(cmsContext context, void* argument) {
     return nullptr;
   }
   making.transform = make_transform(context, profile, making.facts->samples);
-  making.source = making.transform != nullptr ? ColourSource::CameraMark : ColourSource::Assumed;
   return nullptr;
 }
 
@@ -183,18 +180,16 @@ void grey_to_rgb(const std::uint8_t* samples, std::uint8_t* rgb, std::size_t pix
 
 ToSrgb::ToSrgb(const PhotoFacts& facts)
     : samples_(facts.samples), engine_(std::make_unique<BoundedCms>(kMemory)) {
-  Making making{&facts, ColourSource::Assumed, nullptr};
+  Making making{&facts, nullptr};
   if (!facts.profile.empty()) {
     if (engine_->run(make_from_profile, &making, kUnusable) == nullptr) {
-      source_ = making.source;
       transform_ = making.transform;
       return;
     }
     profilePassedOver_ = true;
-    making = {&facts, ColourSource::Assumed, nullptr};
+    making = {&facts, nullptr};
   }
   if (engine_->run(make_from_marks, &making, kUnusable) == nullptr) {
-    source_ = making.source;
     transform_ = making.transform;
   }
 }

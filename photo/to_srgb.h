@@ -14,13 +14,6 @@ class BoundedCms;
 
 namespace photo {
 
-/// Where the meaning of a photo's samples was taken from.
-enum class ColourSource : std::uint8_t {
-  Assumed,    ///< nowhere: they are taken for sRGB, or for plain ink
-  Profile,    ///< the embedded ICC profile
-  CameraMark  ///< the file's own marks: Adobe RGB, or gamma and primaries
-};
-
 /// Converts rows of one photo. Relative colorimetric with black-point compensation, as the
 /// conversion for the printer itself: what the printer's colours can show stays as it is, and
 /// shadows keep their steps.
@@ -36,13 +29,11 @@ class ToSrgb {
 
   /// The photo's colours are others than those of sRGB.
   bool Converts() const { return transform_ != nullptr; }
-  ColourSource Source() const { return source_; }
   /// The file has a profile that does not fit its samples or is broken; it was passed over.
   bool ProfilePassedOver() const { return profilePassedOver_; }
 
  private:
   Samples samples_;
-  ColourSource source_ = ColourSource::Assumed;
   bool profilePassedOver_ = false;
   std::unique_ptr<BoundedCms> engine_;
   void* transform_ = nullptr;  ///< belongs to the engine; null where nothing is to be converted

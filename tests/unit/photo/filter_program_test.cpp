@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // The last words of a program: what is the file's fault, and what is not.
-#include "photo/refusal.h"
+#include "photo/filter_program.h"
 
 #include <gtest/gtest.h>
+
+#include "photo/photo_rows.h"
 
 namespace photo {
 namespace {
