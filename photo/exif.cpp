@@ -17,16 +17,16 @@ constexpr std::size_t kOffsetValue = 8;  ///< in an entry
 constexpr std::uint32_t kTagOrientation = 0x0112;
 constexpr std::uint32_t kTagAcross = 0x011A;
 constexpr std::uint32_t kTagDown = 0x011B;
-constexpr std::uint32_t kTagExif = 0x8769;      ///< place of the camera's own directory
-constexpr std::uint32_t kTagExchange = 0xA005;  ///< in that: place of the one on exchange
-constexpr std::uint32_t kTagExchangeIndex = 1;  ///< in that
+constexpr std::uint32_t kTagExif = 0x8769;      ///< the place of the camera's own directory
+constexpr std::uint32_t kTagExchange = 0xA005;  ///< there: the place of the directory on exchange
+constexpr std::uint32_t kTagExchangeIndex = 1;  ///< there: the mark
 constexpr std::uint32_t kTypeText = 2;
 constexpr std::uint32_t kTypeShort = 3;
 constexpr std::uint32_t kTypeLong = 4;
 constexpr std::uint32_t kTypeFraction = 5;
 constexpr int kLastOrientation = 8;
 
-// Numbers at places that may lie anywhere, in the file's byte order.
+// Reads numbers in the file's byte order, at places that may be outside the file.
 class Tiff {
  public:
   Tiff(Bytes bytes, bool littleEndian) : bytes_(bytes), littleEndian_(littleEndian) {}
@@ -59,7 +59,7 @@ bool is_field(const Tiff& tiff, std::size_t entry, const Field& field) {
          tiff.Number(entry + kOffsetCount, 4) == field.count;
 }
 
-// The place of a field's value in a directory, or of where its value is.
+// Returns the place of a field's value, or of the number that says where the value is.
 std::optional<std::size_t> find_in(const Tiff& tiff, std::size_t directory, const Field& field) {
   const std::uint32_t entries = tiff.Number(directory, 2).value_or(0);
   for (std::uint32_t i = 0; i < entries; ++i) {
@@ -71,7 +71,7 @@ std::optional<std::size_t> find_in(const Tiff& tiff, std::size_t directory, cons
   return std::nullopt;
 }
 
-// The same in the first directory.
+// The same for the first directory.
 std::optional<std::size_t> find_field(const Tiff& tiff, std::uint32_t tag, std::uint32_t type) {
   constexpr std::uint32_t kTiff = 42;
   const std::optional<std::uint32_t> directory = tiff.Number(kOffsetFirstDirectory, 4);

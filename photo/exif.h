@@ -21,12 +21,12 @@ struct PixelDensity {
   std::uint32_t down = 0;
 };
 
-/// The orientation, 1 to 8, of Exif data: a TIFF file of either byte order, of which nothing need
-/// be right. kExifUpright when it says none, or one that does not exist.
+/// Returns the orientation, 1 to 8, of Exif data: a TIFF file of either byte order, which may be
+/// broken anywhere. Returns kExifUpright when the data has none, or one that does not exist.
 int exif_orientation(std::span<const std::uint8_t> tiff);
 
-/// The density that it says; 0 x 0 when it says none. As in the printing system, its unit does not
-/// count, and only whole numbers do.
+/// Returns the density; 0 x 0 when the data has none. Like the printing system, it ignores the unit
+/// and what comes after a number's point.
 PixelDensity exif_density(std::span<const std::uint8_t> tiff);
 
 /// Whether the camera has marked the photo as Adobe RGB. Many cameras set this mark, as the rules

@@ -15,9 +15,9 @@
 namespace photo {
 namespace {
 
-// The scheduler keeps the first complaint of a job with it. Where it sees the end of a program
-// before it has read the program's words, it keeps "Filter failed" instead; so the program waits
-// until its words are read, where the system tells, and not for long.
+// The scheduler keeps the first error message of a job. When the program ends before the scheduler
+// has read its message, the scheduler keeps "Filter failed" instead. So the program waits until its
+// message is read, but no longer than a second.
 void wait_until_read(int descriptor) {
   constexpr timespec kPause = {0, 10'000'000};
   constexpr int kPausesMost = 100;

@@ -37,7 +37,7 @@ bool read_job_page(const char* optionText, const JobOptions& options, JobPage& p
   get_print_setting(ppd.get(), &setting);
   page.width = static_cast<std::size_t>(setting.nImageWidth);
   page.height = static_cast<std::size_t>(setting.nImageHeight);
-  // Not by the margins that the PPD has: those of the two-print sizes lie beyond the sheet's edge.
+  // The PPD's margins do not say this: the two-print sizes have some, and print to the edge.
   page.borderless = setting.nImageLeft == 0;
   if (const ppd_size_t* const size = ppdPageSize(ppd.get(), nullptr); size != nullptr) {
     page.left = size->left;

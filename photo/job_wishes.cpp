@@ -29,12 +29,12 @@ int JobOptions::Number(const char* name, int otherwise, int least, int most) con
 
 namespace {
 
-// IPP's word for it comes before the older ones.
+// IPP's option counts before the older ones.
 void read_print_scaling(const JobOptions& options, bool borderless, JobWishes& wishes) {
   if (options.Is("print-scaling", "fill")) {
     wishes.scaling = Scaling::Fill;
   } else if (options.Is("print-scaling", "auto")) {
-    // A photo is as large as its page: who sends it means the page to be covered where it can be.
+    // People expect a photo to cover the paper, where the paper can be covered.
     wishes.scaling = borderless ? Scaling::Fill : Scaling::Fit;
   } else if (options.Is("print-scaling", "fit") || options.Is("print-scaling", "auto-fit")) {
     wishes.scaling = Scaling::Fit;
@@ -64,7 +64,7 @@ void read_older_scaling(const JobOptions& options, JobWishes& wishes) {
   }
 }
 
-// "300" or "300x150"; a size in dots of its own, as far as nothing else has said one.
+// "300" or "300x150". It says how large the photo is, unless another option does.
 void read_density(const JobOptions& options, JobWishes& wishes) {
   constexpr int kLeast = 1;
   constexpr int kMost = 9600;
@@ -133,7 +133,7 @@ bool read_collate(const JobOptions& options) {
 constexpr std::array kGreyModes = {"monochrome", "auto-monochrome", "process-monochrome",
                                    "bi-level", "process-bi-level"};
 
-// The limits are those of the manual of CUPS.
+// The limits are those in the manual of CUPS.
 void read_tones(const JobOptions& options, JobWishes& wishes) {
   constexpr double kThousand = 1000;
   constexpr double kHundred = 100;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// What a job's options say of how a photo is to lie on the page, in the words that CUPS has for it.
+// How the job wants a photo printed: its size and place on the page, and its tones. The options are
+// those of CUPS.
 #ifndef TQR7_PHOTO_JOB_WISHES_H
 #define TQR7_PHOTO_JOB_WISHES_H
 
@@ -24,11 +25,10 @@ class JobOptions {
 
   /// The option's value; null where the job does not have it.
   const char* Find(const char* name) const { return cupsGetOption(name, count_, all_); }
-  /// Whether the option has this value, in capitals or not.
+  /// Whether the option has this value; capitals do not matter.
   bool Is(const char* name, const char* value) const;
   bool IsTrue(const char* name) const;
-  /// The option's value, or the nearest that is allowed; `otherwise` where the job does not have
-  /// it.
+  /// The option's value, or the nearest that is allowed; `otherwise` where the job has none.
   int Number(const char* name, int otherwise, int least, int most) const;
 
  private:
@@ -36,16 +36,16 @@ class JobOptions {
   int count_;
 };
 
-/// How large the photo is to be.
+/// How large the photo is printed.
 enum class Scaling : std::uint8_t {
   Fit,      ///< all of it, as large as the page allows
-  Fill,     ///< the page covered, what goes beyond it cut off
-  Natural,  ///< as large as its density says, cut to the page
-  Spread    ///< of a size of its own; what one page does not hold goes to further ones
+  Fill,     ///< large enough to cover the page; the rest is cut off
+  Natural,  ///< as large as its density says; what the page does not hold is cut off
+  Spread    ///< in a size that the job says, on as many pages as that takes
 };
 
-/// Where the photo lies on what it does not cover, or what of it is kept: -1 is left or top, 0 the
-/// middle, 1 right or bottom.
+/// Where on the page a smaller photo is, or which part of a larger one is printed: -1 is left or
+/// top, 0 the middle, 1 right or bottom.
 struct Position {
   int across = 0;
   int down = 0;
@@ -53,15 +53,15 @@ struct Position {
 
 struct JobWishes {
   Scaling scaling = Scaling::Fit;
-  /// For Spread: per cent of the fitted size, or of the natural one. 100 when nothing is said.
+  /// For Spread: per cent of the fitted or of the natural size.
   int percent = 100;
-  /// For Spread: the size is a share of the fitted one, not of the natural one.
+  /// For Spread: the per cent are of the fitted size.
   bool ofFitted = false;
-  /// Dots of the photo to an inch of paper; 0 where the photo's own density counts.
+  /// Pixels of the photo to an inch of paper; 0 where the photo's own density counts.
   int perInchAcross = 0;
   int perInchDown = 0;
   Position position;
-  /// orientation-requested, 3 to 6; 0 where the photo is turned as it lies best.
+  /// orientation-requested, 3 to 6; 0 where the photo is turned to be as large as possible.
   int orientation = 0;
   bool mirror = false;
   int copies = 1;
@@ -70,15 +70,15 @@ struct JobWishes {
   double brightness = 1;  ///< above 1 is lighter
   int saturation = 100;   ///< per cent
   int hue = 0;            ///< degrees
-  bool grey = false;      ///< without colours, whatever saturation and hue say
+  bool grey = false;      ///< black and white; saturation and hue do not count then
 };
 
-/// Reads the options; `borderless` says whether the page has no margins, which print-scaling=auto
-/// depends on. What is no number, or beyond what CUPS allows, is held to the nearest that is.
+/// Reads the options. print-scaling=auto depends on whether the page is `borderless`. A number
+/// beyond what CUPS allows becomes the nearest that it allows.
 JobWishes read_wishes(const JobOptions& options, const char* copies, bool borderless);
 
-/// Whether print-color-mode is one of IPP's modes without colours. The printer makes its greys of
-/// all its dyes and has no mode of black dots only, so these all ask for the same.
+/// Whether print-color-mode is one of IPP's modes without colours. They all mean the same here: the
+/// printer makes its greys of all its dyes, and has no mode of black dots only.
 bool asks_for_grey(const JobOptions& options);
 
 }  // namespace photo

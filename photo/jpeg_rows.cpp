@@ -17,16 +17,15 @@
 namespace photo {
 namespace {
 
-constexpr unsigned kMarkerMost = 0xFFFF;  ///< bytes of a marker, all there can be
+constexpr unsigned kMarkerMost = 0xFFFF;  ///< bytes of the longest possible marker
 constexpr int kExifMarker = JPEG_APP0 + 1;
 constexpr int kProfileMarker = JPEG_APP0 + 2;
 constexpr std::size_t kProfileMost = 16UL * 1024 * 1024;
 
-// A file that shows a picture in more steps than this only means to take time.
+// Progressive files have some ten scans. One with more than this is made to take up time.
 constexpr int kScansMost = 500;
 
-// What a picture shown in steps is kept in until its last step; other pictures need next to
-// nothing.
+// A progressive picture is held in memory until its last scan; others need very little.
 constexpr long kMemoryMost = 256L * 1024 * 1024;
 
 class JpegRows : public PhotoRows {
@@ -47,7 +46,7 @@ class JpegRows : public PhotoRows {
   std::string Row(std::uint8_t* samples) override;
 
  private:
-  // Nothing with a destructor lives in these frames: libjpeg leaves them by a jump.
+  // libjpeg leaves these functions by a jump, so they have no objects with destructors.
   bool ReadHeader();
   bool Start();
   bool ReadRow(std::uint8_t* samples);
@@ -83,8 +82,8 @@ void JpegRows::give_up(j_common_ptr jpeg) {
   std::longjmp(reader.givenUp_, 1);  // NOLINT(cert-err52-cpp)
 }
 
-// Cameras leave odd bytes between the parts of a file, which harms nothing. Where pixels are lost,
-// paper would be spent on a grey field.
+// Many cameras leave odd bytes between the parts of a file, which does no harm. Where pixels are
+// lost, a part of the print would be grey, so the photo is refused.
 void JpegRows::judge_warning(j_common_ptr jpeg, int level) {
   const int code = jpeg->err->msg_code;
   if (level < 0 && (code == JWRN_JPEG_EOF || code == JWRN_HIT_MARKER ||

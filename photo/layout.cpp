@@ -8,7 +8,7 @@ namespace photo {
 namespace {
 
 constexpr double kDotsPerInch = 300;
-constexpr double kUsualDensity = 200;  ///< that CUPS takes for a picture that says none
+constexpr double kUsualDensity = 200;  ///< what CUPS assumes for a picture without a density
 
 struct Size {
   double width;
@@ -34,7 +34,7 @@ Size filling(const PhotoShape& photo, const Size& page) {
   return scaled(size, std::max(page.width / size.width, page.height / size.height));
 }
 
-// As large as the density says, the job's or the photo's own.
+// The size by the density that the job says, or else by the photo's own.
 Size natural(const PhotoShape& photo, const JobWishes& wishes) {
   const bool own = photo.perInchAcross > 0 && photo.perInchDown > 0;
   double across = own ? photo.perInchAcross : kUsualDensity;
@@ -47,7 +47,7 @@ Size natural(const PhotoShape& photo, const JobWishes& wishes) {
           static_cast<double>(photo.height) * kDotsPerInch / down};
 }
 
-// Dots that the whole photo would take if paper had no end.
+// The size of the whole photo in dots; it may be larger than the page.
 Size whole_size(const PhotoShape& photo, const Size& page, const JobWishes& wishes) {
   constexpr double kPercent = 100;
   switch (wishes.scaling) {
@@ -67,7 +67,7 @@ Size whole_size(const PhotoShape& photo, const Size& page, const JobWishes& wish
   }
 }
 
-// What of the photo one page shows, were it laid out so: more is better.
+// How much of the page the photo would cover when it is laid out like this.
 double shown(const PhotoShape& photo, const Size& page, const JobWishes& wishes) {
   if (wishes.scaling == Scaling::Natural || wishes.scaling == Scaling::Spread) {
     const Size size = whole_size(photo, page, wishes);
@@ -98,8 +98,7 @@ int choose_turn(const PhotoShape& photo, const Size& page, const JobWishes& wish
   }
 }
 
-// One direction of a placing: the part of a photo `pixels` long that is `dots` long on paper, and
-// its place on a page `room` long.
+// One direction of a placing: which pixels are printed, and on which dots.
 struct Stretch {
   double from;
   double length;
@@ -111,12 +110,14 @@ std::size_t whole(double dots, std::size_t most) {
   return std::clamp<std::size_t>(static_cast<std::size_t>(std::lround(dots)), 1, most);
 }
 
-// Share of what is over that comes before: nothing, half, or all of it.
+// The share of the free or cut length that is left or above: 0, a half or 1.
 double share_before(int position) {
   constexpr double kHalf = 0.5;
   return kHalf * (1 + position);
 }
 
+// Places `pixels` of the photo from `begin` on, which are `dots` long on paper, on a page that is
+// `room` dots long.
 Stretch place(double begin, double pixels, double dots, std::size_t room, int position) {
   const double before = share_before(position);
   const auto roomDots = static_cast<double>(room);
@@ -129,8 +130,8 @@ Stretch place(double begin, double pixels, double dots, std::size_t room, int po
           length};
 }
 
-// Pages side by side that a length in dots takes. A length that is over by less than a dot is not
-// worth another sheet.
+// How many pages side by side a length in dots takes. Less than a dot more is not worth another
+// sheet.
 std::size_t pages_for(double dots, std::size_t room) {
   const double pages = std::ceil((dots - 1) / static_cast<double>(room));
   return static_cast<std::size_t>(std::clamp(pages, 1.0, static_cast<double>(kPagesMost + 1)));

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Which part of a photo comes to which dots of the page. The photo is meant upright here, as one
-// looks at it, and the page as it lies under it; how both are turned for the sheet is said beside.
+// Which part of the photo is printed on which dots of the page. All places are those of the upright
+// photo, on a page that is turned the same way. Layout::turn says how the finished page is turned
+// to be the sheet's.
 #ifndef TQR7_PHOTO_LAYOUT_H
 #define TQR7_PHOTO_LAYOUT_H
 
@@ -21,22 +22,22 @@ struct DotArea {
   std::size_t height;
 };
 
-/// A part of the photo and where it goes.
+/// A part of the photo, and the dots that it is printed on.
 struct Placing {
   PictureArea from;
   DotArea to;
 };
 
 struct Layout {
-  std::size_t pageWidth;   ///< dots, as one looks at the upright photo
+  std::size_t pageWidth;   ///< dots of the page under the upright photo
   std::size_t pageHeight;  ///< the same
-  /// How that page is turned to be the sheet's, as Exif counts orientations: 1 not at all, 8 a
-  /// quarter to the left, 6 to the right, 3 upside down.
+  /// The page's turn in Exif's numbers: 1 is none, 8 a quarter to the left, 6 a quarter to the
+  /// right, 3 upside down.
   int turn;
-  std::vector<Placing> pages;  ///< one each; none when the photo would need too many
+  std::vector<Placing> pages;  ///< empty when the photo would need more than kPagesMost
 };
 
-/// The shape of an upright photo.
+/// The size and density of an upright photo.
 struct PhotoShape {
   std::size_t width;
   std::size_t height;
@@ -44,15 +45,16 @@ struct PhotoShape {
   double perInchDown;    ///< the same
 };
 
-/// How many times as wide as high the photo's pixels are printed. What a file says beyond twice or
-/// half is an error of its own and would distort the photo: such pixels count as square.
+/// The width of the photo's pixels as a multiple of their height. A file that says more than 2 or
+/// less than a half is taken to be wrong: its pixels count as square.
 double pixel_aspect(const PhotoShape& photo);
 
-/// Pages that one photo may be spread over.
+/// The most pages that one photo may take.
 inline constexpr std::size_t kPagesMost = 100;
 
-/// A photo whose shape is this near to the page's fills it when it is to fit: hairlines of white at
-/// two edges look like a fault, and less than half a millimetre of the photo is lost.
+/// A photo that fits the page to within this share of its width and height covers it instead. White
+/// hairlines at two edges would look like a fault, and less than half a millimetre of the photo is
+/// lost.
 inline constexpr double kNearlyThePage = 0.005;
 
 /// Lays out a photo on a page of this many dots.

@@ -35,7 +35,7 @@ LightTables make_light_tables(bool light) {
         static_cast<std::uint16_t>(std::lround(sample_of(static_cast<double>(i), light)));
   }
   tables.toNumber.resize(kSamples);
-  // The border between two numbers is what the number between them would be.
+  // The border between two numbers is the sample of the number half-way between them.
   constexpr double kHalf = 0.5;
   std::size_t sample = 0;
   for (std::size_t number = 0; number < tables.toSample.size(); ++number) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// 8-bit sRGB numbers as 16-bit samples to calculate with, and back.
+// Tables from 8-bit sRGB numbers to 16-bit samples for calculations, and back.
 #ifndef TQR7_PHOTO_LIGHT_TABLES_H
 #define TQR7_PHOTO_LIGHT_TABLES_H
 
@@ -15,8 +15,8 @@ struct LightTables {
   std::vector<std::uint8_t> toNumber;  ///< for each of the 65536 samples
 };
 
-/// Samples are amounts of light when `light`, and the numbers themselves, spread, otherwise. A
-/// number comes back as it was.
+/// With `light`, samples are amounts of light; without, they are the numbers times 257. Each number
+/// that is converted to a sample and back is unchanged.
 LightTables make_light_tables(bool light);
 
 }  // namespace photo

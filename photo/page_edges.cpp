@@ -13,18 +13,17 @@ constexpr std::uint8_t kWhite = 0xFF;
 
 long to_dots(double points) {
   constexpr double kDotsPerPoint = 300.0 / 72;
-  constexpr double kSheetMost = 100'000;  // points; whatever a header says beyond is no place
+  constexpr double kSheetMost = 100'000;  // points; no sheet is larger, whatever a header says
   return std::lround(std::clamp(std::isfinite(points) ? points : 0, -kSheetMost, kSheetMost) *
                      kDotsPerPoint);
 }
 
-// On the page, or, where a length is over, around it.
+// The corner nearest to this one where a smaller length is all on the page and a larger covers it.
 long inside(long corner, long length, long room) {
   return std::clamp(corner, std::min(0L, room - length), std::max(0L, room - length));
 }
 
-// At both ends of `count` lines: how many are white, and the next one copied into them unless it is
-// white itself.
+// At each end of `count` lines: when at most kBlankLines are white, copies the next line into them.
 template <typename IsWhite, typename Copy>
 void fill_blank(std::size_t count, const IsWhite& isWhite, const Copy& copy) {
   const auto blank = [&](const auto& lineAt) {

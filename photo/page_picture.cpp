@@ -20,7 +20,6 @@ using language::filled;
 
 constexpr std::size_t kColours = 3;
 
-// The photo as one looks at it.
 PhotoShape upright_shape(const PhotoFacts& facts) {
   PhotoShape shape{facts.width, facts.height, 0, 0};
   if (facts.density.IsKnown()) {
@@ -34,8 +33,8 @@ PhotoShape upright_shape(const PhotoFacts& facts) {
   return shape;
 }
 
-// Reading a JPEG at half its size takes half the time, and costs nothing of the print as long as
-// there are twice as many pixels as dots.
+// A JPEG read at half its size takes half the time. The print stays as sharp as long as there are
+// still two pixels to a dot.
 unsigned choose_reduction(const PictureArea& area, const Picture& result) {
   constexpr unsigned kMost = 8;
   constexpr double kSpare = 2;
@@ -58,7 +57,7 @@ PictureArea in_pixels_read(PictureArea area, const PhotoFacts& facts, std::size_
   return {area.left * across, area.top * down, area.width * across, area.height * down};
 }
 
-// The part of the photo, as it lies in the file, in the dots that it will have.
+// Reads a part of the photo and brings it to its size in dots. It is still turned as in the file.
 std::string read_part(PhotoRows& reader, const PhotoFacts& facts, const PictureArea& area,
                       PagePicture& page, Picture& part) {
   std::size_t width = 0;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// From a photo's file to its pages, in two steps: read what the file says and lay the photo out,
-// then make one page after the other.
+// From a photo's file to its pages, in two steps: plan_pages reads what the file says and lays the
+// photo out, make_page makes one of the pages. phototopage prints them; tqr7 check judges and draws
+// the same.
 #ifndef TQR7_PHOTO_PAGE_PICTURE_H
 #define TQR7_PHOTO_PAGE_PICTURE_H
 
@@ -22,8 +23,8 @@ struct PlannedPhoto {
   Layout layout;     ///< has a page at least
 };
 
-/// Reads what the file says of its picture, and lays the photo out on pages of this many dots.
-/// Returns why it cannot be printed, or nothing.
+/// Reads what the file says about its picture, and lays the photo out on pages of this many dots.
+/// Returns why the photo cannot be printed, or nothing.
 std::string plan_pages(std::FILE* file, std::size_t pageWidth, std::size_t pageHeight,
                        const JobWishes& wishes, PlannedPhoto& plan);
 

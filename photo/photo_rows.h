@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A photo read row by row, as its file has it: neither turned nor in other colours. Nothing of the
-// file need be right.
+// Reads a photo row by row, as it is in its file: not yet turned, and in the file's own colours.
+// The file may be broken anywhere.
 #ifndef TQR7_PHOTO_PHOTO_ROWS_H
 #define TQR7_PHOTO_PHOTO_ROWS_H
 
@@ -21,14 +21,14 @@ struct CloseFile {
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
 
-/// More pixels than any camera takes: what claims to have more is not read.
+/// No camera takes more pixels: a file that claims to have more is not read.
 inline constexpr std::size_t kPixelsMost = 250'000'000;
-inline constexpr std::size_t kSideMost = 65'500;  ///< pixels; JPEG has no more either
+inline constexpr std::size_t kSideMost = 65'500;  ///< pixels; the most that JPEG can have
 
-/// Why a photo is not printed that is all right: the machine's fault, not the file's.
+/// The one reason that is not the photo's fault.
 inline constexpr char kNoMemory[] = "there is too little memory";
 
-/// What the samples of a row count.
+/// What the samples of a row are amounts of.
 enum class Samples : std::uint8_t {
   Rgb,          ///< red, green, blue
   Grey,         ///< light
@@ -36,32 +36,31 @@ enum class Samples : std::uint8_t {
   CmykInverted  ///< the same, 0 is full
 };
 
-/// Bytes of a pixel.
 std::size_t bytes_per_pixel(Samples samples);
 
-/// Light of a file that has no profile but says itself what its numbers mean.
+/// The colours of a file that says in numbers, not by a profile, what its samples mean.
 struct Primaries {
-  double red[2];    ///< x, y of the colour
+  double red[2];    ///< x, y
   double green[2];  ///< the same
   double blue[2];   ///< the same
   double white[2];  ///< the same
 };
 
-/// What the file says of its picture.
+/// What the file says about its picture.
 struct PhotoFacts {
-  std::size_t width = 0;   ///< pixels, as they lie in the file
+  std::size_t width = 0;   ///< pixels, before the picture is turned
   std::size_t height = 0;  ///< the same
   Samples samples = Samples::Rgb;
   PixelDensity density;
   int orientation = 1;                ///< Exif's, 1 to 8
   std::vector<std::uint8_t> profile;  ///< ICC; empty where there is none
-  bool adobeRgb = false;              ///< no profile, but the camera's mark for Adobe RGB
-  double gamma = 0;                   ///< exponent from sample to light; 0 where it is not said
+  bool adobeRgb = false;              ///< the camera has marked it as Adobe RGB
+  double gamma = 0;                   ///< exponent from sample to light; 0 where it is unknown
   bool hasPrimaries = false;
   Primaries primaries{};
 };
 
-/// A file being read: Open, then Begin, then Row until all are read.
+/// A file that is being read: call Open, then Begin, then Row for each row.
 class PhotoRows {
  public:
   PhotoRows() = default;
@@ -69,25 +68,26 @@ class PhotoRows {
   PhotoRows(const PhotoRows&) = delete;
   PhotoRows& operator=(const PhotoRows&) = delete;
 
-  /// Reads what comes before the pixels. Says why not, or nothing.
+  /// Reads what comes before the pixels. Returns why it cannot, or nothing; so do the others.
   virtual std::string Open(PhotoFacts& facts) = 0;
 
-  /// Begins with the pixels. Of a picture that may be read smaller, to save time, at most one of
-  /// `reduction` pixels is left out in each direction; `width` and `height` tell what comes.
+  /// Begins with the pixels. To save time, a JPEG is read at a fraction of its size: `reduction` is
+  /// 1, 2, 4 or 8, and one pixel stands for that many in each direction. PNG ignores it. `width`
+  /// and `height` are the size in which the rows come.
   virtual std::string Begin(unsigned reduction, std::size_t& width, std::size_t& height) = 0;
 
-  /// The next row.
+  /// Reads the next row.
   virtual std::string Row(std::uint8_t* samples) = 0;
 };
 
-/// The reader for the file's first bytes; null for what is neither JPEG nor PNG. The file stays
-/// open as long as the reader lives, and is read from its beginning.
+/// Returns a reader for the file's format, or null when it is neither JPEG nor PNG. It reads from
+/// the file's beginning; the file must stay open as long as the reader lives.
 std::unique_ptr<PhotoRows> find_reader(std::FILE* file);
 
 std::unique_ptr<PhotoRows> read_jpeg_rows(std::FILE* file);
 std::unique_ptr<PhotoRows> read_png_rows(std::FILE* file);
 
-/// Why no picture of this size is read; empty when it is.
+/// Returns why a picture of this size is not read, or nothing.
 std::string refuse_size(std::size_t width, std::size_t height);
 
 }  // namespace photo

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// phototopage: a photo as the printer's pages. The scheduler runs it on JPEG and PNG files of this
-// printer's queues, and the printer's own filter takes what it writes.
+// phototopage: makes the printer's pages of a photo. The scheduler runs it for JPEG and PNG files,
+// ahead of the printer's own filter.
 #include <cups/cups.h>
 #include <unistd.h>
 
@@ -25,7 +25,7 @@ int fail(const char* why) {
   return photo::say_not_printed("photo", why);
 }
 
-// A photo is read more than once; a pipe can only be read once.
+// A photo is read several times, which a pipe cannot be.
 photo::File copy_input() {
   std::array<char, 1024> name{};
   const int descriptor = cupsTempFd(name.data(), static_cast<int>(name.size()));

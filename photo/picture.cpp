@@ -12,8 +12,8 @@ namespace {
 
 constexpr std::size_t kColours = 3;
 
-// What each orientation does to a place of the upright picture to find it in the file: first
-// exchange across and down, then count from the other end.
+// How each orientation leads from a place in the upright picture to the same place in the file:
+// first across and down are exchanged, then counted from the other end.
 struct Way {
   bool swapped;
   bool fromRight;   ///< of the file's picture

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A picture in memory: turned and mirrored by Exif's eight orientations, and written as PNG.
+// A picture in memory: how it is turned and mirrored by Exif's eight orientations, and written as
+// PNG.
 #ifndef TQR7_PHOTO_PICTURE_H
 #define TQR7_PHOTO_PICTURE_H
 
@@ -33,13 +34,13 @@ struct PictureArea {
   double height;
 };
 
-/// Whether a picture of this orientation has width and height exchanged.
+/// Whether width and height are exchanged when a picture of this orientation is turned upright.
 constexpr bool swaps_sides(int orientation) {
   constexpr int kFirstSwapped = 5;
   return orientation >= kFirstSwapped;
 }
 
-/// The orientation that undoes this one.
+/// The orientation that turns a picture back.
 constexpr int opposite(int orientation) {
   constexpr int kQuarterRight = 6;
   constexpr int kQuarterLeft = 8;
@@ -48,11 +49,11 @@ constexpr int opposite(int orientation) {
                                        : orientation;
 }
 
-/// The picture as it must be seen, when `orientation`, 1 to 8, says how it lies.
+/// Returns the picture upright; `orientation`, 1 to 8, says how it is turned now.
 Picture turned(const Picture& picture, int orientation);
 
-/// The part of a picture as it lies in its file, width x height pixels, which is this part when it
-/// is seen upright.
+/// Returns where a part of the upright picture is in the file, whose picture has width x height
+/// pixels and this orientation.
 PictureArea area_in_file(const PictureArea& upright, std::size_t width, std::size_t height,
                          int orientation);
 

@@ -18,7 +18,7 @@ constexpr std::size_t kChunksKept = 1000;
 constexpr std::size_t kWhite = 255;
 constexpr std::size_t kColours = 3;
 
-// A picture that appears in steps is only whole when all is read, and must be held until then.
+// An interlaced picture is complete only when all of it is read, and is held in memory until then.
 constexpr std::size_t kSteppedMost = 50'000'000;
 
 class PngRows : public PhotoRows {
@@ -33,7 +33,7 @@ class PngRows : public PhotoRows {
   std::string Row(std::uint8_t* samples) override;
 
  private:
-  // Nothing with a destructor lives in these frames: libpng leaves them by a jump.
+  // libpng leaves these functions by a jump, so they have no objects with destructors.
   bool ReadHeader();
   bool Prepare();
   bool ReadRow(std::uint8_t* row);
@@ -52,10 +52,10 @@ class PngRows : public PhotoRows {
   png_infop info_ = nullptr;
   std::size_t width_ = 0;
   std::size_t height_ = 0;
-  std::size_t channels_ = 0;  ///< of a row as libpng gives it
+  std::size_t channels_ = 0;  ///< in libpng's rows
   std::size_t next_ = 0;      ///< row
   std::vector<std::uint8_t> row_;
-  std::vector<std::uint8_t> all_;  ///< of a picture that appears in steps
+  std::vector<std::uint8_t> all_;  ///< rows of an interlaced picture
   std::array<char, 200> message_{};
 };
 
@@ -90,7 +90,7 @@ void PngRows::TakeDensity(PhotoFacts& facts) const {
   }
 }
 
-// A profile counts most, then the word that the picture is sRGB, then numbers.
+// A profile counts before the chunk that says sRGB, and that before gamma and primaries.
 void PngRows::TakeColours(PhotoFacts& facts) const {
   png_charp name = nullptr;
   int method = 0;
@@ -141,7 +141,7 @@ std::string PngRows::Open(PhotoFacts& facts) {
   return {};
 }
 
-// Eight bits a sample, no palette.
+// Has libpng write eight bits a sample, without a palette.
 bool PngRows::Prepare() {
   if (setjmp(png_jmpbuf(png_)) != 0) {  // NOLINT(cert-err52-cpp)
     return false;
@@ -195,7 +195,7 @@ std::string PngRows::Begin(unsigned /*reduction*/, std::size_t& width, std::size
   return ReadAll() ? std::string() : Why();
 }
 
-// What is transparent lies on white paper.
+// Transparent pixels show the white paper.
 void PngRows::PutOnWhite(std::uint8_t* samples) const {
   const std::size_t colours = channels_ < kColours ? 1 : kColours;
   if (channels_ == colours) {

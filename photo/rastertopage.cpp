@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// rastertopage: what the system's own filters have drawn as whole pages of the printer. The
-// scheduler runs it before the printer's filter, which takes a raster page from its first dot on
-// and leaves white what is missing.
+// rastertopage: makes the printer's pages of raster pages that the system's own filters have drawn
+// in other sizes. The scheduler runs it ahead of the printer's own filter, which does not move
+// pages: it takes each from its first dot on and leaves the rest white.
 #include <cups/cups.h>
 #include <fcntl.h>
 #include <unistd.h>
@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr unsigned kSideMost = 65'500;  ///< dots; nothing that is drawn for a page has more
+constexpr unsigned kSideMost = 65'500;  ///< dots; no page needs more
 constexpr unsigned kBitsPerColour = 8;
 constexpr unsigned kBytesPerPixel = 3;
 constexpr unsigned kLineMost = 4 * kSideMost;  ///< bytes
@@ -26,7 +26,7 @@ int fail(const char* why) {
   return photo::say_not_printed("pages", why);
 }
 
-// What the printer's filter takes; it says itself what is wrong with anything else.
+// Whether the printer's filter takes such pages.
 bool is_plain_rgb(const cups_page_header2_t& header) {
   return header.cupsBitsPerColor == kBitsPerColour &&
          header.cupsBitsPerPixel == kBytesPerPixel * kBitsPerColour &&
@@ -62,7 +62,7 @@ bool read_page(cups_raster_t* input, const cups_page_header2_t& header, const ph
   return true;
 }
 
-// The header keeps what the drawing filter has said, but for the page's size.
+// The drawing filter's header with the size of the printer's page.
 cups_page_header2_t resized(const cups_page_header2_t& header, const photo::JobPage& page) {
   cups_page_header2_t result = header;
   result.cupsWidth = page.header.cupsWidth;

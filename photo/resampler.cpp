@@ -18,12 +18,12 @@ namespace photo {
 namespace {
 
 constexpr std::size_t kPlanes = 3;
-constexpr std::size_t kAlignment = 64;   ///< bytes, as zimg wants its planes on any processor
-constexpr std::size_t kStripDots = 128;  ///< rows of the result that are made at a time, at most
+constexpr std::size_t kAlignment = 64;   ///< bytes; enough for zimg on every processor
+constexpr std::size_t kStripDots = 128;  ///< rows of the result that are made at a time
 constexpr double kStripMemory =
-    48.0 * 1024 * 1024;  ///< bytes, where a row of the result needs less
-constexpr double kMemoryMost = 256.0 * 1024 * 1024;  ///< bytes; what needs more is refused
-constexpr double kFilterRadius = 3;  ///< rows that the filter looks at, to each side
+    48.0 * 1024 * 1024;  ///< bytes; only a strip of a single row may take more
+constexpr double kMemoryMost = 256.0 * 1024 * 1024;  ///< bytes; a photo that needs more is refused
+constexpr double kFilterRadius = 3;                  ///< rows that the filter reads on each side
 
 struct FreeMemory {
   void operator()(void* memory) const { std::free(memory); }
@@ -56,7 +56,7 @@ class Planes {
 
   std::size_t StrideBytes() const { return stride_ * sizeof(std::uint16_t); }
 
-  // Moves rows to the beginning.
+  // Moves `count` rows to the beginning.
   void KeepFrom(std::size_t first, std::size_t count) const {
     for (std::size_t plane = 0; plane < kPlanes && first > 0; ++plane) {
       std::memmove(Row(plane, 0), Row(plane, first), count * StrideBytes());
@@ -69,7 +69,7 @@ class Planes {
   std::size_t rows_ = 0;
 };
 
-// Rows of the picture that a strip of the result is made from.
+// A strip of the result, and the rows of the picture that it is made from.
 struct Strip {
   std::size_t firstDot;
   std::size_t dots;
@@ -100,7 +100,7 @@ class Resampling {
   double RowBytes() const { return static_cast<double>(kPlanes * sizeof(std::uint16_t) * width_); }
   /// Rows of the picture to a row of the result.
   double Step() const { return area_.height / static_cast<double>(result_.height); }
-  /// Rows of the picture that count beyond a strip's ends.
+  /// Rows of the picture that a strip needs above its top and below its bottom.
   double Reach() const { return kFilterRadius * std::max(1.0, Step()) + 1; }
   Strip StripAt(std::size_t firstDot) const;
   std::string Fill(const Strip& strip);
@@ -119,8 +119,8 @@ class Resampling {
   std::vector<std::uint8_t> rgb_;  ///< a row of the picture
   Planes from_;
   Planes to_;
-  std::size_t firstRow_ = 0;  ///< of the picture that is in from_
-  std::size_t endRow_ = 0;    ///< the next one to be read
+  std::size_t firstRow_ = 0;  ///< the first row of the picture that is in from_
+  std::size_t endRow_ = 0;    ///< the next row to be read
 };
 
 Strip Resampling::StripAt(std::size_t firstDot) const {
@@ -145,7 +145,7 @@ void Resampling::Unpack(std::size_t row) {
   }
 }
 
-// Lets go of the rows above the strip, and reads those that it has more than the last.
+// Drops the rows that the strip does not need any more, and reads those that it needs besides.
 std::string Resampling::Fill(const Strip& strip) {
   const std::size_t gone = std::min(strip.firstRow, endRow_) - firstRow_;
   from_.KeepFrom(gone, endRow_ - firstRow_ - gone);

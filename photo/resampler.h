@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A part of a picture brought to a size in dots. The picture passes by row by row, so that only a
-// strip of it is in memory, whatever its size.
+// Brings a part of a picture to a size in dots. The picture is read row by row, and only a strip of
+// it is in memory, however large it is.
 //
-// What is made smaller is averaged as light, as the eye does with paper: averaging the numbers of
-// sRGB, which are no amounts of light, would darken fine patterns. What is made larger keeps to the
-// numbers, whose steps look even: overshoots beside an edge are then equally faint on both sides.
+// A smaller picture is made of averages of light, as the eye does it with paper: averages of sRGB
+// numbers, which are no amounts of light, would darken fine patterns. A larger picture is made of
+// the numbers, because their steps look even: overshoots at an edge are equally faint on both
+// sides.
 #ifndef TQR7_PHOTO_RESAMPLER_H
 #define TQR7_PHOTO_RESAMPLER_H
 
@@ -19,11 +20,12 @@
 
 namespace photo {
 
-/// Writes the next row of the picture, 8-bit sRGB, or says why there is none.
+/// Writes the next row of the picture, 8-bit sRGB. Returns why it cannot, or nothing.
 using NextRow = std::function<std::string(std::uint8_t* rgb)>;
 
-/// Brings `area` of a picture of width x height pixels, which `next` gives from its first row on,
-/// to the size that `result` has. Says why not, or nothing. Rows below the area are not asked for.
+/// Brings `area` of a picture of width x height pixels to the size of `result`. `next` is called
+/// for each row from the first on, but not for rows below the area. Returns why it cannot, or
+/// nothing.
 std::string resample(std::size_t width, std::size_t height, const PictureArea& area,
                      const NextRow& next, Picture& result);
 

@@ -19,7 +19,7 @@ constexpr std::size_t kColours = 3;
 constexpr std::size_t kInks = 4;
 constexpr unsigned kFull = 255;
 
-// What a transform is made from, and what comes of it.
+// What a transform is made from, and the transform.
 struct Making {
   const PhotoFacts* facts;
   void* transform;  ///< null where the samples are sRGB already
@@ -38,15 +38,14 @@ cmsUInt32Number format_of(Samples samples) {
   }
 }
 
-// Files that say sRGB in numbers round them: a gamma of 45455/100000, chromaticities to a few
-// thousandths.
+// Files that say sRGB in numbers round them: gamma to 45455/100000, chromaticities to thousandths.
 bool is_near(double one, double other, double most) {
   return std::abs(one - other) <= most;
 }
 
 constexpr Primaries kSrgb = {{0.64, 0.33}, {0.30, 0.60}, {0.15, 0.06}, {0.3127, 0.3290}};
 constexpr Primaries kAdobeRgb = {{0.64, 0.33}, {0.21, 0.71}, {0.15, 0.06}, {0.3127, 0.3290}};
-constexpr double kAdobeGamma = 563.0 / 256;  // what Adobe RGB (1998) has
+constexpr double kAdobeGamma = 563.0 / 256;  // of Adobe RGB (1998)
 constexpr double kUsualGamma = 2.2;
 
 bool is_near(const Primaries& one, const Primaries& other) {
@@ -72,7 +71,7 @@ void* make_rgb_profile(cmsContext context, const Primaries& primaries, double ga
   return curve != nullptr ? cmsCreateRGBProfileTHR(context, &white, &rgb, curves) : nullptr;
 }
 
-// The profile that the file's other words come to; null when they are none, or sRGB.
+// Returns a profile of the file's marks and numbers; null when it has none, or they say sRGB.
 void* profile_of_marks(cmsContext context, const PhotoFacts& facts) {
   if (facts.samples != Samples::Rgb && facts.samples != Samples::Grey) {
     return nullptr;
@@ -97,11 +96,11 @@ void* profile_of_marks(cmsContext context, const PhotoFacts& facts) {
   return make_rgb_profile(context, primaries, known ? facts.gamma : kUsualGamma);
 }
 
-// Four levels of each colour, every mixture of them.
+// All mixtures of four levels of each colour.
 constexpr std::size_t kLevels = 4;
 constexpr std::size_t kTests = kLevels * kLevels * kLevels;
 
-// Whether the transform changes no colour by more than profiles of the same name differ.
+// Whether the transform is as good as none: profiles of the same name differ as much.
 bool changes_nothing(void* transform) {
   constexpr std::size_t kStep = 85;
   constexpr int kStepsMost = 2;
@@ -126,12 +125,12 @@ void* make_transform(cmsContext context, void* profile, Samples samples) {
   if (profile == nullptr || screen == nullptr) {
     return nullptr;
   }
-  // Refuses a profile of another kind of samples than the format's.
+  // Fails when the profile is for another kind of samples.
   return cmsCreateTransformTHR(context, profile, format_of(samples), screen, TYPE_RGB_8,
                                INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_BLACKPOINTCOMPENSATION);
 }
 
-// All that is made belongs to the context and goes with it.
+// All that these make belongs to the context and is freed with it.
 const char* make_from_profile(cmsContext context, void* argument) {
   Making& making = *static_cast<Making*>(argument);
   const PhotoFacts& facts = *making.facts;
@@ -158,7 +157,7 @@ const char* make_from_marks(cmsContext context, void* argument) {
   return nullptr;
 }
 
-// Ink without a profile: what is left of the light when each lies over the others.
+// Ink without a profile: the light that is left when it passes through all inks.
 void inks_to_rgb(const std::uint8_t* samples, std::uint8_t* rgb, std::size_t pixels,
                  bool inverted) {
   for (std::size_t x = 0; x < pixels; ++x, samples += kInks, rgb += kColours) {

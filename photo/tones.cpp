@@ -14,7 +14,7 @@ constexpr double kMost = 255;
 constexpr std::size_t kColours = 3;
 constexpr int kUnchanged = 100;  ///< per cent
 
-/// How bright red, green and blue look; their sum is 1.
+// How bright red, green and blue look; their sum is 1.
 constexpr std::array<double, kColours> kLuma = {0.2126, 0.7152, 0.0722};
 
 using Curve = std::array<std::uint8_t, 256>;
@@ -24,7 +24,7 @@ std::uint8_t to_byte(double value) {
   return static_cast<std::uint8_t>(std::lround(std::clamp(value, 0.0, kMost)));
 }
 
-// Gamma bends the tones between black and white, brightness moves all but white.
+// Gamma changes the tones between black and white, brightness all but white.
 Curve make_curve(double gamma, double brightness) {
   Curve curve{};
   for (std::size_t i = 0; i < curve.size(); ++i) {
@@ -44,7 +44,7 @@ Matrix make_saturation(double share) {
   return matrix;
 }
 
-// A turn about the line of greys.
+// Turns colours around the axis of greys.
 Matrix make_hue(double degrees) {
   constexpr double kHalfTurn = 180;
   const double angle = degrees * std::numbers::pi / kHalfTurn;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// What CUPS lets a job do to a picture's tones: gamma, brightness, saturation, hue, and black
-// and white.
+// Changes of tone that a job may ask for: gamma, brightness, saturation, hue, and black and white.
 #ifndef TQR7_PHOTO_TONES_H
 #define TQR7_PHOTO_TONES_H
 
@@ -13,7 +12,7 @@
 
 namespace photo {
 
-/// Changes the picture as the wishes say. White stays white; without wishes nothing changes.
+/// Changes the picture as the job wants it. White stays white.
 void apply_tones(const JobWishes& wishes, Picture& picture);
 
 /// Makes each pixel of 8-bit RGB the grey that looks as bright. Greys stay as they are.

@@ -57,7 +57,7 @@ int cannot(const std::string& why) {
   return kExitCannotTell;
 }
 
-// TRANSLATORS: "Photo:" to "Good:" stand below each other, each with a value behind it.
+// TRANSLATORS: "Photo:" to "Good:" are printed below each other, each followed by a value.
 constexpr const char* kPhoto = N_("Photo:");
 constexpr const char* kPaper = N_("Paper:");
 constexpr const char* kImageArea = N_("Image area:");

@@ -78,7 +78,7 @@ Sharpness judge_sharpness(double dotsPerInch) {
   return dotsPerInch >= kSoftFrom ? Sharpness::Soft : Sharpness::Coarse;
 }
 
-// TRANSLATORS: each stands in the sentence that says what the photo must be to be seen upright.
+// TRANSLATORS: each is a part of "the photo must be … to be seen upright".
 const char* orientation_words(int orientation) {
   using language::N_;
   switch (orientation) {

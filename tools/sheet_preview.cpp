@@ -17,7 +17,7 @@ constexpr Colour kLine = {0x40, 0x40, 0x40};
 constexpr double kDimmed = 0.3;  ///< what is left of a photo's colour outside the sheet
 constexpr double kMargin = 0.03;
 
-// In dots of the sheet, from its top left corner, or in pixels of the preview.
+// In dots, from the sheet's top left corner, or in pixels of the preview.
 template <typename Place>
 struct Box {
   Place left, top, right, bottom;
@@ -40,7 +40,7 @@ Dots printed_dots(const tagPAPERINFO& paper, const photo::DotArea& printed) {
           top + static_cast<double>(printed.height)};
 }
 
-// All of the photo, with what the sheet does not have of it.
+// The whole photo, with what is cut off.
 Dots whole_dots(const PhotoJob& job, const Dots& printed) {
   const photo::PhotoShape& shape = job.plan.shape;
   const auto lying = [&](const photo::PictureArea& area) {
@@ -56,7 +56,7 @@ Dots whole_dots(const PhotoJob& job, const Dots& printed) {
   return {left, top, left + all.width * across, top + all.height * down};
 }
 
-// From dots of the sheet to pixels of the preview.
+// Converts dots of the sheet to pixels of the preview.
 struct Frame {
   double left, top, dotsPerPixel;
   std::size_t width, height;
@@ -64,7 +64,7 @@ struct Frame {
   std::size_t Across(double dots) const { return Place(dots - left, width); }
   std::size_t Down(double dots) const { return Place(dots - top, height); }
 
-  // A pixel at least.
+  // At least a pixel.
   Pixels In(const Dots& box) const {
     const std::size_t x = Across(box.left);
     const std::size_t y = Down(box.top);
@@ -90,7 +90,7 @@ Frame frame_around(const Dots& sheet, const Dots& whole) {
   return {left - margin, top - margin, dots, pixels(width), pixels(height)};
 }
 
-// All of the photo in the pixels that it has in the preview, made as a page that it covers.
+// Makes a page that the whole photo covers, as large as the photo is in the preview.
 std::string make_whole(std::FILE* file, const PhotoJob& job, const Pixels& place,
                        photo::PagePicture& photo) {
   const photo::PhotoShape& shape = job.plan.shape;

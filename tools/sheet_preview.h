@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The sheet with a photo laid on it, to be looked at before it is printed: what is cut off shows
-// dimmed outside the sheet's edge, what stays white shows white.
+// Draws the sheet with a photo on it, as it will be printed. What is cut off is shown dimmed
+// outside the sheet's edge, and what stays white is white.
 #ifndef TQR7_TOOLS_SHEET_PREVIEW_H
 #define TQR7_TOOLS_SHEET_PREVIEW_H
 
