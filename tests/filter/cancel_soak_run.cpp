@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "bench/cancel_soak_run.h"
+#include "tests/filter/cancel_soak_run.h"
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>

@@ -14,8 +14,8 @@
 #include <random>
 #include <vector>
 
-#include "bench/cancel_soak_kinds.h"
-#include "bench/cancel_soak_run.h"
+#include "tests/filter/cancel_soak_kinds.h"
+#include "tests/filter/cancel_soak_run.h"
 #include "tests/filter/descriptors.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "bench/cancel_soak_kinds.h"
+#include "tests/filter/cancel_soak_kinds.h"
 
 #include <chrono>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // One job of the soak: runs it, sends SIGTERM, and judges how it ended.
-#ifndef TQR7_BENCH_CANCEL_SOAK_RUN_H
-#define TQR7_BENCH_CANCEL_SOAK_RUN_H
+#ifndef TQR7_TESTS_FILTER_CANCEL_SOAK_RUN_H
+#define TQR7_TESTS_FILTER_CANCEL_SOAK_RUN_H
 
 #include <map>
 #include <random>
@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "bench/cancel_soak_kinds.h"
+#include "tests/filter/cancel_soak_kinds.h"
 
 namespace cancel_soak {
 
@@ -45,4 +45,4 @@ Result CancelJob(const Kind& kind, const Sheets& sheets, const Undisturbed& undi
 
 }  // namespace cancel_soak
 
-#endif  // TQR7_BENCH_CANCEL_SOAK_RUN_H
+#endif  // TQR7_TESTS_FILTER_CANCEL_SOAK_RUN_H

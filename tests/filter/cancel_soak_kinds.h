@@ -2,8 +2,8 @@
 //
 // The kinds of jobs that the soak cancels: what the reader and the printer do, and when SIGTERM
 // comes.
-#ifndef TQR7_BENCH_CANCEL_SOAK_KINDS_H
-#define TQR7_BENCH_CANCEL_SOAK_KINDS_H
+#ifndef TQR7_TESTS_FILTER_CANCEL_SOAK_KINDS_H
+#define TQR7_TESTS_FILTER_CANCEL_SOAK_KINDS_H
 
 #include <array>
 #include <random>
@@ -53,4 +53,4 @@ std::chrono::microseconds RandomTime(std::mt19937& random, double seconds);
 
 }  // namespace cancel_soak
 
-#endif  // TQR7_BENCH_CANCEL_SOAK_KINDS_H
+#endif  // TQR7_TESTS_FILTER_CANCEL_SOAK_KINDS_H
