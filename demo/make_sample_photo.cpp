@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 // Writes the sample photo that the demonstration prints: make-sample-photo FILE.jpg
-#include <cmath>
 #include <cstdio>
 #include <memory>
 #include <vector>
@@ -23,11 +22,6 @@ struct FileCloser {
   void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
-unsigned char encoded(double light) {
-  const double v = light <= 0.0031308 ? light * 12.92 : 1.055 * std::pow(light, 1.0 / 2.4) - 0.055;
-  return static_cast<unsigned char>(std::lround(std::fmin(std::fmax(v, 0.0), 1.0) * 255.0));
-}
-
 Colour pixel_at(int column, int row) {
   Colour sum{};
   for (int i = 0; i < kSamples * kSamples; ++i) {
@@ -47,9 +41,9 @@ std::vector<unsigned char> line_at(int row) {
   line.reserve(static_cast<std::size_t>(kWidth) * 3);
   for (int column = 0; column < kWidth; ++column) {
     const Colour colour = pixel_at(column, row);
-    line.push_back(encoded(colour.red));
-    line.push_back(encoded(colour.green));
-    line.push_back(encoded(colour.blue));
+    line.push_back(screen_level(colour.red));
+    line.push_back(screen_level(colour.green));
+    line.push_back(screen_level(colour.blue));
   }
   return line;
 }

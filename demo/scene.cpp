@@ -213,3 +213,8 @@ Colour scene_at(double x, double y) {
   }
   return landscape(x, y);
 }
+
+unsigned char screen_level(double light) {
+  const double v = light <= 0.0031308 ? light * 12.92 : 1.055 * std::pow(light, 1.0 / 2.4) - 0.055;
+  return static_cast<unsigned char>(std::lround(std::clamp(v, 0.0, 1.0) * 255.0));
+}

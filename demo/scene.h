@@ -14,3 +14,6 @@ constexpr double kSceneHeight = 2.0;
 
 /// The colour of the scene at a point. The same for the same point, always.
 Colour scene_at(double x, double y);
+
+/// An amount of light 0 … 1 as the byte that sRGB has for it (IEC 61966-2-1).
+unsigned char screen_level(double light);

@@ -8,7 +8,7 @@ TQR7_PACKAGES=(
   g++ cmake ninja-build libcups2-dev libcupsimage2-dev libpng-dev libjpeg-dev libcli11-dev
   liblcms2-dev libhwy-dev libzimg-dev
   nlohmann-json3-dev libarchive-dev
-  libgtest-dev libgmock-dev cups-ppdc gettext locales strace tzdata valgrind
+  libgtest-dev libgmock-dev cups-ppdc gettext locales python3 strace tzdata valgrind
   cups cups-client cups-filters cups-ipp-utils ghostscript
 )
 
@@ -21,9 +21,9 @@ TQR7_FILTER_FOLDERS=(filter protocol status job image diag)
 # shellcheck disable=SC2034
 TQR7_FUZZ_PACKAGES=(clang libclang-rt-14-dev)
 
-# What bench/run needs besides.
+# What bench/run and bench/run-colour need besides.
 # shellcheck disable=SC2034
-TQR7_SPEED_PACKAGES=(libbenchmark-dev)
+TQR7_BENCH_PACKAGES=(gnuplot-nox libbenchmark-dev libjpeg-turbo-progs)
 
 # Prints those of the named packages that are not installed.
 missing_packages() {

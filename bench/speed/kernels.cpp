@@ -1,231 +1,158 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Prints what the inner loops of the filter and of the conversion take a pixel, as Markdown tables:
-// each beside a floor that only moves as many bytes. kernels [REPETITIONS]
-#include <fcntl.h>
-#include <unistd.h>
+// The inner loops of the filter and the conversion on a page of a photo, each beside a floor that
+// only moves as many bytes with the C library's memcpy, memset and memchr; and Little CMS on the
+// same page. A Google Benchmark program, whose words are its own: a loop is "NAME", its floor
+// "floor of NAME".
+#include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
-#include <deque>
-#include <exception>
+#include <cstring>
+#include <functional>
+#include <memory>
+#include <new>
+#include <string>
+#include <utility>
+#include <vector>
 
-#include "bench/little_cms_peers.h"
-#include "bench/page_conversion.h"
-#include "bench/speed/conversion_loops.h"
-#include "bench/speed/filter_loops.h"
-#include "bench/speed/kernel_race.h"
-#include "bench/table_printer.h"
-#include "bench/test_pictures.h"
-#include "conversion/compiled_targets.h"
-#include "conversion/processor.h"
+#include "bench/colour/page_conversion.h"
+#include "bench/colour/printer_colours.h"
+#include "bench/colour/test_pictures.h"
+#include "image/band_image.h"
 #include "model/printer_model.h"
-//
-#include <hwy/highway.h>
+#include "protocol/plane_transfer.h"
 
 namespace {
 
-using bench::Kernel;
-using bench::Moved;
-using bench::number;
+constexpr std::size_t kWidth = 1852;
+constexpr std::size_t kHeight = 1232;
+constexpr std::size_t kPixels = kWidth * kHeight;
+constexpr int kTopDown = -1;
 
-constexpr int kRepetitions = 9;
-constexpr int kFewestRepetitions = 3;
+using Work = std::function<void()>;
 
-/// Every loop of the run; those that a table shows are remembered by their place.
-class Field {
- public:
-  const Kernel* add(std::string name, std::size_t pixels, std::function<void()> work) {
-    return &kernels_.emplace_back(Kernel{std::move(name), pixels, std::move(work)});
-  }
-
-  void race(int repetitions) {
-    std::vector<Kernel*> all;
-    for (Kernel& kernel : kernels_) {
-      all.push_back(&kernel);
-    }
-    bench::race_kernels(all, repetitions);
-  }
-
- private:
-  std::deque<Kernel> kernels_;
-};
-
-/// A loop beside its floor.
-struct Pair {
+struct Loop {
   std::string name;
-  std::string floorName;
-  Moved moved;
-  const Kernel* loop;
-  const Kernel* floor;
+  Work work;
 };
 
-std::string bytes_of(const Moved& moved) {
-  return number(moved.read, 0) + " + " + number(moved.written, 0);
+/// All loops and floors. Google Benchmark calls a plain function, with a place here.
+std::vector<Loop>& loops() {
+  static std::vector<Loop> all;
+  return all;
 }
 
-bench::Table table_of(const std::vector<Pair>& pairs, const char* what, const char* floor) {
-  bench::Table table{{what, "bytes a pixel, read + written", "ns a pixel", "GB/s", floor,
-                      "ns a pixel", "times the floor"},
-                     {}};
-  for (const Pair& pair : pairs) {
-    const double taken = pair.loop->nanoseconds;
-    table.rows.push_back({pair.name, bytes_of(pair.moved), number(taken, 3),
-                          number(pair.moved.both() / taken, 1), pair.floorName,
-                          number(pair.floor->nanoseconds, 3),
-                          number(taken / pair.floor->nanoseconds, 2)});
+void run_loop(benchmark::State& state) {
+  const Loop& loop = loops()[static_cast<std::size_t>(state.range(0))];
+  for (auto pass : state) {
+    static_cast<void>(pass);
+    loop.work();
+    benchmark::ClobberMemory();
   }
-  return table;
+  state.SetLabel(loop.name);
+  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kPixels));
 }
 
-std::vector<Pair> add_filter(Field& field, bench::FilterLoops& loops) {
-  std::vector<Pair> pairs;
-  for (const bench::FilterLoop& loop : loops.all()) {
-    pairs.push_back({loop.name, loop.floorName, loop.moved,
-                     field.add(loop.name, loops.pixels(), loop.work),
-                     field.add(loop.floorName, loops.pixels(), loop.floor)});
-  }
-  return pairs;
-}
+benchmark::internal::Benchmark* const kRunLoop = benchmark::RegisterBenchmark("loop", run_loop);
 
-std::vector<Pair> add_conversion(Field& field, bench::ConversionLoops& loops) {
-  std::vector<Pair> pairs;
-  for (const bench::ConversionLoop& loop : loops.all()) {
-    pairs.push_back({loop.name, "the bytes moved", loop.moved,
-                     field.add(loop.name, loops.pixels(), loop.work),
-                     field.add("the bytes moved", loops.pixels(), loops.floor(loop.moved))});
-  }
-  return pairs;
-}
-
-/// A loop on each kind of processor that this one can play, best first.
-struct Row {
-  std::string name;
-  std::vector<const Kernel*> onTargets;
+/// Bytes of memory that a loop has to read and to write for a pixel: what stays in a cache, as
+/// tables and the buffer before a write do, is not counted.
+struct Moved {
+  std::size_t read;
+  std::size_t written;
 };
 
-std::string name_of(std::int64_t target) {
-  return target == 0 ? "every processor" : hwy::TargetName(target);
+tagMVBandImageParams made_band(int depth, std::int64_t height = kHeight) {
+  tagMVBandImageParams band{};
+  if (!CImageUtility::CreateBandImage(&band, {0, 0, kWidth, height}, depth, kTopDown)) {
+    throw std::bad_alloc();
+  }
+  return band;
 }
 
-std::vector<Row> add_targets(Field& field, bench::ConversionLoops& loops) {
-  std::vector<Row> rows;
-  for (const bench::ConversionLoop& loop : loops.all()) {
-    if (!loop.hasTargets) {
-      continue;
-    }
-    Row row{loop.name, {}};
-    for (const std::int64_t target : usable_targets()) {
-      const auto on_target = [target, work = loop.work] {
-        const std::int64_t best = processor_target();
-        use_target(target);
-        work();
-        use_target(best);
-      };
-      row.onTargets.push_back(field.add(loop.name, loops.pixels(), on_target));
-    }
-    rows.push_back(row);
-  }
-  return rows;
+/// Copies what is both read and written, and sets or reads through the rest. The memory is such as
+/// the loops have, and large enough for all of them.
+void move_bytes(const Moved& moved) {
+  static const tagMVBandImageParams from = made_band(kImageDepth, 2 * kHeight);
+  static const tagMVBandImageParams to = made_band(kImageDepth, 2 * kHeight);
+  const std::size_t copied = kPixels * std::min(moved.read, moved.written);
+  std::memcpy(to.pBits, from.pBits, copied);
+  std::memset(to.pBits + copied, 1, kPixels * moved.written - copied);
+  // There is no such byte: all of them are looked at.
+  benchmark::DoNotOptimize(std::memchr(from.pBits + copied, 0, kPixels * moved.read - copied));
 }
 
-void print_targets(const std::vector<Row>& rows) {
-  bench::Table table{{"ns a pixel"}, {}};
-  for (const std::int64_t target : usable_targets()) {
-    table.head.push_back(name_of(target));
-  }
-  for (const Row& row : rows) {
-    std::vector<std::string> cells{row.name};
-    for (const Kernel* kernel : row.onTargets) {
-      cells.push_back(number(kernel->nanoseconds, 3));
-    }
-    table.rows.push_back(cells);
-  }
-  bench::print_table(table);
+void add_loop(const std::string& name, const Moved& moved, Work work) {
+  loops().push_back({name, std::move(work)});
+  loops().push_back({"floor of " + name, [moved] { move_bytes(moved); }});
 }
 
-/// Whole pages, in memory that has been written before.
-class Pages {
- public:
-  Pages(Field& field, const bench::Picture& page)
-      : page_(page),
-        samples_(3 * page.pixels.size()),
-        sharpened_(page, {true, bench::kSharpnessNormal, {}, true, TQR7_MODULE_FOLDER}),
-        plain_(page, {true, bench::kSharpnessNone, {}, false, TQR7_MODULE_FOLDER}),
-        off_(page, {false, bench::kSharpnessNone, {}, false, TQR7_MODULE_FOLDER}) {
-    add(field, "ours: colour, sharpening, matte plane", {3, 7}, [this] { sharpened_.run(); });
-    add(field, "ours: colour", {3, 6}, [this] { plain_.run(); });
-    add(field, "ours: everything off", {3, 6}, [this] { off_.run(); });
-    add(field, "Little CMS: colour by a 33-point table", {3, 6},
-        [this] { table_.run(page_, samples_); });
-    add(field, "Little CMS: colour by matrix and curves", {3, 6},
-        [this] { curves_.run(page_, samples_); });
-  }
-
-  void print() const {
-    bench::Table table{{"A whole page", "ns a pixel", "GB/s", "ms"}, {}};
-    for (const auto& [kernel, moved] : rows_) {
-      table.rows.push_back(
-          {kernel->name, number(kernel->nanoseconds, 2),
-           number(moved.both() / kernel->nanoseconds, 1),
-           number(kernel->nanoseconds * static_cast<double>(kernel->pixels) / 1e6, 2)});
-    }
-    bench::print_table(table);
-  }
-
- private:
-  void add(Field& field, const char* name, Moved moved, std::function<void()> work) {
-    rows_.emplace_back(field.add(name, page_.pixels.size(), std::move(work)), moved);
-  }
-
-  const bench::Picture& page_;
-  std::vector<std::uint16_t> samples_;
-  bench::PageConversion sharpened_;
-  bench::PageConversion plain_;
-  bench::PageConversion off_;
-  bench::LittleCmsPeer table_ = bench::LittleCmsPeer::table(printer_model_profile());
-  bench::LittleCmsPeer curves_ = bench::LittleCmsPeer::matrix_and_curves(printer_model_profile());
-  std::vector<std::pair<const Kernel*, Moved>> rows_;
-};
-
-/// The filter's progress lines go where the scheduler is not.
-void close_the_log() {
-  const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
-  if (nowhere >= 0) {
-    dup2(nowhere, STDERR_FILENO);
-    close(nowhere);
-  }
+void add_filter() {
+  static tagMVBandImageParams image = made_band(kImageDepth);
+  static tagMVBandImageParams sheet = made_band(kImageDepth);
+  static tagMVBandImageParams matte = made_band(kMatteDepth);
+  static std::FILE* const nowhere = std::fopen("/dev/null", "wb");
+  add_loop("a joined sheet filled with white", {0, 6}, [] {
+    unsigned char white[] = {0xFF, 0x3F, 0xFF, 0x3F, 0xFF, 0x3F};
+    CImageUtility::FillBandImage(&sheet, kImageDepth, white);
+  });
+  add_loop("a page copied into a sheet", {6, 6},
+           [] { CImageUtility::CopyBandImage(&sheet, &image, kImageDepth); });
+  add_loop("an image staged and written to /dev/null", {6, 0},
+           [] { send_image_data(nowhere, &image); });
+  add_loop("a matte plane staged and written to /dev/null", {1, 0},
+           [] { send_matte_data(nowhere, &matte); });
 }
 
-void measure(int repetitions) {
-  const bench::Picture page = bench::photo(1852, 1232);
-  bench::FilterLoops filter(page);
-  bench::ConversionLoops conversion(page);
-  Field field;
-  const std::vector<Pair> filterPairs = add_filter(field, filter);
-  const std::vector<Pair> conversionPairs = add_conversion(field, conversion);
-  const std::vector<Row> targets = add_targets(field, conversion);
-  const Pages pages(field, page);
-  close_the_log();
-  field.race(repetitions);
+void add_conversion(const bench::Picture& page, const std::string& name, const Moved& moved,
+                    bench::PrintSettings settings) {
+  settings.module_folder = TQR7_MODULE_FOLDER;
+  const auto conversion = std::make_shared<bench::PageConversion>(page, std::move(settings));
+  add_loop(name, moved, [conversion] { conversion->run(); });
+}
 
-  std::printf("Medians of %d repetitions in a mixed order; a photo of %zu × %zu.\n\n", repetitions,
-              page.width, page.height);
-  bench::print_table(table_of(filterPairs, "The filter, on a page", "Floor"));
-  bench::print_table(table_of(conversionPairs, "The conversion, on lines in cache", "Floor"));
-  print_targets(targets);
-  pages.print();
+void add_conversions(const bench::Picture& page) {
+  add_conversion(page, "conversion: everything off", {3, 6}, {.colour_conversion = false});
+  add_conversion(page, "conversion: sharpening", {3, 6},
+                 {.colour_conversion = false, .sharpness = bench::kSharpnessNormal});
+  add_conversion(page, "conversion: tone", {3, 6},
+                 {.colour_conversion = false, .tone = {1, -1, 2, 10, 12, 14, -8, 5, 9}});
+  add_conversion(page, "conversion: matte plane", {3, 7},
+                 {.colour_conversion = false, .matte = true});
+  add_conversion(page, "conversion: colours", {3, 6}, {});
+  add_conversion(page, "conversion: colours, sharpening, matte plane", {3, 7},
+                 {.sharpness = bench::kSharpnessNormal, .matte = true});
+}
+
+/// Little CMS's own transform to the printer's 16-bit values.
+void add_little_cms(const bench::Picture& page, const std::string& name, cmsUInt32Number flags) {
+  static std::vector<std::uint16_t> samples(3 * kPixels);
+  const cms::Profile srgb(cmsCreate_sRGBProfile());
+  const std::shared_ptr<void> transform = bench::transform_between(
+      srgb, TYPE_RGB_8, bench::profile_of(printer_model_profile()), TYPE_RGB_16, flags);
+  add_loop(name, {3, 6}, [&page, transform] {
+    cmsDoTransform(transform.get(), page.pixels.data(), samples.data(),
+                   static_cast<cmsUInt32Number>(kPixels));
+  });
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  try {
-    measure(argc > 1 ? std::max(std::atoi(argv[1]), kFewestRepetitions) : kRepetitions);
-    return 0;
-  } catch (const std::exception& fault) {
-    std::printf("kernels: %s\n", fault.what());
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv) ||
+      std::freopen("/dev/null", "w", stderr) == nullptr) {  // the filter's progress lines
     return 1;
   }
+  const bench::Picture page = bench::photo(kWidth, kHeight);
+  add_filter();
+  add_conversions(page);
+  add_little_cms(page, "Little CMS: colours by a 33-point table",
+                 cmsFLAGS_FORCE_CLUT | cmsFLAGS_GRIDPOINTS(33) | cmsFLAGS_BLACKPOINTCOMPENSATION);
+  // Its fastest way for a matrix profile, which it does not take with black-point compensation.
+  add_little_cms(page, "Little CMS: colours by matrix and curves", 0);
+  kRunLoop->DenseRange(0, static_cast<std::int64_t>(loops().size()) - 1);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
 }

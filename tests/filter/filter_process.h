@@ -36,7 +36,6 @@ struct Job {
   std::string output_path = {};  ///< standard output is this file instead of the backend's pipe
   bool broken_pipe_is_an_error = false;     ///< SIGPIPE is ignored, so that a write fails instead
   StreamEnd stream_end = StreamEnd::Whole;  ///< what Finish holds the stream against
-  std::chrono::seconds longest_run{100};    ///< a filter that runs on is ended, and the test fails
 };
 
 /// What a run left behind.

@@ -9,13 +9,10 @@
 #include <numbers>
 #include <numeric>
 
-#include "bench/spectrum.h"
+#include "tests/unit/conversion/spectrum.h"
 #include "tests/unit/conversion/test_page.h"
 
 namespace {
-
-using bench::cut_out;
-using bench::Square;
 
 constexpr std::size_t kWidth = 20;
 constexpr std::size_t kHeight = 10;
