@@ -89,24 +89,4 @@ class Capture {
   Redirection redirection_;
 };
 
-/// Standard output on a full device: each flush fails, and without a buffer each write.
-class FullOutput {
- public:
-  explicit FullOutput(bool buffered) : device_(open("/dev/full", O_WRONLY)), out_(stdout, device_) {
-    std::setvbuf(stdout, nullptr, buffered ? _IOFBF : _IONBF, 0);
-  }
-  ~FullOutput() {
-    out_.Restore();
-    static std::array<char, 65536> buffer;
-    std::setvbuf(stdout, buffer.data(), _IOFBF, buffer.size());
-    close(device_);
-  }
-  FullOutput(const FullOutput&) = delete;
-  FullOutput& operator=(const FullOutput&) = delete;
-
- private:
-  int device_;
-  Redirection out_;
-};
-
 #endif  // TQR7_TESTS_UNIT_CAPTURE_H

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The module directory from the PPD's cupsFilter lines: real PPD files, and filter lists that no
-// PPD file could hold.
+// The module directory from the PPD's cupsFilter lines, also those that no PPD file could have.
 #include "filter/module_path.h"
 
 #include <gtest/gtest.h>
@@ -10,8 +9,6 @@
 #include <array>
 #include <string>
 #include <vector>
-
-#include "tests/unit/ppd_file.h"
 
 namespace {
 
@@ -40,16 +37,6 @@ Lookup Find(const ppd_file_t* ppd, int size = kBufferSize) {
   return lookup;
 }
 
-/// The lookup in a PPD with these cupsFilter lines.
-Lookup FindInPpd(const std::vector<std::string>& filters) {
-  std::string lines;
-  for (const std::string& filter : filters) {
-    lines += "*cupsFilter: \"" + filter + "\"\n";
-  }
-  PpdFile ppd(lines);
-  return Find(ppd.get());
-}
-
 /// The lookup in a filter list of any length, with a buffer of `size` bytes.
 Lookup FindInList(std::vector<std::string> filters, int size = kBufferSize) {
   std::vector<char*> pointers;
@@ -73,76 +60,59 @@ std::string DirectoryOfLength(std::size_t length) {
 
 }  // namespace
 
-TEST(ModulePath, IsTheFiltersDirectoryWithItsSlash) {
-  const Lookup lookup =
-      FindInPpd({"application/vnd.cups-raster 0 /opt/printer/filter/rastertoprinter"});
-  EXPECT_TRUE(lookup.found);
-  EXPECT_EQ(lookup.text, "/opt/printer/filter/");
-  EXPECT_TRUE(lookup.guard_intact);
+struct Lines {
+  const char* name;
+  std::vector<std::string> filters;
+  const char* directory;  ///< null: none
+};
+
+class ModulePathOf : public testing::TestWithParam<Lines> {};
+
+TEST_P(ModulePathOf, TheseLines) {
+  const Lookup lookup = FindInList(GetParam().filters);
+  EXPECT_EQ(lookup.found, GetParam().directory != nullptr);
+  EXPECT_EQ(lookup.untouched, !lookup.found);
+  EXPECT_EQ(lookup.text, lookup.found ? GetParam().directory : "");
 }
 
-TEST(ModulePath, AFilterInTheRootDirectoryHasTheRootsSlash) {
-  EXPECT_EQ(FindInPpd({"application/vnd.cups-raster 0 /rastertoprinter"}).text, "/");
-}
+const Lines kLines[] = {
+    {"None", {}, nullptr},
+    {"InTheRoot", {"application/vnd.cups-raster 0 /rastertoprinter"}, "/"},
+    {"Relative", {"application/vnd.cups-raster 0 sub/rastertoprinter"}, "sub/"},
+    {"FirstForRaster",
+     {"application/vnd.cups-pdf 0 /opt/pdf/filter", "application/vnd.cups-raster 0 /opt/a/filter",
+      "application/vnd.cups-raster 0 /opt/b/filter"},
+     "/opt/a/"},
+    {"FirstForRasterHasNone",
+     {"application/vnd.cups-raster 0 -", "application/vnd.cups-raster 0 /opt/b/filter"},
+     nullptr},
+    {"LetterCaseOfApplication", {"Application/vnd.cups-raster 0 /opt/a/filter"}, nullptr},
+    {"LetterCaseOfCups", {"application/vnd.CUPS-raster 0 /opt/a/filter"}, nullptr},
+    {"LongerType", {"application/vnd.cups-raster2 0 /opt/a/filter"}, nullptr},
+    {"ShorterType", {"application/vnd.cups-raste 0 /opt/a/filter"}, nullptr},
+    {"OverlongTypes",
+     {std::string(100000, 'a') + " 0 /opt/a/filter",
+      "application/vnd.cups-raster" + std::string(100000, 'a') + " 0 /opt/a/filter",
+      "application/vnd.cups-raster 0 /opt/b/filter"},
+     "/opt/b/"},
+    {"OverlongProgram",
+     {"application/vnd.cups-raster 0 /opt/" + std::string(100000, 'a') + "/rastertoprinter"},
+     nullptr},
+    {"MissingFields",
+     {"", "application/vnd.cups-raster", "application/vnd.cups-raster 0",
+      "application/vnd.cups-raster high /opt/a/filter",
+      "application/vnd.cups-raster 100 /opt/b/filter"},
+     "/opt/b/"},
+    {"ManyBlanks", {"  application/vnd.cups-raster\t -7 \n /opt/a/filter  more"}, "/opt/a/"},
+    {"PositiveCost", {"application/vnd.cups-raster +5 /opt/a/filter"}, "/opt/a/"},
+    {"SignWithoutCost", {"application/vnd.cups-raster + /opt/a/filter"}, nullptr},
+    {"BlankInTheProgram", {"application/vnd.cups-raster 0 /opt/my printer/filter"}, "/opt/"},
+};
 
-TEST(ModulePath, ARelativeDirectoryIsKeptAsItIs) {
-  EXPECT_EQ(FindInPpd({"application/vnd.cups-raster 0 sub/rastertoprinter"}).text, "sub/");
-}
-
-TEST(ModulePath, AProgramWithoutASlashHasNone) {
-  const Lookup lookup = FindInPpd({"application/vnd.cups-raster 0 -"});
-  EXPECT_FALSE(lookup.found);
-  EXPECT_TRUE(lookup.untouched);
-}
-
-TEST(ModulePath, OnlyTheFilterForCupsRasterCounts) {
-  EXPECT_FALSE(FindInPpd({"application/vnd.cups-pdf 0 /opt/pdf/filter",
-                          "application/vnd.cups-postscript 0 /opt/ps/filter"})
-                   .found);
-  EXPECT_EQ(FindInPpd({"application/vnd.cups-pdf 0 /opt/pdf/filter",
-                       "application/vnd.cups-raster 0 /opt/raster/filter"})
-                .text,
-            "/opt/raster/");
-}
-
-TEST(ModulePath, OnlyTheFirstFilterForCupsRasterCounts) {
-  EXPECT_EQ(FindInPpd({"application/vnd.cups-raster 0 /opt/first/filter",
-                       "application/vnd.cups-raster 0 /opt/second/filter"})
-                .text,
-            "/opt/first/");
-  EXPECT_FALSE(FindInPpd({"application/vnd.cups-raster 0 -",
-                          "application/vnd.cups-raster 0 /opt/second/filter"})
-                   .found);
-}
-
-TEST(ModulePath, TheTypesLetterCaseCounts) {
-  EXPECT_FALSE(FindInList({"Application/vnd.cups-raster 0 /opt/printer/filter"}).found);
-  EXPECT_FALSE(FindInList({"application/vnd.CUPS-raster 0 /opt/printer/filter"}).found);
-}
-
-TEST(ModulePath, ATypeThatOnlyBeginsSoDoesNotCount) {
-  EXPECT_FALSE(FindInList({"application/vnd.cups-raster2 0 /opt/printer/filter"}).found);
-  EXPECT_FALSE(FindInList({"application/vnd.cups-raste 0 /opt/printer/filter"}).found);
-}
-
-TEST(ModulePath, LinesThatLackAFieldAreSkipped) {
-  EXPECT_EQ(FindInList({"", "application/vnd.cups-raster", "application/vnd.cups-raster 0",
-                        "application/vnd.cups-raster high /opt/nocost/filter",
-                        "application/vnd.cups-raster 100 /opt/printer/filter"})
-                .text,
-            "/opt/printer/");
-}
-
-TEST(ModulePath, FieldsMayStandAnyBlanksApart) {
-  EXPECT_EQ(FindInList({"  application/vnd.cups-raster\t -7 \n /opt/printer/filter  more"}).text,
-            "/opt/printer/");
-}
-
-TEST(ModulePath, ACostMayHaveEitherSignAndIsNotASignAlone) {
-  EXPECT_EQ(FindInList({"application/vnd.cups-raster +5 /opt/plus/filter"}).text, "/opt/plus/");
-  EXPECT_EQ(FindInList({"application/vnd.cups-raster -5 /opt/minus/filter"}).text, "/opt/minus/");
-  EXPECT_FALSE(FindInList({"application/vnd.cups-raster + /opt/sign/filter"}).found);
-}
+INSTANTIATE_TEST_SUITE_P(With, ModulePathOf, testing::ValuesIn(kLines),
+                         [](const testing::TestParamInfo<Lines>& lines) {
+                           return std::string(lines.param.name);
+                         });
 
 TEST(ModulePath, AnEmptyPlaceInTheListIsSkipped) {
   std::string line = "application/vnd.cups-raster 0 /opt/printer/filter";
@@ -151,14 +121,6 @@ TEST(ModulePath, AnEmptyPlaceInTheListIsSkipped) {
   ppd.num_filters = 2;
   ppd.filters = pointers.data();
   EXPECT_EQ(Find(&ppd).text, "/opt/printer/");
-}
-
-TEST(ModulePath, AProgramEndsAtABlank) {
-  EXPECT_EQ(FindInList({"application/vnd.cups-raster 0 /opt/my printer/filter"}).text, "/opt/");
-}
-
-TEST(ModulePath, WithoutFiltersThereIsNone) {
-  EXPECT_FALSE(FindInList({}).found);
 }
 
 TEST(ModulePath, WithoutAPpdThereIsNone) {
@@ -194,20 +156,4 @@ TEST(ModulePath, ADirectoryThatFillsTheBufferDoesNotFit) {
     EXPECT_FALSE(lookup.found) << size;
     EXPECT_TRUE(lookup.untouched) << size;
   }
-}
-
-TEST(ModulePath, AnOverlongTypeIsNoMatchAndOverflowsNothing) {
-  const std::string type(100000, 'a');
-  EXPECT_EQ(FindInList({type + " 0 /opt/other/filter",
-                        "application/vnd.cups-raster" + type + " 0 /opt/other/filter",
-                        "application/vnd.cups-raster 0 /opt/printer/filter"})
-                .text,
-            "/opt/printer/");
-}
-
-TEST(ModulePath, AnOverlongProgramNamesNoDirectoryAndOverflowsNothing) {
-  const Lookup lookup = FindInList(
-      {"application/vnd.cups-raster 0 /opt/" + std::string(100000, 'a') + "/rastertoprinter"});
-  EXPECT_FALSE(lookup.found);
-  EXPECT_TRUE(lookup.untouched);
 }

@@ -38,16 +38,6 @@ class ImageHeader : public testing::Test {
 
 }  // namespace
 
-TEST_F(ImageHeader, OfABorderlessGlossSheet) {
-  const std::string block = Block(SettingsOf10x15(), {0, 0, 1852, 1232});
-  EXPECT_EQ(block.substr(0, 40), Bytes({0xEE, 0xEE, 0xEE, 0xEE, 0x00, 0x09, 0x00, 0x00,     // 0
-                                        0x00, 0x00, 0x07, 0x3C, 0x04, 0xD0, 0x00, 0x00,     // 8
-                                        0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,     // 16
-                                        0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,     // 24
-                                        0x07, 0xEA, 0x07, 0x08, 0x09, 0x0A, 0x0B, 0x00}));  // 32
-  EXPECT_EQ(block.substr(40), Zeros(472));
-}
-
 TEST_F(ImageHeader, WithEveryFieldAtAValueOfItsOwn) {
   tagPRINTSETTING settings = SettingsOf10x15();
   settings.nImageLeft = 0x1122;
@@ -87,18 +77,6 @@ TEST_F(ImageHeader, NumbersBeyond16BitsSendTheirLowBits) {
             Bytes({0x00, 0x54, 0xFF, 0xFF, 0x23, 0x45, 0x67, 0x89}));
 }
 
-TEST_F(ImageHeader, AMattePlaneOf10x15HasTwelveExtraLines) {
-  tagPRINTSETTING settings = SettingsOf10x15();
-  settings.byPrintFinish = 3;
-  gMatteImage.rcBand = {0, 0, 1852, 1244};
-  EXPECT_EQ(Block(settings, {0, 0, 1852, 1232}).substr(20, 4), Bytes({0x07, 0x3C, 0x04, 0xDC}));
-}
-
-TEST_F(ImageHeader, AGlossSheetHasNoMatteSizeEvenWhereAMatteBandExists) {
-  gMatteImage.rcBand = {0, 0, 1852, 1244};
-  EXPECT_EQ(Block(SettingsOf10x15(), {0, 0, 1852, 1232}).substr(20, 4), Zeros(4));
-}
-
 TEST_F(ImageHeader, NoFinishButThreeIsMatte) {
   gMatteImage.rcBand = {0, 0, 1852, 1244};
   for (const int finish : {1, 2, 4, 7, 255}) {
@@ -106,43 +84,6 @@ TEST_F(ImageHeader, NoFinishButThreeIsMatte) {
     settings.byPrintFinish = static_cast<std::uint8_t>(finish);
     EXPECT_EQ(Block(settings, {0, 0, 1852, 1232}).substr(20, 4), Zeros(4)) << finish;
   }
-}
-
-TEST_F(ImageHeader, ALeapSecondIsWrittenAs59) {
-  SetLocalTime(2026, 12, 31, 23, 59, 60);
-  EXPECT_EQ(Block(SettingsOf10x15(), {0, 0, 1, 1}).substr(32, 7),
-            Bytes({0x07, 0xEA, 12, 31, 23, 59, 59}));
-  SetLocalTime(2026, 12, 31, 23, 59, 61);
-  EXPECT_EQ(Block(SettingsOf10x15(), {0, 0, 1, 1}).substr(38, 1), Bytes({59}));
-}
-
-TEST_F(ImageHeader, TheFirstMomentOfAYear) {
-  SetLocalTime(2100, 1, 1, 0, 0, 0);
-  EXPECT_EQ(Block(SettingsOf10x15(), {0, 0, 1, 1}).substr(32, 7),
-            Bytes({0x08, 0x34, 1, 1, 0, 0, 0}));
-}
-
-TEST_F(ImageHeader, EachHeaderHasItsOwnTime) {
-  Block(SettingsOf10x15(), {0, 0, 1, 1});
-  SetLocalTime(2026, 7, 8, 9, 10, 12);
-  EXPECT_EQ(Block(SettingsOf10x15(), {0, 0, 1, 1}).substr(38, 1), Bytes({12}));
-}
-
-TEST_F(ImageHeader, AClockWithoutLocalTimeStillGivesABlock) {
-  LoseLocalTime();
-  const std::string block = Block(SettingsOf10x15(), {0, 0, 1852, 1232});
-  EXPECT_EQ(block.substr(10, 4), Bytes({0x07, 0x3C, 0x04, 0xD0}));
-  EXPECT_EQ(block.substr(39), Zeros(473));
-}
-
-TEST_F(ImageHeader, IsWrittenWithItsCodeAndFlagInOneWrite) {
-  SingleWrites out;
-  const tagPRINTSETTING settings = SettingsOf10x15();
-  tagMVBandImageParams image = {nullptr, -6, {0, 0, 1852, 1232}};
-  wr_esc_ZT(out.stream(), &settings, &image, 0x01);
-  EXPECT_THAT(out.sizes(), ElementsAre(512U));
-  EXPECT_EQ(out.bytes(),
-            Bytes({0x1B, 0x5A, 0x54, 0x01}) + Block(settings, {0, 0, 1852, 1232}).substr(4));
 }
 
 TEST_F(ImageHeader, CarriesAnyFlag) {
