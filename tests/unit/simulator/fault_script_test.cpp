@@ -17,7 +17,6 @@ using simulator::Moment;
 using simulator::Question;
 using simulator::Script;
 using std::chrono::milliseconds;
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -27,129 +26,62 @@ FaultRule rule_of(const char* text) {
   return script.rules.empty() ? FaultRule{} : script.rules.front();
 }
 
-TEST(Rule, WithoutAMomentCountsFromTheBeginningAndStands) {
-  const FaultRule rule = rule_of("status 0x2665");
-  EXPECT_EQ(rule.moment.kind, Moment::Kind::Beginning);
-  EXPECT_EQ(rule.fault.kind, Fault::Kind::Status);
-  EXPECT_EQ(rule.fault.number, 0x2665);
-  EXPECT_EQ(rule.extent.kind, Extent::Kind::Standing);
+struct Read {
+  const char* text;
+  FaultRule rule;
+};
+
+void PrintTo(const Read& read, std::ostream* out) {
+  *out << read.text;
 }
 
-TEST(Rule, TakesNumbersInDecimal) {
-  EXPECT_EQ(rule_of("status 9829").fault.number, 0x2665);
+class Rule : public testing::TestWithParam<Read> {};
+
+TEST_P(Rule, IsReadAs) {
+  EXPECT_EQ(rule_of(GetParam().text), GetParam().rule);
 }
 
-TEST(Rule, MayCountFromAJobOn) {
-  const FaultRule rule = rule_of("job 3: enable 0x0201");
-  EXPECT_EQ(rule.moment.kind, Moment::Kind::Job);
-  EXPECT_EQ(rule.moment.number, 3U);
-  EXPECT_EQ(rule.fault.kind, Fault::Kind::Enable);
-  EXPECT_EQ(rule.fault.number, 0x0201);
-}
+constexpr Extent kOnce{.kind = Extent::Kind::Times, .times = 1};
 
-TEST(Rule, MayCountFromASheetOn) {
-  const FaultRule rule = rule_of("sheet 12: busy 4");
-  EXPECT_EQ(rule.moment.kind, Moment::Kind::Sheet);
-  EXPECT_EQ(rule.moment.number, 12U);
-  EXPECT_EQ(rule.fault.kind, Fault::Kind::Busy);
-  EXPECT_EQ(rule.fault.count, 4U);
-}
+const Read kRules[] = {
+    {"status 0x2665", {.fault = {.kind = Fault::Kind::Status, .number = 0x2665}}},
+    {"status 9829", {.fault = {.kind = Fault::Kind::Status, .number = 0x2665}}},
+    {"job 3: enable 0x0201",
+     {.moment = {Moment::Kind::Job, 3}, .fault = {.kind = Fault::Kind::Enable, .number = 0x0201}}},
+    {"sheet 12: busy 4",
+     {.moment = {Moment::Kind::Sheet, 12}, .fault = {.kind = Fault::Kind::Busy, .count = 4}}},
+    {"cover 0x1300 for 2.5 s",
+     {.fault = {.kind = Fault::Kind::Cover, .number = 0x1300},
+      .extent = {.kind = Extent::Kind::Time, .time = milliseconds(2500)}}},
+    {"status 1 3 times",
+     {.fault = {.number = 1}, .extent = {.kind = Extent::Kind::Times, .times = 3}}},
+    {"status 1 once", {.fault = {.number = 1}, .extent = kOnce}},
+    {"status late 0.125 s", {.fault = {.kind = Fault::Kind::Late, .delay = milliseconds(125)}}},
+    {"enable late 12 s",
+     {.fault = {.kind = Fault::Kind::Late,
+                .question = Question::Readiness,
+                .delay = milliseconds(12000)}}},
+    {"status pieces 4 1 9", {.fault = {.kind = Fault::Kind::Pieces, .pieces = {4, 1, 9}}}},
+    {"enable pieces 4 1 2 times",
+     {.fault = {.kind = Fault::Kind::Pieces, .question = Question::Readiness, .pieces = {4, 1}},
+      .extent = {.kind = Extent::Kind::Times, .times = 2}}},
+    {"enable short 5",
+     {.fault = {.kind = Fault::Kind::Short, .question = Question::Readiness, .count = 5}}},
+    {"status stray 0a FF 10", {.fault = {.kind = Fault::Kind::Stray, .stray = {0x0A, 0xFF, 0x10}}}},
+    {"status stray 0a 10 times",
+     {.fault = {.kind = Fault::Kind::Stray, .stray = {0x0A}},
+      .extent = {.kind = Extent::Kind::Times, .times = 10}}},
+    {"enable silent for 1 s",
+     {.fault = {.kind = Fault::Kind::Silent, .question = Question::Readiness},
+      .extent = {.kind = Extent::Kind::Time, .time = milliseconds(1000)}}},
+    {"drop at byte 0x1000", {.fault = {.kind = Fault::Kind::Drop, .count = 4096}}},
+    {"read 20000 bytes/s", {.fault = {.kind = Fault::Kind::Read, .count = 20000}}},
+    {"paper 2 then 0x1100", {.fault = {.kind = Fault::Kind::Paper, .number = 0x1100, .count = 2}}},
+    {"ribbon 0 then 0x1200",
+     {.fault = {.kind = Fault::Kind::Ribbon, .number = 0x1200, .count = 0}}},
+};
 
-TEST(Rule, MayHoldForATime) {
-  const FaultRule rule = rule_of("cover 0x1300 for 2.5 s");
-  EXPECT_EQ(rule.fault.kind, Fault::Kind::Cover);
-  EXPECT_EQ(rule.fault.number, 0x1300);
-  EXPECT_EQ(rule.extent.kind, Extent::Kind::Time);
-  EXPECT_EQ(rule.extent.time, milliseconds(2500));
-}
-
-TEST(Rule, MayShowSomeTimes) {
-  const FaultRule rule = rule_of("status 1 3 times");
-  EXPECT_EQ(rule.extent.kind, Extent::Kind::Times);
-  EXPECT_EQ(rule.extent.times, 3U);
-}
-
-TEST(Rule, MayShowOnce) {
-  const FaultRule rule = rule_of("status 1 once");
-  EXPECT_EQ(rule.extent.kind, Extent::Kind::Times);
-  EXPECT_EQ(rule.extent.times, 1U);
-}
-
-TEST(Rule, MakesStatusAnswersLate) {
-  const FaultRule rule = rule_of("status late 0.125 s");
-  EXPECT_EQ(rule.fault.kind, Fault::Kind::Late);
-  EXPECT_EQ(rule.fault.question, Question::Status);
-  EXPECT_EQ(rule.fault.delay, milliseconds(125));
-}
-
-TEST(Rule, MakesReadinessAnswersLate) {
-  const FaultRule rule = rule_of("enable late 12 s");
-  EXPECT_EQ(rule.fault.question, Question::Readiness);
-  EXPECT_EQ(rule.fault.delay, milliseconds(12000));
-}
-
-TEST(Rule, CutsAnswersIntoPieces) {
-  const FaultRule rule = rule_of("status pieces 4 1 9");
-  EXPECT_EQ(rule.fault.kind, Fault::Kind::Pieces);
-  EXPECT_THAT(rule.fault.pieces, ElementsAre(4, 1, 9));
-}
-
-TEST(Rule, TellsTheLastPieceFromTheTimes) {
-  const FaultRule rule = rule_of("enable pieces 4 1 2 times");
-  EXPECT_THAT(rule.fault.pieces, ElementsAre(4, 1));
-  EXPECT_EQ(rule.extent.times, 2U);
-}
-
-TEST(Rule, CutsAnswersShort) {
-  const FaultRule rule = rule_of("enable short 5");
-  EXPECT_EQ(rule.fault.kind, Fault::Kind::Short);
-  EXPECT_EQ(rule.fault.question, Question::Readiness);
-  EXPECT_EQ(rule.fault.count, 5U);
-}
-
-TEST(Rule, PutsStrayBytesBeforeAnswers) {
-  const FaultRule rule = rule_of("status stray 0a FF 10");
-  EXPECT_EQ(rule.fault.kind, Fault::Kind::Stray);
-  EXPECT_THAT(rule.fault.stray, ElementsAre(0x0A, 0xFF, 0x10));
-}
-
-TEST(Rule, TellsTheLastStrayByteFromTheTimes) {
-  const FaultRule rule = rule_of("status stray 0a 10 times");
-  EXPECT_THAT(rule.fault.stray, ElementsAre(0x0A));
-  EXPECT_EQ(rule.extent.times, 10U);
-}
-
-TEST(Rule, LeavesQuestionsWithoutAnAnswer) {
-  const FaultRule rule = rule_of("enable silent for 1 s");
-  EXPECT_EQ(rule.fault.kind, Fault::Kind::Silent);
-  EXPECT_EQ(rule.fault.question, Question::Readiness);
-}
-
-TEST(Rule, DropsTheConnectionAtAByte) {
-  const FaultRule rule = rule_of("drop at byte 0x1000");
-  EXPECT_EQ(rule.fault.kind, Fault::Kind::Drop);
-  EXPECT_EQ(rule.fault.count, 4096U);
-}
-
-TEST(Rule, ReadsSlowly) {
-  const FaultRule rule = rule_of("read 20000 bytes/s");
-  EXPECT_EQ(rule.fault.kind, Fault::Kind::Read);
-  EXPECT_EQ(rule.fault.count, 20000U);
-}
-
-TEST(Rule, LetsPaperRunOut) {
-  const FaultRule rule = rule_of("paper 2 then 0x1100");
-  EXPECT_EQ(rule.fault.kind, Fault::Kind::Paper);
-  EXPECT_EQ(rule.fault.count, 2U);
-  EXPECT_EQ(rule.fault.number, 0x1100);
-}
-
-TEST(Rule, LetsTheRibbonRunOut) {
-  const FaultRule rule = rule_of("ribbon 0 then 0x1200");
-  EXPECT_EQ(rule.fault.kind, Fault::Kind::Ribbon);
-  EXPECT_EQ(rule.fault.count, 0U);
-  EXPECT_EQ(rule.fault.number, 0x1200);
-}
+INSTANTIATE_TEST_SUITE_P(Forms, Rule, testing::ValuesIn(kRules));
 
 struct Written {
   const char* rule;

@@ -21,134 +21,164 @@ Cause cause_of(const Queue& queue) {
   return tools::cause_of_standstill(list, list.queues.front());
 }
 
+/// A queue that stopped, and who stopped it: for job 7 where it was not a person.
+struct Stop {
+  const char* name;
+  Queue queue;
+  Standstill kind;
+  std::string word;
+};
+
+/// The queue after a refused sheet, with its own message and with its job changed.
+template <typename Change>
+Queue refused(Change change) {
+  Queue queue = refused_queue("photo");
+  change(queue, queue.jobs.front());
+  return queue;
+}
+
+/// The same for the queue of a printer that could not be reached.
+template <typename Change>
+Queue unreachable(Change change) {
+  Queue queue = unreachable_queue("photo");
+  change(queue, queue.jobs.front());
+  return queue;
+}
+
+Queue refused_with_message(const char* message) {
+  return refused([message](Queue& queue, Job&) { queue.message = message; });
+}
+
+/// As after the scheduler put the refused job back into the queue.
+Queue put_back_with_message(const char* message) {
+  return refused([message](Queue& queue, Job& job) {
+    queue.message = message;
+    job.state = JobState::Pending;
+    job.reasons = {"job-printing"};
+  });
+}
+
+class StandstillOf : public testing::TestWithParam<Stop> {};
+
+TEST_P(StandstillOf, ThisQueue) {
+  const Cause cause = cause_of(GetParam().queue);
+  EXPECT_EQ(cause.kind, GetParam().kind);
+  EXPECT_EQ(cause.word, GetParam().word);
+  const bool has_job = cause.kind == Standstill::Refused || cause.kind == Standstill::Policy;
+  EXPECT_EQ(cause.job, has_job ? 7 : 0);
+}
+
+constexpr const char* kWord = "driver-setting-unmuch";
+constexpr const char* kOtherProgram = "Unable to send raster data to the driver.";
+
+const Stop kRefusals[] = {
+    {"Running", idle_queue("photo"), Standstill::None, ""},
+    {"RefusedSheet", refused_queue("photo"), Standstill::Refused, kWord},
+    {"WithTheRefusalAsItsMessage", refused_with_message("driver-setting-unmuch 0x0200"),
+     Standstill::Refused, kWord},
+    {"AnotherProgramComplainedLater", refused([](Queue& queue, Job& job) {
+       queue.message = "Rendering completed";
+       job.printerMessage = kOtherProgram;
+     }),
+     Standstill::Refused, ""},
+    {"JobsWaitAfterTheRefusedOne", refused([](Queue& queue, Job&) {
+       Job waiting;
+       waiting.id = 8;
+       waiting.state = JobState::Pending;
+       waiting.reasons = {"printer-stopped"};
+       queue.jobs.push_back(waiting);
+     }),
+     Standstill::Refused, kWord},
+    {"RefusedJobWasCancelled", refused([](Queue&, Job& job) { job.state = JobState::Canceled; }),
+     Standstill::Refused, kWord},
+    {"AChangeOfTheQueuePutTheJobBack", put_back_with_message("driver-setting-unmuch 0x0200"),
+     Standstill::Refused, kWord},
+    // The first page was refused by the printer while the second could not be read.
+    {"JobKeptTheWordsOnItsFile", refused([](Queue&, Job& job) {
+       job.printerMessage = "The photo cannot be printed: Premature end of JPEG file.";
+     }),
+     Standstill::Refused, ""},
+};
+
+const Stop kPersons[] = {
+    {"Cupsdisable", refused_with_message("Paused"), Standstill::ByPerson, ""},
+    {"WordsOfTheirOwn", refused_with_message("out of use"), Standstill::ByPerson, ""},
+    {"MessageBeginsLikeARefusal", refused_with_message("out-of-range 0x02 is what Bea saw"),
+     Standstill::ByPerson, ""},
+    {"StopInMidJob", refused_with_message(""), Standstill::ByPerson, ""},
+    {"StopInTheDriversLastSecond", refused([](Queue&, Job& job) {
+       job.state = JobState::Pending;
+       job.reasons = {"job-printing"};
+     }),
+     Standstill::ByPerson, ""},
+    {"JobPutBackWithoutAMessage", put_back_with_message(""), Standstill::ByPerson, ""},
+    {"JobPutBackPaused", put_back_with_message("Paused"), Standstill::ByPerson, ""},
+    {"JobPutBackWaiting", put_back_with_message("Waiting for printer to finish."),
+     Standstill::ByPerson, ""},
+    {"CancelledJobHasLostTheDriversWord", refused([](Queue&, Job& job) {
+       job.state = JobState::Canceled;
+       job.printerMessage = kOtherProgram;
+     }),
+     Standstill::ByPerson, ""},
+    {"LastJobPrinted", refused([](Queue&, Job& job) { job.state = JobState::Completed; }),
+     Standstill::ByPerson, ""},
+    {"AnotherJobRanLater", refused([](Queue& queue, Job&) {
+       Job later = failed_job(8);
+       later.processingSince = 995;
+       queue.jobs.push_back(later);
+     }),
+     Standstill::ByPerson, ""},
+    {"JobFailedForAnotherReason", refused([](Queue& queue, Job&) { queue.jobs = {failed_job(7)}; }),
+     Standstill::ByPerson, ""},
+    {"RefusalIsYoungerThanTheStop", refused([](Queue&, Job& job) { job.processingSince = 1001; }),
+     Standstill::ByPerson, ""},
+    {"NewJobsAreHeld", refused([](Queue& queue, Job&) {
+       queue.reasons = {"paused", "hold-new-jobs"};
+     }),
+     Standstill::ByPerson, ""},
+    {"NoJob", refused([](Queue& queue, Job&) { queue.jobs.clear(); }), Standstill::ByPerson, ""},
+    {"Class", refused([](Queue& queue, Job&) { queue.isClass = true; }), Standstill::ByPerson, ""},
+    {"JobsMessageIsNoPrograms",
+     refused([](Queue&, Job& job) { job.printerMessage = "Bea was here"; }), Standstill::ByPerson,
+     ""},
+};
+
+const Stop kPolicies[] = {
+    {"Unreachable", unreachable_queue("photo"), Standstill::Policy, ""},
+    {"AnotherProgramComplainedLastAndTheDriverLeftItsReason",
+     unreachable([](Queue& queue, Job& job) {
+       queue.message = "Printing page 2, 50% complete...";
+       job.printerMessage = "Filter failed";
+       job.printerReasons = {"com.corvantiel-error0004", "paused"};
+     }),
+     Standstill::Policy, ""},
+    {"OtherPolicy", unreachable([](Queue& queue, Job&) { queue.errorPolicy = "abort-job"; }),
+     Standstill::ByPerson, ""},
+    {"JobWasPrinting", unreachable([](Queue&, Job& job) { job.reasons = {"job-printing"}; }),
+     Standstill::ByPerson, ""},
+    {"BackendDidNotFail", unreachable([](Queue&, Job& job) {
+       job.printerMessage = "Filter failed";
+       job.printerReasons = {"paused"};
+     }),
+     Standstill::ByPerson, ""},
+    {"NobodyKnowsTheJobsLastWords", unreachable([](Queue&, Job& job) {
+       job.printerMessage = "";
+       job.printerReasons = {"com.corvantiel-error0004", "paused"};
+     }),
+     Standstill::ByPerson, ""},
+    {"StoppedAfterThePolicy", unreachable([](Queue& queue, Job&) { queue.message = "Paused"; }),
+     Standstill::ByPerson, ""},
+};
+
+std::string name_of(const testing::TestParamInfo<Stop>& stop) {
+  return stop.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Refused, StandstillOf, testing::ValuesIn(kRefusals), name_of);
+INSTANTIATE_TEST_SUITE_P(ByPerson, StandstillOf, testing::ValuesIn(kPersons), name_of);
+INSTANTIATE_TEST_SUITE_P(Policy, StandstillOf, testing::ValuesIn(kPolicies), name_of);
+
 }  // namespace
-
-TEST(Standstill, IsNoneWhereTheQueueRuns) {
-  EXPECT_EQ(cause_of(idle_queue("photo")).kind, Standstill::None);
-}
-
-TEST(Standstill, IsTheDriversAfterARefusedSheet) {
-  const Cause cause = cause_of(refused_queue("photo"));
-  EXPECT_EQ(cause.kind, Standstill::Refused);
-  EXPECT_EQ(cause.job, 7);
-  EXPECT_EQ(cause.word, "driver-setting-unmuch");
-}
-
-TEST(Standstill, IsTheDriversWithTheRefusalAsTheQueuesOwnMessage) {
-  Queue queue = refused_queue("photo");
-  queue.message = "driver-setting-unmuch 0x0200";
-  EXPECT_EQ(cause_of(queue).kind, Standstill::Refused);
-}
-
-TEST(Standstill, IsTheDriversWhereAnotherProgramComplainedLater) {
-  Queue queue = refused_queue("photo");
-  queue.message = "Rendering completed";
-  queue.jobs.front().printerMessage = "Unable to send raster data to the driver.";
-  const Cause cause = cause_of(queue);
-  EXPECT_EQ(cause.kind, Standstill::Refused);
-  EXPECT_EQ(cause.word, "");
-}
-
-TEST(Standstill, IsTheDriversWithJobsWaitingBehindTheRefusedOne) {
-  Queue queue = refused_queue("photo");
-  Job waiting;
-  waiting.id = 8;
-  waiting.state = JobState::Pending;
-  waiting.reasons = {"printer-stopped"};
-  queue.jobs.push_back(waiting);
-  EXPECT_EQ(cause_of(queue).kind, Standstill::Refused);
-}
-
-TEST(Standstill, IsAPersonsAfterCupsdisable) {
-  Queue queue = refused_queue("photo");
-  queue.message = "Paused";
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsAPersonsWithWordsOfTheirOwn) {
-  Queue queue = refused_queue("photo");
-  queue.message = "out of use";
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsAPersonsWhenTheMessageOnlyBeginsLikeARefusal) {
-  Queue queue = refused_queue("photo");
-  queue.message = "out-of-range 0x02 is what Bea saw";
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsAPersonsWhenTheMessageIsEmptyAsAfterAStopInMidJob) {
-  Queue queue = refused_queue("photo");
-  queue.message = "";
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsAPersonsWhenTheRefusedJobIsPendingAsAfterAStopWithinTheDriversLastSecond) {
-  Queue queue = refused_queue("photo");
-  queue.jobs.front().state = JobState::Pending;
-  queue.jobs.front().reasons = {"job-printing"};
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsTheDriversAlsoWhenTheRefusedJobWasCancelled) {
-  Queue queue = refused_queue("photo");
-  queue.jobs.front().state = JobState::Canceled;
-  const Cause cause = cause_of(queue);
-  EXPECT_EQ(cause.kind, Standstill::Refused);
-  EXPECT_EQ(cause.job, 7);
-  EXPECT_EQ(cause.word, "driver-setting-unmuch");
-}
-
-TEST(Standstill, IsAPersonsWhenTheCancelledJobHasLostTheDriversWord) {
-  Queue queue = refused_queue("photo");
-  queue.jobs.front().state = JobState::Canceled;
-  queue.jobs.front().printerMessage = "Unable to send raster data to the driver.";
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsAPersonsWhenTheLastJobCameThrough) {
-  Queue queue = refused_queue("photo");
-  queue.jobs.front().state = JobState::Completed;
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsAPersonsWhenAnotherJobRanAfterTheRefusedOne) {
-  Queue queue = refused_queue("photo");
-  Job later = failed_job(8);
-  later.processingSince = 995;
-  queue.jobs.push_back(later);
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsAPersonsWhenTheStoppedJobFailedForAnotherReason) {
-  Queue queue = refused_queue("photo");
-  queue.jobs = {failed_job(7)};
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsAPersonsWhenTheRefusalIsYoungerThanTheStop) {
-  Queue queue = refused_queue("photo");
-  queue.jobs.front().processingSince = 1001;
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsAPersonsWhenNewJobsAreHeld) {
-  Queue queue = refused_queue("photo");
-  queue.reasons = {"paused", "hold-new-jobs"};
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsAPersonsWithoutAnyJob) {
-  Queue queue = refused_queue("photo");
-  queue.jobs.clear();
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, OfAClassIsAlwaysAPersons) {
-  Queue queue = refused_queue("room");
-  queue.isClass = true;
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
 
 TEST(Standstill, OfAClassMemberIsTheDriversAfterARefusedJobOfTheClass) {
   Queue member = refused_queue("left");
@@ -174,77 +204,6 @@ TEST(Standstill, IsNotExplainedByAClassThatTheQueueIsNotIn) {
   EXPECT_EQ(tools::cause_of_standstill(list, list.queues[0]).kind, Standstill::ByPerson);
 }
 
-TEST(Standstill, IsThePolicysWhenThePrinterCouldNotBeReached) {
-  const Cause cause = cause_of(unreachable_queue("photo"));
-  EXPECT_EQ(cause.kind, Standstill::Policy);
-  EXPECT_EQ(cause.job, 7);
-}
-
-TEST(Standstill, IsAPersonsWhereThePolicyDoesNotStopQueues) {
-  Queue queue = unreachable_queue("photo");
-  queue.errorPolicy = "abort-job";
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsAPersonsWhenTheJobWasPrintingAtTheStop) {
-  Queue queue = unreachable_queue("photo");
-  queue.jobs.front().reasons = {"job-printing"};
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsAPersonsWhenTheBackendDidNotFail) {
-  Queue queue = unreachable_queue("photo");
-  queue.jobs.front().printerMessage = "Filter failed";
-  queue.jobs.front().printerReasons = {"paused"};
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsThePolicysWhenAnotherProgramComplainedLastAndTheDriverLeftItsReason) {
-  Queue queue = unreachable_queue("photo");
-  queue.message = "Printing page 2, 50% complete...";
-  queue.jobs.front().printerMessage = "Filter failed";
-  queue.jobs.front().printerReasons = {"com.corvantiel-error0004", "paused"};
-  EXPECT_EQ(cause_of(queue).kind, Standstill::Policy);
-}
-
-TEST(Standstill, IsAPersonsWhenNobodyKnowsTheJobsLastWords) {
-  Queue queue = unreachable_queue("photo");
-  queue.jobs.front().printerMessage = "";
-  queue.jobs.front().printerReasons = {"com.corvantiel-error0004", "paused"};
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsAPersonsWhenAPersonStoppedBehindThePolicy) {
-  Queue queue = unreachable_queue("photo");
-  queue.message = "Paused";
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
-TEST(Standstill, IsTheDriversWhereAChangeOfTheQueuePutTheRefusedJobBack) {
-  Queue queue = refused_queue("photo");
-  queue.message = "driver-setting-unmuch 0x0200";
-  queue.jobs.front().state = JobState::Pending;
-  queue.jobs.front().reasons = {"job-printing"};
-  const Cause cause = cause_of(queue);
-  EXPECT_EQ(cause.kind, Standstill::Refused);
-  EXPECT_EQ(cause.word, "driver-setting-unmuch");
-}
-
-TEST(Standstill, IsAPersonsWhereAPersonPutTheRefusedJobBack) {
-  Queue queue = refused_queue("photo");
-  queue.jobs.front().state = JobState::Pending;
-  for (const char* const message : {"", "Paused", "Waiting for printer to finish."}) {
-    queue.message = message;
-    EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson) << message;
-  }
-}
-
-TEST(Standstill, IsAPersonsWhenTheStoppedJobsMessageIsNoPrograms) {
-  Queue queue = refused_queue("photo");
-  queue.jobs.front().printerMessage = "Bea was here";
-  EXPECT_EQ(cause_of(queue).kind, Standstill::ByPerson);
-}
-
 // Which member a class's job ran on is not told, so one that came through says nothing.
 TEST(Standstill, IsTheDriversThoughAJobOfAClassCameThroughLater) {
   Queue group = idle_queue("room");
@@ -257,13 +216,6 @@ TEST(Standstill, IsTheDriversThoughAJobOfAClassCameThroughLater) {
   const Cause cause = tools::cause_of_standstill(list, list.queues.front());
   EXPECT_EQ(cause.kind, Standstill::Refused);
   EXPECT_EQ(cause.job, 7);
-}
-
-// The first page was refused by the printer while the second could not be read.
-TEST(Standstill, IsTheDriversThoughTheJobKeptTheWordsOnItsFile) {
-  Queue queue = refused_queue("photo");
-  queue.jobs.front().printerMessage = "The photo cannot be printed: Premature end of JPEG file.";
-  EXPECT_EQ(cause_of(queue).kind, Standstill::Refused);
 }
 
 TEST(RefusalWord, IsEachOfTheDriversWordsWithItsNumber) {
