@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 // Writes the sample photo that the demonstration prints: make-sample-photo FILE.jpg
 #include <cstdio>
-#include <memory>
 #include <vector>
 
 // jpeglib.h uses FILE and size_t without declaring them.
 #include <jpeglib.h>
 
 #include "demo/scene.h"
+#include "image/file_handle.h"
 
 namespace {
 
@@ -17,10 +17,6 @@ constexpr int kHeight = 1232;
 constexpr int kQuality = 93;
 // Points a pixel, each way, so that edges are smooth.
 constexpr int kSamples = 2;
-
-struct FileCloser {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
 
 Colour pixel_at(int column, int row) {
   Colour sum{};
@@ -77,7 +73,7 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "usage: make-sample-photo FILE.jpg\n");
     return 2;
   }
-  const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(argv[1], "wb"));
+  const FileHandle file(std::fopen(argv[1], "wb"));
   if (!file) {
     std::perror(argv[1]);
     return 1;

@@ -12,14 +12,12 @@
 #include <string>
 #include <vector>
 
+#include "image/file_handle.h"
 #include "photo/exif.h"
 
 namespace photo {
 
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
+using File = FileHandle;
 
 /// No camera takes more pixels: a file that claims to have more is not read.
 inline constexpr std::size_t kPixelsMost = 250'000'000;

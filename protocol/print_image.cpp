@@ -8,6 +8,7 @@
 #include <string>
 
 #include "job/job_state.h"
+#include "job/progress.h"
 #include "protocol/image_header.h"
 #include "protocol/job_header.h"
 #include "protocol/plane_transfer.h"
@@ -17,6 +18,7 @@
 namespace {
 
 constexpr unsigned char kImageFlag = 0x01;
+constexpr int kPercentPrinted = 100;
 constexpr unsigned int kPauseAfterRefusal = 1;  // seconds
 constexpr unsigned int kPauseAfterImage = 5;
 
@@ -51,7 +53,7 @@ bool print_image(const tagPRINTSETTING* settings, tagMVBandImageParams* image) {
     return false;
   }
   send_sheet(settings, image);
-  std::fprintf(stderr, "INFO: Printing page %d, %d%% complete...\n", page, 100);
+  report_progress(kPercentPrinted);
   // The pause comes before the flush: the tail of the image must reach the printer after it.
   sleep(kPauseAfterImage);
   const OutputCall call;

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 
+#include "image/file_handle.h"
 #include "simulator/fault_script.h"
 #include "simulator/wording.h"
 
@@ -19,7 +20,7 @@ std::string place(const std::string& source, const ScriptError& error) {
 
 // What is wrong with the file, or nothing.
 std::string read_file(const std::string& path, std::string& text) {
-  std::FILE* const file = std::fopen(path.c_str(), "re");
+  const FileHandle file(std::fopen(path.c_str(), "re"));
   if (file == nullptr) {
     return path + ": " + error_words(errno);
   }
@@ -27,11 +28,10 @@ std::string read_file(const std::string& path, std::string& text) {
   std::size_t count = 0;
   errno = 0;
   while (text.size() <= kScriptLengthMost &&
-         (count = std::fread(bytes.data(), 1, bytes.size(), file)) > 0) {
+         (count = std::fread(bytes.data(), 1, bytes.size(), file.get())) > 0) {
     text.append(bytes.data(), count);
   }
-  const int errorNumber = std::ferror(file) != 0 ? errno : 0;
-  std::fclose(file);
+  const int errorNumber = std::ferror(file.get()) != 0 ? errno : 0;
   if (errorNumber != 0) {
     return path + ": " + error_words(errorNumber);
   }

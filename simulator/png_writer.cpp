@@ -108,12 +108,12 @@ PngWriter::PngWriter(const std::filesystem::path& folder, std::uint32_t width, s
   // Does not follow a link that someone put under the hidden name.
   const int descriptor =
       ::open(temporaryPath_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0666);
-  file_ = descriptor >= 0 ? ::fdopen(descriptor, "wb") : nullptr;
+  file_.reset(descriptor >= 0 ? ::fdopen(descriptor, "wb") : nullptr);
   if (file_ == nullptr) {
     Fail(error_words(errno));
   } else if (encoder_->info == nullptr) {
     Fail("no memory for the PNG");
-  } else if (!begin_png(encoder_->png, encoder_->info, file_, width, height, meaning)) {
+  } else if (!begin_png(encoder_->png, encoder_->info, file_.get(), width, height, meaning)) {
     Fail(encoder_->Reason());
   }
 }
@@ -136,9 +136,8 @@ bool PngWriter::Finish(const std::filesystem::path& finalPath) {
     Fail(encoder_->Reason());
     return false;
   }
-  std::FILE* const file = file_;
-  file_ = nullptr;
-  if (std::fclose(file) != 0 || std::rename(temporaryPath_.c_str(), finalPath.c_str()) != 0) {
+  if (std::fclose(file_.release()) != 0 ||
+      std::rename(temporaryPath_.c_str(), finalPath.c_str()) != 0) {
     const int errorNumber = errno;
     ::unlink(temporaryPath_.c_str());
     Fail(error_words(errorNumber));
@@ -154,8 +153,7 @@ void PngWriter::Fail(const std::string& reason) {
 
 void PngWriter::Remove() {
   if (file_ != nullptr) {
-    std::fclose(file_);
-    file_ = nullptr;
+    file_.reset();
     ::unlink(temporaryPath_.c_str());
   }
 }

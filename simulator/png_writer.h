@@ -6,11 +6,12 @@
 #define TQR7_SIMULATOR_PNG_WRITER_H
 
 #include <cstdint>
-#include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <span>
 #include <string>
+
+#include "image/file_handle.h"
 
 namespace simulator {
 
@@ -45,7 +46,7 @@ class PngWriter {
   void Remove();
 
   std::filesystem::path temporaryPath_;
-  std::FILE* file_ = nullptr;
+  FileHandle file_;
   std::unique_ptr<Encoder> encoder_;
   std::string error_;
 };

@@ -7,14 +7,8 @@
 
 namespace simulator {
 
-StreamRecorder::~StreamRecorder() {
-  if (file_ != nullptr) {
-    std::fclose(file_);
-  }
-}
-
 std::string StreamRecorder::Open(const std::filesystem::path& path) {
-  file_ = std::fopen(path.c_str(), "wbe");
+  file_.reset(std::fopen(path.c_str(), "wbe"));
   return file_ != nullptr ? "" : error_words(errno);
 }
 
@@ -22,13 +16,12 @@ std::string StreamRecorder::Add(std::span<const std::uint8_t> bytes) {
   if (file_ == nullptr) {
     return {};
   }
-  if (std::fwrite(bytes.data(), 1, bytes.size(), file_) == bytes.size() &&
-      std::fflush(file_) == 0) {
+  if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) == bytes.size() &&
+      std::fflush(file_.get()) == 0) {
     return {};
   }
   const int errorNumber = errno;
-  std::fclose(file_);
-  file_ = nullptr;
+  file_.reset();
   return error_words(errorNumber);
 }
 

@@ -6,21 +6,17 @@
 #define TQR7_SIMULATOR_STREAM_RECORDER_H
 
 #include <cstdint>
-#include <cstdio>
 #include <filesystem>
 #include <span>
 #include <string>
+
+#include "image/file_handle.h"
 
 namespace simulator {
 
 /// Writes to one file; does nothing until it is opened, and nothing after the first failure.
 class StreamRecorder {
  public:
-  StreamRecorder() = default;
-  StreamRecorder(const StreamRecorder&) = delete;
-  StreamRecorder& operator=(const StreamRecorder&) = delete;
-  ~StreamRecorder();
-
   /// Creates or empties the file. Returns what went wrong, or nothing.
   std::string Open(const std::filesystem::path& path);
 
@@ -28,7 +24,7 @@ class StreamRecorder {
   std::string Add(std::span<const std::uint8_t> bytes);
 
  private:
-  std::FILE* file_ = nullptr;
+  FileHandle file_;
 };
 
 }  // namespace simulator

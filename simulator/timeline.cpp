@@ -27,18 +27,12 @@ std::string timeline_line(std::chrono::system_clock::time_point time, std::uint6
          std::to_string(bytes) + " " + event;
 }
 
-Timeline::~Timeline() {
-  if (file_ != nullptr) {
-    std::fclose(file_);
-  }
-}
-
 std::string Timeline::Open(const std::filesystem::path& path) {
-  file_ = std::fopen(path.c_str(), "we");
+  file_.reset(std::fopen(path.c_str(), "we"));
   if (file_ == nullptr) {
     return error_words(errno);
   }
-  std::setvbuf(file_, nullptr, _IOFBF, kBufferLength);
+  std::setvbuf(file_.get(), nullptr, _IOFBF, kBufferLength);
   return {};
 }
 
@@ -46,17 +40,16 @@ void Timeline::Note(std::uint64_t connection, std::uint64_t bytes, const char* e
   if (file_ != nullptr) {
     const std::string line =
         timeline_line(std::chrono::system_clock::now(), connection, bytes, event);
-    std::fprintf(file_, "%s\n", line.c_str());
+    std::fprintf(file_.get(), "%s\n", line.c_str());
   }
 }
 
 std::string Timeline::Flush() {
-  if (file_ == nullptr || (std::fflush(file_) == 0 && std::ferror(file_) == 0)) {
+  if (file_ == nullptr || (std::fflush(file_.get()) == 0 && std::ferror(file_.get()) == 0)) {
     return {};
   }
   const int errorNumber = errno;
-  std::fclose(file_);
-  file_ = nullptr;
+  file_.reset();
   return error_words(errorNumber);
 }
 

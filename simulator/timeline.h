@@ -7,9 +7,10 @@
 
 #include <chrono>
 #include <cstdint>
-#include <cstdio>
 #include <filesystem>
 #include <string>
+
+#include "image/file_handle.h"
 
 namespace simulator {
 
@@ -22,11 +23,6 @@ std::string timeline_line(std::chrono::system_clock::time_point time, std::uint6
 /// the lines in memory until Flush, so that a note takes little time.
 class Timeline {
  public:
-  Timeline() = default;
-  Timeline(const Timeline&) = delete;
-  Timeline& operator=(const Timeline&) = delete;
-  ~Timeline();
-
   /// Creates or empties the file. Returns what went wrong, or nothing.
   std::string Open(const std::filesystem::path& path);
 
@@ -37,7 +33,7 @@ class Timeline {
   std::string Flush();
 
  private:
-  std::FILE* file_ = nullptr;
+  FileHandle file_;
 };
 
 }  // namespace simulator

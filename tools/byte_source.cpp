@@ -3,23 +3,15 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <memory>
 #include <system_error>
 #include <vector>
+
+#include "image/file_handle.h"
 
 namespace tools {
 namespace {
 
 constexpr std::size_t kPiece = 256UL * 1024;
-
-// The standard input stays open: it belongs to the process.
-struct Closer {
-  void operator()(std::FILE* file) const {
-    if (file != stdin) {
-      std::fclose(file);
-    }
-  }
-};
 
 std::string last_error() {
   return std::generic_category().message(errno);
@@ -29,15 +21,16 @@ std::string last_error() {
 
 std::string for_each_piece(const std::string& path,
                            const std::function<void(std::span<const std::uint8_t>)>& take) {
-  const std::unique_ptr<std::FILE, Closer> file(path == "-" ? stdin
-                                                            : std::fopen(path.c_str(), "rbe"));
-  if (!file) {
+  const bool standard = path == "-";
+  const FileHandle opened(standard ? nullptr : std::fopen(path.c_str(), "rbe"));
+  std::FILE* const file = standard ? stdin : opened.get();
+  if (file == nullptr) {
     return last_error();
   }
   std::vector<std::uint8_t> piece(kPiece);
   for (;;) {
-    const std::size_t count = std::fread(piece.data(), 1, piece.size(), file.get());
-    std::string why = std::ferror(file.get()) != 0 ? last_error() : std::string{};
+    const std::size_t count = std::fread(piece.data(), 1, piece.size(), file);
+    std::string why = std::ferror(file) != 0 ? last_error() : std::string{};
     if (count > 0) {
       take(std::span(piece).first(count));
     }

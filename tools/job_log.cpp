@@ -5,8 +5,8 @@
 #include <array>
 #include <cstdio>
 #include <fstream>
-#include <memory>
 
+#include "image/file_handle.h"
 #include "language/messages.h"
 #include "tools/plain_text.h"
 
@@ -89,12 +89,8 @@ std::string take_file(const std::string& path, JobLog& log) {
   return file.eof() ? "" : _("the file cannot be read");
 }
 
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-
 std::string take_scheduler_log(Scheduler& scheduler, JobLog& log) {
-  const std::unique_ptr<std::FILE, CloseFile> file(std::tmpfile());
+  const FileHandle file(std::tmpfile());
   if (file == nullptr) {
     return _("no temporary file can be made");
   }

@@ -4,19 +4,14 @@
 // make-matte-tile FILE.cpp
 #include <cstdint>
 #include <cstdio>
-#include <memory>
 #include <vector>
 
 #include "conversion/blue_noise/void_and_cluster.h"
 #include "conversion/matte.h"
 #include "conversion/matte_tile.h"
+#include "image/file_handle.h"
 
 namespace {
-
-struct FileCloser {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using OutputFile = std::unique_ptr<std::FILE, FileCloser>;
 
 /// Turns ranks into levels. The numbers of dots of any two levels differ by one at most.
 unsigned level_of_rank(std::uint32_t rank) {
@@ -57,7 +52,7 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "usage: make-matte-tile FILE.cpp\n");
     return 2;
   }
-  OutputFile file(std::fopen(argv[1], "w"));
+  FileHandle file(std::fopen(argv[1], "w"));
   if (!file) {
     std::perror(argv[1]);
     return 1;

@@ -15,18 +15,15 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include <jpeglib.h>
 
+#include "image/file_handle.h"
+
 namespace {
 
-struct FileCloser {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, FileCloser>;
 using Rgb = std::array<unsigned char, 3>;
 
 // The upper left, upper right, lower left and lower right quarter.
@@ -227,7 +224,7 @@ int main(int argc, char** argv) {
     std::swap(photo.width, photo.height);
   }
   const std::string name = argv[1];
-  const File file(std::fopen(argv[1], "wb"));
+  const FileHandle file(std::fopen(argv[1], "wb"));
   if (!file) {
     std::perror(argv[1]);
     return 1;

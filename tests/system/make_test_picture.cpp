@@ -12,18 +12,14 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include <jpeglib.h>
 
-namespace {
+#include "image/file_handle.h"
 
-struct FileCloser {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, FileCloser>;
+namespace {
 
 struct Rgb {
   unsigned char red, green, blue;
@@ -147,7 +143,7 @@ int main(int argc, char** argv) {
   const Quarters& colours = argc == 6 && argv[5] == std::string("vivid") ? kVivid : kModerate;
   const int width = std::atoi(argv[2]);
   const int height = std::atoi(argv[3]);
-  const File file(std::fopen(argv[1], "wb"));
+  const FileHandle file(std::fopen(argv[1], "wb"));
   if (!file || width <= 0 || height <= 0) {
     std::fprintf(stderr, "make-test-picture: cannot write %s, %d x %d\n", argv[1], width, height);
     return 1;
