@@ -5,8 +5,8 @@
 
 namespace {
 
-// Characters side by side, each 5 columns and a blank. The letters stand on the 7th row; the last
-// two are for what hangs below.
+// Characters side by side, each of 5 columns and a blank. The base line is below the 7th row; the
+// last two rows are for descenders.
 struct Strip {
   std::string_view characters;
   std::string_view rows[kGlyphHeight];
@@ -87,7 +87,7 @@ constexpr Strip kStrips[] = {
 };
 // clang-format on
 
-// Where a character is drawn.
+// The place of a character.
 struct Glyph {
   const Strip* strip;
   std::size_t column;

@@ -10,16 +10,16 @@
 
 // A character's cell at scale 1, in dots.
 inline constexpr int kGlyphWidth = 5;
-inline constexpr int kGlyphHeight = 9;       ///< what hangs below the line included
-inline constexpr int kCapitalHeight = 7;     ///< of it, above the line
+inline constexpr int kGlyphHeight = 9;       ///< with the descenders below the line
+inline constexpr int kCapitalHeight = 7;     ///< above the line
 inline constexpr int kGlyphAdvance = 6;      ///< from one character to the next
 inline constexpr int kGlyphLineHeight = 10;  ///< from one line to the next
 
 /// Dots from the first character's left edge to the last one's right edge.
 int text_width(std::string_view text, int scale);
 
-/// Draws one line of text; a character that the font lacks shows as "?". What does not fit on the
-/// canvas is cut off.
+/// Draws one line of text. Characters that the font does not have become "?". The text is cut off
+/// at the canvas's edge.
 void draw_text(const Canvas& canvas, int left, int top, int scale, Colour colour,
                std::string_view text);
 

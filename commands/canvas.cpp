@@ -16,7 +16,7 @@ Canvas::Canvas(unsigned char* pixels, int width, int height)
       stride_(kBytesPerPixel * width_) {}
 
 Box Canvas::clip(const Box& box) const {
-  // Far-away edges must not overflow before they are cut off.
+  // The sum must not overflow when an edge is far outside.
   const auto cut = [](std::int64_t edge, int limit) {
     return static_cast<int>(std::clamp<std::int64_t>(edge, 0, limit));
   };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A rectangle of 24-bit RGB pixels to draw on, from which no drawing gets out.
+// A rectangle of 24-bit RGB pixels to draw on. Nothing is drawn outside of it.
 #ifndef TQR7_COMMANDS_CANVAS_H
 #define TQR7_COMMANDS_CANVAS_H
 
@@ -24,8 +24,8 @@ struct Box {
   int height;
 };
 
-/// Draws into pixels that somebody else owns: `width` × `height` of 3 bytes, top row first, without
-/// a gap between rows. A canvas is a view and cheap to copy.
+/// Draws into pixels that the caller owns: `width` × `height` pixels of 3 bytes, top row first,
+/// without a gap between rows. A canvas is a view and cheap to copy.
 class Canvas {
  public:
   Canvas(unsigned char* pixels, int width, int height);
@@ -33,10 +33,10 @@ class Canvas {
   int width() const { return width_; }
   int height() const { return height_; }
 
-  /// A canvas over a part of this one; what of the box lies outside is left away.
+  /// A canvas on a part of this one, cut to this canvas.
   Canvas part(const Box& box) const;
 
-  /// Fills what of the box lies on the canvas.
+  /// Fills the part of the box that is on the canvas.
   void fill(const Box& box, Colour colour) const;
 
  private:

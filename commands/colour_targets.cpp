@@ -51,7 +51,7 @@ constexpr int kScaleTick = 8;
 
 constexpr Colour kRibbon[] = {{0x00, 0xFF, 0xFF}, {0xFF, 0x00, 0xFF}, {0xFF, 0xFF, 0x00}};
 
-// As bright as it looks, 0 … 255.
+// How bright the colour looks, 0 … 255.
 int brightness(Colour colour) {
   return (colour.red * 299 + colour.green * 587 + colour.blue * 114) / 1000;
 }
@@ -77,7 +77,7 @@ void draw_patch(const Canvas& patch, Colour colour) {
             bright ? kBlack : kWhite, label);
 }
 
-// The part of a length at which its n-th of `count` cells begins.
+// Where the n-th of `count` cells begins on a length.
 int cell_start(int length, int n, int count) {
   return length * n / count;
 }
@@ -86,7 +86,7 @@ std::uint8_t level(int x, int width) {
   return static_cast<std::uint8_t>(width < 2 ? 0 : 255 * x / (width - 1));
 }
 
-// From white to the colour: what the colour lacks of white grows with x.
+// From white to the colour: the difference from white grows with x.
 Colour tint(Colour colour, int x, int width) {
   const int share = level(x, width);
   const auto mix = [share](std::uint8_t channel) {
@@ -95,7 +95,7 @@ Colour tint(Colour colour, int x, int width) {
   return {mix(colour.red), mix(colour.green), mix(colour.blue)};
 }
 
-// Stripes of `dots` across the box, with as much room between them.
+// Stripes of `dots` across the box, with gaps as wide as the stripes.
 void draw_stripes(const Canvas& canvas, const Box& box, int dots, bool upright) {
   const Canvas field = canvas.part(box);
   const int length = upright ? field.width() : field.height();
@@ -126,7 +126,7 @@ void draw_grey_ramp(const Canvas& canvas) {
     const std::uint8_t grey = level(x, canvas.width());
     canvas.fill({x, 0, 1, height}, {grey, grey, grey});
   }
-  // Where the ramp ends in white, an outline shows its size.
+  // The outline shows where the ramp ends, which is white there.
   canvas.fill({canvas.width() - 2, 0, 2, height}, kOutline);
   constexpr int kMarks = 4;
   for (int mark = 0; mark <= kMarks; ++mark) {

@@ -39,7 +39,7 @@ std::optional<Command> CommandFile::next() {
   return std::nullopt;
 }
 
-// The line without its end, cut to what a command may be long; none at the end of the file.
+// The next line without its end, cut to the longest command; nothing at the end of the file.
 std::optional<std::string> CommandFile::read_line() {
   std::string line;
   bool any = false;

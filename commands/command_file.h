@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A file of printer commands as the scheduler hands it on (application/vnd.cups-command), which may
-// be any bytes at all.
+// Reads a file of printer commands as the scheduler hands it on (application/vnd.cups-command). It
+// may have any bytes.
 #ifndef TQR7_COMMANDS_COMMAND_FILE_H
 #define TQR7_COMMANDS_COMMAND_FILE_H
 
@@ -12,18 +12,18 @@
 #include <string_view>
 
 inline constexpr std::size_t kLongestCommandLine = 255;        ///< bytes; the rest is skipped
-inline constexpr std::size_t kLongestCommandFile = 1'048'576;  ///< bytes that are looked at
+inline constexpr std::size_t kLongestCommandFile = 1'048'576;  ///< bytes; the rest is not read
 
 /// One line of the file.
 struct Command {
   std::string name;
   std::string parameters;  ///< what follows the name; empty for most commands
 
-  /// Command names have no upper and lower case.
+  /// Compares the name, in upper or lower case.
   bool is(std::string_view other) const;
 };
 
-/// Reads a command file from the start to the end. It does not close the stream.
+/// Reads a command file from start to end. It does not close the stream.
 class CommandFile {
  public:
   explicit CommandFile(std::FILE* stream) : stream_(stream) {}
@@ -31,7 +31,7 @@ class CommandFile {
   /// Reads the first line, which must begin with "#CUPS-COMMAND".
   bool begins_as_command_file();
 
-  /// The next command; none at the end of the file, or when it cannot be read.
+  /// The next command; nothing at the end of the file, or when it cannot be read.
   std::optional<Command> next();
 
  private:

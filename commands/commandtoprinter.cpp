@@ -21,7 +21,7 @@ namespace {
 
 constexpr int kArgumentOptions = 5;
 constexpr int kArgumentFile = 6;
-constexpr int kMostUnknownNamed = 16;  // a hostile file must not fill the log
+constexpr int kMostUnknownNamed = 16;  // so that a hostile file cannot fill the log
 
 // The commands of a job, in the order of the file.
 class Commands {
@@ -43,11 +43,11 @@ class Commands {
   struct KnownCommand {
     const char* name;
     bool (Commands::*carry_out)();
-    bool done;  // each is carried out once a job, however often a file asks for paper
+    bool done;  // a job carries each out once, so that no file can use up the paper
   };
 
-  // Answered when the printer was asked, whatever it said: a command that failed for a printer in
-  // error would stay in the queue.
+  // Succeeds when the printer was asked, whatever it answered: a command that fails would stay in
+  // the queue.
   bool report_status() {
     found_good_ = printer_is_good();
     std::fprintf(stderr, found_good_
@@ -67,7 +67,7 @@ class Commands {
     return connected() && (this->*known.carry_out)();
   }
 
-  // Asked once a job, as for a photo.
+  // A job asks this once, as a photo does.
   bool connected() {
     connected_ = connected_ || connection_is_bidirectional();
     if (!connected_) {

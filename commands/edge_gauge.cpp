@@ -17,13 +17,13 @@ constexpr int kLineWidth = 2;
 constexpr int kHalfMillimetres = 10;
 constexpr int kLabelDepth = 66;
 constexpr int kLabelScale = 2;
-constexpr Colour kSecondStep{150, 150, 150};  // neighbouring steps must be told apart
+constexpr Colour kSecondStep{150, 150, 150};  // so that neighbouring steps differ
 
 bool is_upright(Edge edge) {
   return edge == Edge::Left || edge == Edge::Right;
 }
 
-// Letters stand upright at every edge; their middle comes to `along`.
+// Letters are upright at every edge. Their middle is at `along`.
 void draw_label(const Canvas& canvas, Edge edge, int along, const std::string& text) {
   const int width = text_width(text, kLabelScale);
   const int height = kCapitalHeight * kLabelScale;

@@ -25,7 +25,7 @@
 namespace {
 
 constexpr int kModulePathSize = 1024;
-constexpr int kPercentDrawn = 50;  // printing the page takes the other half
+constexpr int kPercentDrawn = 50;  // the other half is for printing the page
 
 std::string date_words() {
   const std::time_t now = std::time(nullptr);
@@ -42,7 +42,7 @@ TestPageText page_text(const tagPRINTSETTING& settings) {
   return {date_words(), setting_words(settings, queue != nullptr ? queue : "unknown")};
 }
 
-// A page as a raster stream would announce it.
+// The page's header in a raster stream.
 cups_page_header_s page_header(const tagPRINTSETTING& settings) {
   cups_page_header_s header{};
   header.NumCopies = 1;
@@ -99,7 +99,7 @@ bool print_self_test(ppd_file_s* ppd, bool found_good) {
   }
   const bool printed = print_sheet(ppd, settings, module_path);
   release_sheet();
-  // The sheet is out: commands that follow it can be cancelled as those before it.
+  // The sheet is printed: the next commands can be cancelled again.
   static_cast<void>(std::signal(SIGTERM, SIG_DFL));
   return printed;
 }

@@ -14,7 +14,7 @@ enum class Half { None, Upper, Lower };
 
 constexpr std::string_view kTitle = "TQR7 test page";
 constexpr std::string_view kCutWords = "Cut edge: blue is the upper print, orange the lower";
-constexpr int kMargin = 100;  // room for the gauges
+constexpr int kMargin = 100;  // for the gauges
 constexpr int kGap = 20;
 constexpr int kLineCharacters = static_cast<int>(kLongestLabel + 1 + kLongestValue);
 constexpr int kFrameDepth = 59;  // 5 mm
@@ -25,7 +25,7 @@ constexpr Colour kFrame{0xB0, 0xB0, 0xB0};
 constexpr Colour kUpperBand{0x00, 0x60, 0xE0};
 constexpr Colour kLowerBand{0xFF, 0x80, 0x00};
 
-// A scale at which all lines fit into the room; never so small that it cannot be read.
+// The largest scale at which all lines fit; never so small that the text cannot be read.
 int words_scale(const std::vector<SettingLine>& lines, int width, int height, int largest) {
   constexpr int kSmallest = 2;
   const int by_width = width / (kLineCharacters * kGlyphAdvance);
@@ -48,7 +48,7 @@ void draw_words(const Canvas& canvas, const std::vector<SettingLine>& lines, int
   }
 }
 
-// The title at the left, the date at the right, both standing on one line.
+// The title at the left and the date at the right, on one line.
 void draw_title(const Canvas& canvas, int scale, const std::string& date) {
   constexpr int kDateScale = 3;
   draw_text(canvas, 0, 0, scale, kBlack, kTitle);
@@ -65,7 +65,8 @@ void draw_frame(const Canvas& canvas) {
               kWhite);
 }
 
-// Each half has a colour of its own along the cut: a knife that strays leaves some of the other's.
+// Each half has its own colour along the cut. If the cut is not exact, a strip of the other colour
+// shows.
 void draw_cut(const Canvas& canvas, Half half) {
   if (half == Half::None) {
     return;
@@ -104,14 +105,14 @@ void draw_strip(const Canvas& canvas, const TestPageText& text) {
              words_scale(text.lines, right.width(), words, 3));
 }
 
-// Words at the left, fine lines in the room that they leave.
+// Words at the left, fine lines in the space that is left.
 void draw_foot(const Canvas& canvas, const TestPageText& text, int scale) {
   draw_words(canvas, text.lines, scale);
   const int left = kLineCharacters * kGlyphAdvance * scale + kGap;
   draw_fine_lines(canvas.part({left, 0, canvas.width() - left, canvas.height()}));
 }
 
-// One above another: title, patches, ramps, words.
+// From top to bottom: title, patches, ramps, words.
 void draw_stack(const Canvas& canvas, const TestPageText& text) {
   constexpr int kTitleScale = 6;
   constexpr int kTitleHeight = 72;

@@ -17,11 +17,11 @@ struct TestPageText {
   std::vector<SettingLine> lines;
 };
 
-/// Raster pages that fill one sheet: 2 where the printer joins two, else 1.
+/// How many raster pages make one sheet: 2 where the printer joins two, otherwise 1.
 int test_pages_of_sheet(const tagPRINTSETTING& settings);
 
-/// Draws the sheet's page of this number, from 1, on a white canvas as large as the image area. A
-/// sheet that is cut in two has a whole test print on each half.
+/// Draws one page of the sheet, by its number from 1, on a white canvas as large as the image area.
+/// A sheet that is cut in two has a whole test print on each half.
 void draw_test_page(const Canvas& canvas, const tagPRINTSETTING& settings, int number,
                     const TestPageText& text);
 

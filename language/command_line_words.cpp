@@ -18,7 +18,7 @@ namespace {
 class Help : public CLI::Formatter {
  public:
   Help() {
-    // The library asks for these by the names that it shows in English.
+    // The library looks these up by the names that it shows in English.
     label("Usage", _("Usage"));
     label("OPTIONS", _("OPTIONS"));
     label("SUBCOMMAND", _("SUBCOMMAND"));
@@ -57,7 +57,8 @@ class Help : public CLI::Formatter {
   }
 };
 
-// The library's sentences, each "%s" something of the command line. The first that fits is it.
+// The library's sentences. "%s" stands for a part of the command line. The first sentence that fits
+// is used.
 constexpr std::array kComplaints = {
     N_("A subcommand is required"),
     N_("%s is required"),
@@ -71,7 +72,7 @@ constexpr std::array kComplaints = {
     N_("%s: At Most %s required but received %s"),
 };
 
-// What stands in the places of "%s"; nothing when the sentence is another.
+// Whether the text is this sentence. `places` then has the texts in the places of "%s".
 bool fits(std::string_view text, std::string_view sentence, std::vector<std::string>& places) {
   constexpr std::string_view kPlace = "%s";
   places.clear();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// What the library that reads command lines says by itself, in the person's language.
+// Translates what the library for command lines says by itself.
 #ifndef TQR7_LANGUAGE_COMMAND_LINE_WORDS_H
 #define TQR7_LANGUAGE_COMMAND_LINE_WORDS_H
 
@@ -12,14 +12,14 @@ class App;
 
 namespace language {
 
-/// --help in the person's language, its columns by the width of the letters. Before subcommands are
-/// added: they take it over.
+/// Writes --help in the person's language, with columns that fit wide letters. Call it before
+/// subcommands are added, because they inherit it.
 void translate_help(CLI::App& app);
 
-/// The heading above subcommands in --help: their group.
+/// The heading of the subcommands in --help, which the library calls their group.
 std::string subcommands_heading();
 
-/// What the library says is wrong with a command line.
+/// Translates what the library says is wrong with a command line.
 std::string translate_complaint(const std::string& english);
 
 }  // namespace language

@@ -61,7 +61,7 @@ std::string locale_folder() {
 void begin() {
   std::setlocale(LC_ALL, "");
   gDecimalSign = std::localeconv()->decimal_point;
-  // Numbers of options, settings and JSON have a point in every country.
+  // Numbers in options, settings and JSON have a decimal point in every country.
   std::setlocale(LC_NUMERIC, "C");
 #ifdef TQR7_HAS_GETTEXT
   ::bindtextdomain(TQR7_TEXT_DOMAIN, locale_folder().c_str());
@@ -71,7 +71,7 @@ void begin() {
 
 const char* _(const char* english) {
 #ifdef TQR7_HAS_GETTEXT
-  // An empty message is a catalogue's own head.
+  // For an empty message, gettext returns the catalogue's head.
   return gEnglish > 0 || *english == '\0' ? english : ::dgettext(TQR7_TEXT_DOMAIN, english);
 #else
   return english;

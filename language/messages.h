@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// Messages to people in their own language. The source says them in English; the catalogues in
-// ppd/po say them in others. What programs read (JSON, keywords, names of options, lines of a log)
-// is never translated.
+// Messages to people in their own language. They are English in the source; the catalogues in
+// ppd/po have the translations. What programs and developers read (JSON, keywords, names of
+// options, lines of a log) is never translated.
 //
 //   filled(_("no queue has a job %d"), number)
-//   filled(_n("%zu sheet", "%zu sheets", count), count)
+//   filled(_n("%zu dot", "%zu dots", count), count)
 #ifndef TQR7_LANGUAGE_MESSAGES_H
 #define TQR7_LANGUAGE_MESSAGES_H
 
@@ -14,18 +14,18 @@
 
 namespace language {
 
-/// Once, at the start of a program: takes the language from the environment. Numbers are read and
-/// written as in C all the same.
+/// Takes the language from the environment. Call it once, at the start of a program. It does not
+/// change how numbers are read and written.
 void begin();
 
 /// The message in the person's language.
 [[gnu::format_arg(1)]] const char* _(const char* english);
 
-/// The message in the form that goes with the count.
+/// The message in the person's language, in the form for this count.
 [[gnu::format_arg(1), gnu::format_arg(2)]] const char* _n(const char* one, const char* several,
                                                           std::size_t count);
 
-/// Marks a message that _() gets later, such as one in a table.
+/// Marks a message that is passed to _() later, such as one in a table.
 constexpr const char* N_(const char* english) {
   return english;
 }
@@ -36,7 +36,7 @@ constexpr const char* N_(const char* english) {
 /// A number for people, with the decimal sign of their country.
 std::string decimal(double value, int places);
 
-/// As long as one of these lives, messages stay English: for what programs read, or other people.
+/// As long as such an object exists, messages are English: for programs, or for other people.
 class English {
  public:
   /// Does nothing where it is not `wanted`.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// What Little CMS makes, as objects that release themselves. For code whose own memory handler does
-// not end the work in the middle: see conversion/bounded_cms.h for the other kind.
+// Objects of Little CMS that release themselves. conversion/bounded_cms.h has others, for code
+// whose memory handler may end a call of Little CMS in the middle.
 #ifndef TQR7_MODEL_LITTLE_CMS_HANDLES_H
 #define TQR7_MODEL_LITTLE_CMS_HANDLES_H
 

@@ -42,8 +42,8 @@ struct PrinterModel {
   /// a device value v, 0 ... 1, the light above black is
   ///   ((v + toe) / (1 + toe)) ^ exponent             from v = toe / (exponent - 1) up,
   ///   the straight line through 0 that touches it    below.
-  /// Without the line, small amounts of light would call for device values that change endlessly
-  /// fast. The exponent is above 1.
+  /// Without the line, device values would change endlessly fast near black. The exponent is
+  /// above 1.
   double exponent;
   double toe;
 

@@ -42,10 +42,10 @@ Vector xyz_of_chromaticity(const std::array<double, 2>& xy) {
   return {xy[0] / xy[1], 1, (1 - xy[0] - xy[1]) / xy[1]};
 }
 
-/// X Y Z of the full red, green and blue: the chromaticities given, each as light as it must be
-/// for the three to add up to the connection space's white (Cramer's rule). The second takes what
-/// rounding leaves, so that the sum is the white to the last bit. False when the primaries do not
-/// enclose the white.
+/// Finds X Y Z of the full red, green and blue. Their chromaticities are given; each is as light as
+/// it must be for the three to add up to the connection space's white (Cramer's rule). Green gets
+/// what is lost by rounding, so that the sum is the white to the last bit. Returns false when the
+/// primaries do not enclose the white.
 bool make_primaries(const PrinterModel& model, std::array<cmsCIEXYZ, 3>& primaries) {
   const cmsCIEXYZ* d50 = cmsD50_XYZ();
   const Vector white = {to_profile_unit(d50->X), to_profile_unit(d50->Y), to_profile_unit(d50->Z)};
@@ -75,8 +75,8 @@ bool make_primaries(const PrinterModel& model, std::array<cmsCIEXYZ, 3>& primari
   return true;
 }
 
-/// The tone response with the black's light k beneath it, as the parametric curve of ICC.1 10.18
-/// with a straight toe and offsets:
+/// The tone response above black's light k, as the parametric curve of ICC.1 10.18 with a straight
+/// toe and offsets:
 ///   Y = (a v + b)^g + e  from v = d up,  Y = c v + f  below.
 /// With t(v) = ((v + toe) / (1 + toe))^g the light is k + (1 - k) t(v); the toe is the tangent of
 /// t through 0, which touches it at toe / (g - 1).
@@ -88,8 +88,8 @@ Curve make_tone_response(const PrinterModel& model) {
   const double b = scale - a;
   const double d = model.toe / (g - 1);
   const double c = g * a * std::pow(a * d + b, g - 1);
-  // Rounded here as the profile will round them, the two pieces still meet: e takes the white to 1
-  // and f takes the toe to the curve.
+  // These are rounded as the profile will round them, so that the two pieces still meet: e makes
+  // the white 1, and f makes the toe end at the curve.
   const Vector rounded = {to_profile_unit(g), to_profile_unit(a), to_profile_unit(b)};
   const double e = to_profile_unit(1 - std::pow(rounded[1] + rounded[2], rounded[0]));
   const double f = std::pow(rounded[1] * d + rounded[2], rounded[0]) + e - to_profile_unit(c) * d;
@@ -130,8 +130,8 @@ std::vector<unsigned char> saved(void* profile) {
                                                                 : std::vector<unsigned char>();
 }
 
-/// Puts midnight of the model's day in the place of the moment of making, then the fingerprint of
-/// the whole.
+/// Replaces the time of creation by midnight of the model's day, and then sets the profile's
+/// fingerprint.
 bool fix_date_and_id(const ModelDate& date, std::vector<unsigned char>& bytes) {
   const std::array<int, 6> created = {date.year, date.month, date.day, 0, 0, 0};
   for (std::size_t i = 0; i < created.size(); ++i) {

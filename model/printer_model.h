@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The printer model as an ICC profile, compiled in: the colours of the printer where no profile of
-// a measured printer is at hand.
+// The printer model as an ICC profile, compiled in: the printer's colours where there is no profile
+// of a measured printer.
 #ifndef TQR7_MODEL_PRINTER_MODEL_H
 #define TQR7_MODEL_PRINTER_MODEL_H
 

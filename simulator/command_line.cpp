@@ -43,9 +43,10 @@ void add_place_options(CLI::App& app, Options& options) {
       ->type_name("FILE");
   app.add_option("--output", options.output, "folder for the sheets (the current one)")
       ->type_name("DIR");
-  app.add_option("--record", options.record, "file to keep every byte that comes")
+  app.add_option("--record", options.record, "file for a copy of every byte that comes")
       ->type_name("FILE");
-  app.add_option("--timeline", options.timeline, "file to note when what came, to the microsecond")
+  app.add_option("--timeline", options.timeline,
+                 "file for the time of each event, to the microsecond")
       ->type_name("FILE");
 }
 
@@ -61,16 +62,16 @@ void add_view_options(CLI::App& app, Options& options) {
                "draw the cut and the white border's edge into the sheets");
   app.add_flag("--contact-sheet", options.contactSheet,
                "keep a page of all sheets, index.html, in the folder");
-  app.add_flag("--verbose", options.verbose, "say every field of every command");
+  app.add_flag("--verbose", options.verbose, "log every field of every command");
 }
 
 void add_fault_options(CLI::App& app, Options& options) {
   app.add_option("--fault", options.faults.rules,
-                 "a rule of what goes wrong; may come several times")
+                 "a rule of what goes wrong; may be given several times")
       ->type_name("RULE")
       ->expected(1)
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-  app.add_option("--script", options.faults.script, "file with one such rule a line")
+  app.add_option("--script", options.faults.script, "file with such rules, one on each line")
       ->type_name("FILE");
   add_number(app, "--status", "error number to answer status requests with (0)", "NUMBER", 0,
              kNumberMost, [&options](std::uint64_t number) {
