@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <string>
 
 #include "conversion/change_codes.h"
 #include "tests/unit/conversion/test_page.h"
@@ -11,8 +12,7 @@
 namespace {
 
 /// A request in order, which each test spoils in one place.
-class PageErrors : public testing::Test {
- protected:
+struct Request {
   long call() { return MVChangeImage(source_, params_, destination_, matte_, rgbRate_, opRate_); }
 
   void expectRefused(long code) {
@@ -42,6 +42,92 @@ class PageErrors : public testing::Test {
   unsigned char* opRate_ = &rates[1];
 };
 
+struct Refusal {
+  const char* name;
+  long code;
+  void (*spoil)(Request&);
+};
+
+class PageErrorsOf : public testing::TestWithParam<Refusal> {};
+
+TEST_P(PageErrorsOf, ThisRequestHaveTheirCode) {
+  Request request;
+  GetParam().spoil(request);
+  request.expectRefused(GetParam().code);
+}
+
+const Refusal kRefusals[] = {
+    {"ANullSource", 11, [](Request& r) { r.source_ = nullptr; }},
+    {"ANullParameterBlock", 12, [](Request& r) { r.params_ = nullptr; }},
+    {"ANullDestination", 13, [](Request& r) { r.destination_ = nullptr; }},
+    {"ANullRgbRate", 14, [](Request& r) { r.rgbRate_ = nullptr; }},
+    {"ANullOpRate", 15, [](Request& r) { r.opRate_ = nullptr; }},
+    {"ASourceWithoutPixels", 21, [](Request& r) { r.source.pBits = nullptr; }},
+    {"ASourceOfZeroWidth", 22, [](Request& r) { r.source.rcBand.right = r.source.rcBand.left; }},
+    {"ASourceOfZeroHeight", 22, [](Request& r) { r.source.rcBand.bottom = r.source.rcBand.top; }},
+    {"ASourceOfNegativeWidth", 22, [](Request& r) { r.source.rcBand.right = -6; }},
+    {"ASourceOfNegativeHeight", 22, [](Request& r) { r.source.rcBand.bottom = -4; }},
+    {"ASourceTurnedInsideOutAtTheEndsOf64Bits", 22,
+     [](Request& r) {
+       r.source.rcBand = {INT64_MAX, 0, INT64_MIN, 4};
+     }},
+    {"ASourceBeyondAnyMemory", 23,
+     [](Request& r) {
+       r.source.rcBand.right = std::int64_t{1} << 40;
+       r.source.rcBand.bottom = std::int64_t{1} << 40;
+     }},
+    {"ASourceAsWideAs64Bits", 23,
+     [](Request& r) {
+       r.source.rcBand.left = INT64_MIN;
+       r.source.rcBand.right = INT64_MAX;
+     }},
+    {"ASourceAsHighAs64Bits", 23,
+     [](Request& r) {
+       r.source.rcBand.top = INT64_MIN;
+       r.source.rcBand.bottom = INT64_MAX;
+     }},
+    // 3 times this width is 5 beyond 2^64.
+    {"AWidthWhoseBytesWrapAroundToAFew", 23,
+     [](Request& r) {
+       r.source.rcBand.right = 0x5555555555555557;
+       r.destination.rcBand.right = r.source.rcBand.right;
+     }},
+    {"AStrideBeyondAnyMemory", 23, [](Request& r) { r.source.lStride = INT64_MIN; }},
+    {"ASourceStrideShorterThanALine", 24, [](Request& r) { r.source.lStride = -17; }},
+    {"APositiveSourceStrideShorterThanALine", 24, [](Request& r) { r.source.lStride = 17; }},
+    {"ASourceStrideOfZero", 24, [](Request& r) { r.source.lStride = 0; }},
+    {"ADestinationWithoutPixels", 31, [](Request& r) { r.destination.pBits = nullptr; }},
+    {"ADestinationOfZeroWidth", 32,
+     [](Request& r) { r.destination.rcBand.right = r.destination.rcBand.left; }},
+    {"ADestinationOfNegativeHeight", 32, [](Request& r) { r.destination.rcBand.bottom = -1; }},
+    {"ADestinationBeyondAnyMemory", 33, [](Request& r) { r.destination.rcBand.right = INT64_MAX; }},
+    {"ADestinationStrideBeyondAnyMemory", 33,
+     [](Request& r) { r.destination.lStride = INT64_MIN; }},
+    {"ADestinationStrideShorterThanALine", 34, [](Request& r) { r.destination.lStride = -35; }},
+    {"APositiveDestinationStrideShorterThanALine", 34,
+     [](Request& r) { r.destination.lStride = 35; }},
+    {"ADestinationOfAnotherWidth", 35, [](Request& r) { r.destination.rcBand.right = 5; }},
+    {"ADestinationOfAnotherHeight", 35, [](Request& r) { r.destination.rcBand.bottom = 3; }},
+    {"AMatteBandWithoutPixels", 41, [](Request& r) { r.matte.pBits = nullptr; }},
+    {"AMatteBandOfZeroWidth", 42, [](Request& r) { r.matte.rcBand.right = 0; }},
+    {"AMatteBandOfNegativeHeight", 42, [](Request& r) { r.matte.rcBand.bottom = -16; }},
+    {"AMatteBandBeyondAnyMemory", 43, [](Request& r) { r.matte.rcBand.bottom = INT64_MAX; }},
+    {"AMatteStrideBeyondAnyMemory", 43, [](Request& r) { r.matte.lStride = INT64_MIN; }},
+    {"AMatteStrideShorterThanALine", 44, [](Request& r) { r.matte.lStride = -7; }},
+    {"SharpnessChangesNothingAboutARefusal", 44,
+     [](Request& r) {
+       r.params.dwFlags |= kChangeFlagSharpness;
+       r.matte.lStride = -7;
+     }},
+};
+
+INSTANTIATE_TEST_SUITE_P(Refusals, PageErrorsOf, testing::ValuesIn(kRefusals),
+                         [](const testing::TestParamInfo<Refusal>& refusal) {
+                           return std::string(refusal.param.name);
+                         });
+
+class PageErrors : public testing::Test, public Request {};
+
 TEST_F(PageErrors, TheUnspoiledRequestIsConverted) {
   EXPECT_EQ(call(), 0);
   EXPECT_FALSE(destinationBand.untouched());
@@ -50,190 +136,10 @@ TEST_F(PageErrors, TheUnspoiledRequestIsConverted) {
   EXPECT_NE(rates[1], 0xA5);
 }
 
-TEST_F(PageErrors, ANullSourceIs11) {
-  source_ = nullptr;
-  expectRefused(11);
-}
-
-TEST_F(PageErrors, ANullParameterBlockIs12) {
-  params_ = nullptr;
-  expectRefused(12);
-}
-
-TEST_F(PageErrors, ANullDestinationIs13) {
-  destination_ = nullptr;
-  expectRefused(13);
-}
-
-TEST_F(PageErrors, ANullRgbRateIs14) {
-  rgbRate_ = nullptr;
-  expectRefused(14);
-}
-
-TEST_F(PageErrors, ANullOpRateIs15) {
-  opRate_ = nullptr;
-  expectRefused(15);
-}
-
-TEST_F(PageErrors, ASourceWithoutPixelsIs21) {
-  source.pBits = nullptr;
-  expectRefused(21);
-}
-
-TEST_F(PageErrors, ASourceOfZeroWidthIs22) {
-  source.rcBand.right = source.rcBand.left;
-  expectRefused(22);
-}
-
-TEST_F(PageErrors, ASourceOfZeroHeightIs22) {
-  source.rcBand.bottom = source.rcBand.top;
-  expectRefused(22);
-}
-
-TEST_F(PageErrors, ASourceOfNegativeWidthIs22) {
-  source.rcBand.right = -6;
-  expectRefused(22);
-}
-
-TEST_F(PageErrors, ASourceOfNegativeHeightIs22) {
-  source.rcBand.bottom = -4;
-  expectRefused(22);
-}
-
-TEST_F(PageErrors, ASourceTurnedInsideOutAtTheEndsOf64BitsIs22) {
-  source.rcBand = {INT64_MAX, 0, INT64_MIN, 4};  // the difference would wrap around to 1
-  expectRefused(22);
-}
-
-TEST_F(PageErrors, ASourceBeyondAnyMemoryIs23) {
-  source.rcBand.right = std::int64_t{1} << 40;
-  source.rcBand.bottom = std::int64_t{1} << 40;
-  expectRefused(23);
-}
-
-TEST_F(PageErrors, ASourceAsWideAs64BitsIs23) {
-  source.rcBand.left = INT64_MIN;
-  source.rcBand.right = INT64_MAX;
-  expectRefused(23);
-}
-
-TEST_F(PageErrors, ASourceAsHighAs64BitsIs23) {
-  source.rcBand.top = INT64_MIN;
-  source.rcBand.bottom = INT64_MAX;
-  expectRefused(23);
-}
-
-TEST_F(PageErrors, AWidthWhoseBytesWrapAroundToAFewIs23) {
-  source.rcBand.right = 0x5555555555555557;  // times 3: 5 beyond 2^64
-  destination.rcBand.right = source.rcBand.right;
-  expectRefused(23);
-}
-
-TEST_F(PageErrors, AStrideBeyondAnyMemoryIs23) {
-  source.lStride = INT64_MIN;
-  expectRefused(23);
-}
-
-TEST_F(PageErrors, ASourceStrideShorterThanALineIs24) {
-  source.lStride = -17;
-  expectRefused(24);
-}
-
-TEST_F(PageErrors, APositiveSourceStrideShorterThanALineIs24) {
-  source.lStride = 17;
-  expectRefused(24);
-}
-
-TEST_F(PageErrors, ASourceStrideOfZeroIs24) {
-  source.lStride = 0;
-  expectRefused(24);
-}
-
-TEST_F(PageErrors, ADestinationWithoutPixelsIs31) {
-  destination.pBits = nullptr;
-  expectRefused(31);
-}
-
-TEST_F(PageErrors, ADestinationOfZeroWidthIs32) {
-  destination.rcBand.right = destination.rcBand.left;
-  expectRefused(32);
-}
-
-TEST_F(PageErrors, ADestinationOfNegativeHeightIs32) {
-  destination.rcBand.bottom = -1;
-  expectRefused(32);
-}
-
-TEST_F(PageErrors, ADestinationBeyondAnyMemoryIs33) {
-  destination.rcBand.right = INT64_MAX;
-  expectRefused(33);
-}
-
-TEST_F(PageErrors, ADestinationStrideBeyondAnyMemoryIs33) {
-  destination.lStride = INT64_MIN;
-  expectRefused(33);
-}
-
-TEST_F(PageErrors, ADestinationStrideShorterThanALineIs34) {
-  destination.lStride = -35;
-  expectRefused(34);
-}
-
-TEST_F(PageErrors, APositiveDestinationStrideShorterThanALineIs34) {
-  destination.lStride = 35;
-  expectRefused(34);
-}
-
-TEST_F(PageErrors, ADestinationOfAnotherWidthIs35) {
-  destination.rcBand.right = 5;
-  expectRefused(35);
-}
-
-TEST_F(PageErrors, ADestinationOfAnotherHeightIs35) {
-  destination.rcBand.bottom = 3;
-  expectRefused(35);
-}
-
 TEST_F(PageErrors, ADestinationOfAnotherPlaceIsConverted) {
   destination.rcBand = {100, 616, 106, 620};
   EXPECT_EQ(call(), 0);
   EXPECT_TRUE(destinationBand.surroundingsUntouched());
-}
-
-TEST_F(PageErrors, AMatteBandWithoutPixelsIs41) {
-  matte.pBits = nullptr;
-  expectRefused(41);
-}
-
-TEST_F(PageErrors, AMatteBandOfZeroWidthIs42) {
-  matte.rcBand.right = 0;
-  expectRefused(42);
-}
-
-TEST_F(PageErrors, AMatteBandOfNegativeHeightIs42) {
-  matte.rcBand.bottom = -16;
-  expectRefused(42);
-}
-
-TEST_F(PageErrors, AMatteBandBeyondAnyMemoryIs43) {
-  matte.rcBand.bottom = INT64_MAX;
-  expectRefused(43);
-}
-
-TEST_F(PageErrors, AMatteStrideBeyondAnyMemoryIs43) {
-  matte.lStride = INT64_MIN;
-  expectRefused(43);
-}
-
-TEST_F(PageErrors, AMatteStrideShorterThanALineIs44) {
-  matte.lStride = -7;
-  expectRefused(44);
-}
-
-TEST_F(PageErrors, SharpnessChangesNothingAboutARefusal) {
-  params.dwFlags |= kChangeFlagSharpness;
-  matte.lStride = -7;
-  expectRefused(44);
 }
 
 TEST_F(PageErrors, ANullModulePathIsNoFault) {
