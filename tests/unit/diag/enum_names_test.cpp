@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <string>
 
 namespace {
@@ -15,119 +16,51 @@ Enumeration Of(int number) {
   return static_cast<Enumeration>(number);
 }
 
+/// Expects these names for the values from `first` on.
+template <typename Enumeration>
+void ExpectNames(int first, std::initializer_list<const char*> names) {
+  for (const char* name : names) {
+    EXPECT_STREQ(to_string(Of<Enumeration>(first)), name) << first;
+    ++first;
+  }
+}
+
 }  // namespace
 
-TEST(EnumNames, EverySideChannelStatusHasItsName) {
-  EXPECT_STREQ(to_string(Of<cups_sc_status_e>(0)), "CUPS_SC_STATUS_NONE");
-  EXPECT_STREQ(to_string(Of<cups_sc_status_e>(1)), "CUPS_SC_STATUS_OK");
-  EXPECT_STREQ(to_string(Of<cups_sc_status_e>(2)), "CUPS_SC_STATUS_IO_ERROR");
-  EXPECT_STREQ(to_string(Of<cups_sc_status_e>(3)), "CUPS_SC_STATUS_TIMEOUT");
-  EXPECT_STREQ(to_string(Of<cups_sc_status_e>(4)), "CUPS_SC_STATUS_NO_RESPONSE");
-  EXPECT_STREQ(to_string(Of<cups_sc_status_e>(5)), "CUPS_SC_STATUS_BAD_MESSAGE");
-  EXPECT_STREQ(to_string(Of<cups_sc_status_e>(6)), "CUPS_SC_STATUS_TOO_BIG");
-  EXPECT_STREQ(to_string(Of<cups_sc_status_e>(7)), "CUPS_SC_STATUS_NOT_IMPLEMENTED");
-}
-
-TEST(EnumNames, EveryAdvanceHasItsName) {
-  EXPECT_STREQ(to_string(Of<cups_adv_e>(0)), "CUPS_ADVANCE_NONE");
-  EXPECT_STREQ(to_string(Of<cups_adv_e>(1)), "CUPS_ADVANCE_FILE");
-  EXPECT_STREQ(to_string(Of<cups_adv_e>(2)), "CUPS_ADVANCE_JOB");
-  EXPECT_STREQ(to_string(Of<cups_adv_e>(3)), "CUPS_ADVANCE_SET");
-  EXPECT_STREQ(to_string(Of<cups_adv_e>(4)), "CUPS_ADVANCE_PAGE");
-}
-
-TEST(EnumNames, EveryTruthValueHasItsName) {
-  EXPECT_STREQ(to_string(Of<cups_bool_e>(0)), "CUPS_FALSE");
-  EXPECT_STREQ(to_string(Of<cups_bool_e>(1)), "CUPS_TRUE");
-}
-
-TEST(EnumNames, EveryCutHasItsName) {
-  EXPECT_STREQ(to_string(Of<cups_cut_e>(0)), "CUPS_CUT_NONE");
-  EXPECT_STREQ(to_string(Of<cups_cut_e>(1)), "CUPS_CUT_FILE");
-  EXPECT_STREQ(to_string(Of<cups_cut_e>(2)), "CUPS_CUT_JOB");
-  EXPECT_STREQ(to_string(Of<cups_cut_e>(3)), "CUPS_CUT_SET");
-  EXPECT_STREQ(to_string(Of<cups_cut_e>(4)), "CUPS_CUT_PAGE");
-}
-
-TEST(EnumNames, EveryEdgeHasItsName) {
-  EXPECT_STREQ(to_string(Of<cups_edge_e>(0)), "CUPS_EDGE_TOP");
-  EXPECT_STREQ(to_string(Of<cups_edge_e>(1)), "CUPS_EDGE_RIGHT");
-  EXPECT_STREQ(to_string(Of<cups_edge_e>(2)), "CUPS_EDGE_BOTTOM");
-  EXPECT_STREQ(to_string(Of<cups_edge_e>(3)), "CUPS_EDGE_LEFT");
-}
-
-TEST(EnumNames, EveryJogHasItsName) {
-  EXPECT_STREQ(to_string(Of<cups_jog_e>(0)), "CUPS_JOG_NONE");
-  EXPECT_STREQ(to_string(Of<cups_jog_e>(1)), "CUPS_JOG_FILE");
-  EXPECT_STREQ(to_string(Of<cups_jog_e>(2)), "CUPS_JOG_JOB");
-  EXPECT_STREQ(to_string(Of<cups_jog_e>(3)), "CUPS_JOG_SET");
-}
-
-TEST(EnumNames, EveryColourOrderHasItsName) {
-  EXPECT_STREQ(to_string(Of<cups_order_e>(0)), "CUPS_ORDER_CHUNKED");
-  EXPECT_STREQ(to_string(Of<cups_order_e>(1)), "CUPS_ORDER_BANDED");
-  EXPECT_STREQ(to_string(Of<cups_order_e>(2)), "CUPS_ORDER_PLANAR");
-}
-
-TEST(EnumNames, EveryOrientationHasItsName) {
-  EXPECT_STREQ(to_string(Of<cups_orient_e>(0)), "CUPS_ORIENT_0");
-  EXPECT_STREQ(to_string(Of<cups_orient_e>(1)), "CUPS_ORIENT_90");
-  EXPECT_STREQ(to_string(Of<cups_orient_e>(2)), "CUPS_ORIENT_180");
-  EXPECT_STREQ(to_string(Of<cups_orient_e>(3)), "CUPS_ORIENT_270");
-}
-
-TEST(EnumNames, EveryColourSpaceHasItsName) {
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(0)), "CUPS_CSPACE_W");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(1)), "CUPS_CSPACE_RGB");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(2)), "CUPS_CSPACE_RGBA");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(3)), "CUPS_CSPACE_K");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(4)), "CUPS_CSPACE_CMY");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(5)), "CUPS_CSPACE_YMC");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(6)), "CUPS_CSPACE_CMYK");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(7)), "CUPS_CSPACE_YMCK");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(8)), "CUPS_CSPACE_KCMY");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(9)), "CUPS_CSPACE_KCMYcm");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(10)), "CUPS_CSPACE_GMCK");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(11)), "CUPS_CSPACE_GMCS");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(12)), "CUPS_CSPACE_WHITE");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(13)), "CUPS_CSPACE_GOLD");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(14)), "CUPS_CSPACE_SILVER");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(15)), "CUPS_CSPACE_CIEXYZ");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(16)), "CUPS_CSPACE_CIELab");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(17)), "CUPS_CSPACE_RGBW");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(18)), "CUPS_CSPACE_SW");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(19)), "CUPS_CSPACE_SRGB");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(20)), "CUPS_CSPACE_ADOBERGB");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(32)), "CUPS_CSPACE_ICC1");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(33)), "CUPS_CSPACE_ICC2");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(34)), "CUPS_CSPACE_ICC3");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(35)), "CUPS_CSPACE_ICC4");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(36)), "CUPS_CSPACE_ICC5");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(37)), "CUPS_CSPACE_ICC6");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(38)), "CUPS_CSPACE_ICC7");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(39)), "CUPS_CSPACE_ICC8");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(40)), "CUPS_CSPACE_ICC9");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(41)), "CUPS_CSPACE_ICCA");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(42)), "CUPS_CSPACE_ICCB");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(43)), "CUPS_CSPACE_ICCC");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(44)), "CUPS_CSPACE_ICCD");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(45)), "CUPS_CSPACE_ICCE");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(46)), "CUPS_CSPACE_ICCF");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(48)), "CUPS_CSPACE_DEVICE1");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(49)), "CUPS_CSPACE_DEVICE2");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(50)), "CUPS_CSPACE_DEVICE3");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(51)), "CUPS_CSPACE_DEVICE4");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(52)), "CUPS_CSPACE_DEVICE5");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(53)), "CUPS_CSPACE_DEVICE6");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(54)), "CUPS_CSPACE_DEVICE7");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(55)), "CUPS_CSPACE_DEVICE8");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(56)), "CUPS_CSPACE_DEVICE9");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(57)), "CUPS_CSPACE_DEVICEA");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(58)), "CUPS_CSPACE_DEVICEB");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(59)), "CUPS_CSPACE_DEVICEC");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(60)), "CUPS_CSPACE_DEVICED");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(61)), "CUPS_CSPACE_DEVICEE");
-  EXPECT_STREQ(to_string(Of<cups_cspace_e>(62)), "CUPS_CSPACE_DEVICEF");
+TEST(EnumNames, EveryValueHasItsName) {
+  ExpectNames<cups_sc_status_e>(
+      0, {"CUPS_SC_STATUS_NONE", "CUPS_SC_STATUS_OK", "CUPS_SC_STATUS_IO_ERROR",
+          "CUPS_SC_STATUS_TIMEOUT", "CUPS_SC_STATUS_NO_RESPONSE", "CUPS_SC_STATUS_BAD_MESSAGE",
+          "CUPS_SC_STATUS_TOO_BIG", "CUPS_SC_STATUS_NOT_IMPLEMENTED"});
+  ExpectNames<cups_adv_e>(0, {"CUPS_ADVANCE_NONE", "CUPS_ADVANCE_FILE", "CUPS_ADVANCE_JOB",
+                              "CUPS_ADVANCE_SET", "CUPS_ADVANCE_PAGE"});
+  ExpectNames<cups_bool_e>(0, {"CUPS_FALSE", "CUPS_TRUE"});
+  ExpectNames<cups_cut_e>(
+      0, {"CUPS_CUT_NONE", "CUPS_CUT_FILE", "CUPS_CUT_JOB", "CUPS_CUT_SET", "CUPS_CUT_PAGE"});
+  ExpectNames<cups_edge_e>(
+      0, {"CUPS_EDGE_TOP", "CUPS_EDGE_RIGHT", "CUPS_EDGE_BOTTOM", "CUPS_EDGE_LEFT"});
+  ExpectNames<cups_jog_e>(0, {"CUPS_JOG_NONE", "CUPS_JOG_FILE", "CUPS_JOG_JOB", "CUPS_JOG_SET"});
+  ExpectNames<cups_order_e>(0, {"CUPS_ORDER_CHUNKED", "CUPS_ORDER_BANDED", "CUPS_ORDER_PLANAR"});
+  ExpectNames<cups_orient_e>(
+      0, {"CUPS_ORIENT_0", "CUPS_ORIENT_90", "CUPS_ORIENT_180", "CUPS_ORIENT_270"});
+  ExpectNames<cups_cspace_e>(
+      0, {"CUPS_CSPACE_W",       "CUPS_CSPACE_RGB",    "CUPS_CSPACE_RGBA",   "CUPS_CSPACE_K",
+          "CUPS_CSPACE_CMY",     "CUPS_CSPACE_YMC",    "CUPS_CSPACE_CMYK",   "CUPS_CSPACE_YMCK",
+          "CUPS_CSPACE_KCMY",    "CUPS_CSPACE_KCMYcm", "CUPS_CSPACE_GMCK",   "CUPS_CSPACE_GMCS",
+          "CUPS_CSPACE_WHITE",   "CUPS_CSPACE_GOLD",   "CUPS_CSPACE_SILVER", "CUPS_CSPACE_CIEXYZ",
+          "CUPS_CSPACE_CIELab",  "CUPS_CSPACE_RGBW",   "CUPS_CSPACE_SW",     "CUPS_CSPACE_SRGB",
+          "CUPS_CSPACE_ADOBERGB"});
+  ExpectNames<cups_cspace_e>(
+      32, {"CUPS_CSPACE_ICC1", "CUPS_CSPACE_ICC2", "CUPS_CSPACE_ICC3", "CUPS_CSPACE_ICC4",
+           "CUPS_CSPACE_ICC5", "CUPS_CSPACE_ICC6", "CUPS_CSPACE_ICC7", "CUPS_CSPACE_ICC8",
+           "CUPS_CSPACE_ICC9", "CUPS_CSPACE_ICCA", "CUPS_CSPACE_ICCB", "CUPS_CSPACE_ICCC",
+           "CUPS_CSPACE_ICCD", "CUPS_CSPACE_ICCE", "CUPS_CSPACE_ICCF"});
+  ExpectNames<cups_cspace_e>(
+      48,
+      {"CUPS_CSPACE_DEVICE1", "CUPS_CSPACE_DEVICE2", "CUPS_CSPACE_DEVICE3", "CUPS_CSPACE_DEVICE4",
+       "CUPS_CSPACE_DEVICE5", "CUPS_CSPACE_DEVICE6", "CUPS_CSPACE_DEVICE7", "CUPS_CSPACE_DEVICE8",
+       "CUPS_CSPACE_DEVICE9", "CUPS_CSPACE_DEVICEA", "CUPS_CSPACE_DEVICEB", "CUPS_CSPACE_DEVICEC",
+       "CUPS_CSPACE_DEVICED", "CUPS_CSPACE_DEVICEE", "CUPS_CSPACE_DEVICEF"});
 }
 
 TEST(EnumNames, AnUnknownSideChannelStatusIsUnknown) {
@@ -167,19 +100,7 @@ TEST(EnumNames, TheNextUnknownValueOfATypeOverwritesTheText) {
 
 TEST(EnumNames, UnknownValuesOfDifferentTypesKeepTheirTexts) {
   const char* advance = to_string(Of<cups_adv_e>(9));
-  const char* truth = to_string(Of<cups_bool_e>(9));
   const char* cut = to_string(Of<cups_cut_e>(9));
-  const char* edge = to_string(Of<cups_edge_e>(9));
-  const char* jog = to_string(Of<cups_jog_e>(9));
-  const char* order = to_string(Of<cups_order_e>(9));
-  const char* orientation = to_string(Of<cups_orient_e>(9));
-  const char* space = to_string(Of<cups_cspace_e>(99));
   EXPECT_STREQ(advance, "cups_adv_e(9)");
-  EXPECT_STREQ(truth, "cups_bool_e(9)");
   EXPECT_STREQ(cut, "cups_cut_e(9)");
-  EXPECT_STREQ(edge, "cups_edge_e(9)");
-  EXPECT_STREQ(jog, "cups_jog_e(9)");
-  EXPECT_STREQ(order, "cups_order_e(9)");
-  EXPECT_STREQ(orientation, "cups_orient_e(9)");
-  EXPECT_STREQ(space, "cups_cspace_e(99)");
 }
