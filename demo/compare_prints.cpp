@@ -13,6 +13,7 @@
 #include <string>
 #include <utility>
 
+#include "image/file_handle.h"
 #include "photo/page_picture.h"
 
 namespace {
@@ -25,7 +26,7 @@ constexpr unsigned char kGapGrey = 0x80;
 
 // The picture of a file, on a page of these dots that it fills; without an area, as large as it is.
 Picture read_picture(const char* path, const DotArea* area = nullptr) {
-  const photo::File file(std::fopen(path, "rbe"));
+  const FileHandle file(std::fopen(path, "rbe"));
   photo::JobWishes wishes;
   wishes.scaling = photo::Scaling::Fill;
   photo::PlannedPhoto plan;

@@ -12,12 +12,9 @@
 #include <string>
 #include <vector>
 
-#include "image/file_handle.h"
 #include "photo/exif.h"
 
 namespace photo {
-
-using File = FileHandle;
 
 /// No camera takes more pixels: a file that claims to have more is not read.
 inline constexpr std::size_t kPixelsMost = 250'000'000;

@@ -10,6 +10,7 @@
 #include <memory>
 #include <string>
 
+#include "image/file_handle.h"
 #include "photo/filter_program.h"
 #include "photo/job_page.h"
 #include "photo/job_wishes.h"
@@ -26,14 +27,14 @@ int fail(const char* why) {
 }
 
 // A photo is read several times, which a pipe cannot be.
-photo::File copy_input() {
+FileHandle copy_input() {
   std::array<char, 1024> name{};
   const int descriptor = cupsTempFd(name.data(), static_cast<int>(name.size()));
   if (descriptor < 0) {
     return nullptr;
   }
   unlink(name.data());
-  photo::File copy(fdopen(descriptor, "w+b"));
+  FileHandle copy(fdopen(descriptor, "w+b"));
   std::array<char, 65536> piece{};
   std::size_t length = 0;
   while (copy != nullptr && (length = std::fread(piece.data(), 1, piece.size(), stdin)) > 0) {
@@ -99,8 +100,8 @@ int print_photo(const char* optionText, const char* copies, std::FILE* file) {
 }
 
 int print_photo(int argc, char* argv[]) {
-  const photo::File file =
-      argc == photo::kArgumentsWithFile ? photo::File(std::fopen(argv[6], "rbe")) : copy_input();
+  const FileHandle file =
+      argc == photo::kArgumentsWithFile ? FileHandle(std::fopen(argv[6], "rbe")) : copy_input();
   if (file == nullptr) {
     return fail("its file cannot be read");
   }

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "image/file_handle.h"
 #include "language/display_width.h"
 #include "language/messages.h"
 #include "tools/command_line.h"
@@ -44,8 +45,8 @@ struct Options {
 };
 
 // A folder is opened without complaint, and fails when it is read.
-photo::File open_file(const std::string& path) {
-  photo::File file(std::fopen(path.c_str(), "rbe"));
+FileHandle open_file(const std::string& path) {
+  FileHandle file(std::fopen(path.c_str(), "rbe"));
   if (file == nullptr || (std::fgetc(file.get()) == EOF && std::ferror(file.get()) != 0)) {
     throw std::system_error(errno, std::generic_category(), path);
   }
@@ -229,7 +230,7 @@ int check(const Options& options) {
     return cannot(filled(_("\"%s\" is no size; there are %s"), plain_text(options.size).c_str(),
                          all_sizes().c_str()));
   }
-  const photo::File file = open_file(options.photo);
+  const FileHandle file = open_file(options.photo);
   const photo::JobOptions jobOptions(options.ForJob().c_str());
   PhotoJob job{
       *size, photo::read_wishes(jobOptions, "1", size->paper->nImageLeft == 0), {}, {}, {}};

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "image/file_handle.h"
 #include "photo/page_picture.h"
 
 namespace {
@@ -62,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   const photo::JobWishes wishes = wishes_of(data[0], data[1]);
   std::string bytes(data + 2, data + size);
-  const photo::File file(fmemopen(bytes.data(), bytes.size(), "rb"));
+  const FileHandle file(fmemopen(bytes.data(), bytes.size(), "rb"));
   if (file == nullptr) {
     std::abort();
   }
