@@ -63,17 +63,17 @@ struct Fault {
   std::uint16_t number = 0;  ///< an error number or an enable code
   std::uint64_t count = 0;
   std::chrono::milliseconds delay{0};
-  std::vector<std::uint64_t> pieces;  ///< lengths of all pieces but the last
-  std::vector<std::uint8_t> stray;
+  std::vector<std::uint64_t> pieces{};  ///< lengths of all pieces but the last
+  std::vector<std::uint8_t> stray{};
 
   bool operator==(const Fault&) const = default;
 };
 
 /// A rule as it was written.
 struct FaultRule {
-  Moment moment;
-  Fault fault;
-  Extent extent;
+  Moment moment{};
+  Fault fault{};
+  Extent extent{};
 
   bool operator==(const FaultRule&) const = default;
 };
