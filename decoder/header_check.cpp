@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,14 @@ std::string in_words(const std::vector<std::uint16_t>& values) {
     words.push_back(std::to_string(value));
   }
   return alternatives(words);
+}
+
+std::vector<std::uint16_t> all_widths() {
+  std::set<std::uint16_t> widths;
+  for (const SheetSize& sheet : sheet_sizes()) {
+    widths.insert(sheet.width);
+  }
+  return {widths.begin(), widths.end()};
 }
 
 std::vector<std::uint16_t> heights_for(std::uint16_t width) {
@@ -136,7 +145,7 @@ bool check_sheet(const JobHeader& header, Command command, std::uint64_t blockOf
   const std::vector<std::uint16_t> heights = heights_for(header.sheetWidth);
   if (heights.empty()) {
     report({blockOffset + kOffsetSheetWidth, command, "sheet width",
-            std::to_string(header.sheetWidth), "1550 or 1852"});
+            std::to_string(header.sheetWidth), in_words(all_widths())});
   } else {
     report({blockOffset + kOffsetSheetHeight, command, "sheet height",
             std::to_string(header.sheetHeight),
