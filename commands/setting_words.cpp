@@ -8,29 +8,18 @@
 
 namespace {
 
-struct NamedPaper {
-  const tagPAPERINFO& paper;
-  const char* name;
-};
-
-constexpr NamedPaper kPapers[] = {
-    {PAPER_9x13, "9 x 13 cm"},
-    {PAPER_10x15, "10 x 15 cm"},
-    {PAPER_13x18, "13 x 18 cm"},
-    {PAPER_15x20, "15 x 20 cm"},
-    {PAPER_5x15x2_1, "5 x 15 cm, two on one page"},
-    {PAPER_5x15x2_2, "5 x 15 cm, two, a page each"},
-    {PAPER_5x15, "5 x 15 cm"},
-    {PAPER_15x15, "15 x 15 cm"},
-    {PAPER_13x13, "13 x 13 cm"},
-    {PAPER_9x13_WB, "9 x 13 cm, white border"},
-    {PAPER_10x15_WB, "10 x 15 cm, white border"},
-    {PAPER_13x18_WB, "13 x 18 cm, white border"},
-    {PAPER_15x20_WB, "15 x 20 cm, white border"},
-};
-
 constexpr const char* kSharpness[] = {"None", "-3", "-2", "-1", "Normal", "+1", "+2", "+3"};
 constexpr std::uint8_t kModeFast = 5;
+
+// What print dialogs say of two prints is too long for a line.
+std::string short_words(const NamedPaper& known) {
+  std::string words = known.words;
+  if (known.paper->byTwoUpMode == 0) {
+    return words;
+  }
+  return words.substr(0, words.find(',')) +
+         (known.paper->nJoinPages == 1 ? ", two, a page each" : ", two on one page");
+}
 
 bool is_on(std::uint8_t flag) {
   return (flag & 1U) != 0;
@@ -79,10 +68,11 @@ std::string printable(std::string_view text) {
 }
 
 std::string paper_words(const tagPRINTSETTING& settings) {
-  for (const auto& [paper, name] : kPapers) {
+  for (const NamedPaper& known : named_papers()) {
+    const tagPAPERINFO& paper = *known.paper;
     if (paper.nPaperWidth == settings.nPaperWidth && paper.nPaperHeight == settings.nPaperHeight &&
         paper.nImageHeight == settings.nImageHeight && paper.byTwoUpMode == settings.byTwoUpMode) {
-      return name;
+      return short_words(known);
     }
   }
   return "Unknown";

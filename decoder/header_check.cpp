@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "decoder/header_check.h"
 
-#include <algorithm>
 #include <array>
 #include <chrono>
 #include <set>
@@ -14,7 +13,7 @@ namespace decoder {
 namespace {
 
 // "631, 1232 or 1833"
-std::string in_words(const std::vector<std::uint16_t>& values) {
+std::string in_words(const std::set<std::uint16_t>& values) {
   std::vector<std::string> words;
   words.reserve(values.size());
   for (const std::uint16_t value : values) {
@@ -23,22 +22,30 @@ std::string in_words(const std::vector<std::uint16_t>& values) {
   return alternatives(words);
 }
 
-std::vector<std::uint16_t> all_widths() {
+const SheetSize* find_sheet(std::uint16_t width, std::uint16_t height) {
+  for (const SheetSize& sheet : sheet_sizes()) {
+    if (sheet.width == width && sheet.height == height) {
+      return &sheet;
+    }
+  }
+  return nullptr;
+}
+
+std::set<std::uint16_t> all_widths() {
   std::set<std::uint16_t> widths;
   for (const SheetSize& sheet : sheet_sizes()) {
     widths.insert(sheet.width);
   }
-  return {widths.begin(), widths.end()};
+  return widths;
 }
 
-std::vector<std::uint16_t> heights_for(std::uint16_t width) {
-  std::vector<std::uint16_t> heights;
+std::set<std::uint16_t> heights_for(std::uint16_t width) {
+  std::set<std::uint16_t> heights;
   for (const SheetSize& sheet : sheet_sizes()) {
     if (sheet.width == width) {
-      heights.push_back(sheet.height);
+      heights.insert(sheet.height);
     }
   }
-  std::sort(heights.begin(), heights.end());
   return heights;
 }
 
@@ -114,7 +121,7 @@ bool check_place(const ImageHeader& image, const JobHeader& job, const SheetSize
                  std::uint64_t blockOffset, const ErrorSink& report) {
   const auto full = against(image, full_image(sheet));
   const auto bordered = against(image, bordered_image(sheet));
-  const bool borderAllowed = sheet.whiteBorder && !is_two_up(job, sheet);
+  const bool borderAllowed = sheet.borderSide != 0 && !is_two_up(job, sheet);
   const bool border = borderAllowed && agreeing(bordered) > agreeing(full);
   const std::string why =
       std::string(border ? " with a white border" : "") + " on a sheet of " + size_text(job);
@@ -142,7 +149,7 @@ bool check_sheet(const JobHeader& header, Command command, std::uint64_t blockOf
     check_two_up(header, *sheet, command, blockOffset, report);
     return true;
   }
-  const std::vector<std::uint16_t> heights = heights_for(header.sheetWidth);
+  const std::set<std::uint16_t> heights = heights_for(header.sheetWidth);
   if (heights.empty()) {
     report({blockOffset + kOffsetSheetWidth, command, "sheet width",
             std::to_string(header.sheetWidth), in_words(all_widths())});

@@ -2,45 +2,41 @@
 #include "decoder/paper_sizes.h"
 
 #include <algorithm>
-#include <array>
+#include <vector>
+
+#include "job/paper_table.h"
 
 namespace decoder {
 namespace {
 
-constexpr std::array<SheetSize, 7> kSheets{{
-    {1550, 1082, true, false},   // 9x13
-    {1852, 1232, true, true},    // 10x15, and two 5x15
-    {1550, 2134, true, false},   // 13x18
-    {1852, 2434, true, false},   // 15x20
-    {1852, 631, false, false},   // 5x15
-    {1852, 1833, false, false},  // 15x15
-    {1550, 1533, false, false},  // 13x13
-}};
+void add_sheet(const tagPAPERINFO& paper, std::vector<SheetSize>& sheets) {
+  const auto width = static_cast<std::uint16_t>(paper.nPaperWidth);
+  const auto height = static_cast<std::uint16_t>(paper.nPaperHeight);
+  auto found = std::find_if(sheets.begin(), sheets.end(), [=](const SheetSize& sheet) {
+    return sheet.width == width && sheet.height == height;
+  });
+  if (found == sheets.end()) {
+    found = sheets.insert(found, {width, height, 0, 0, false});
+  }
+  if (paper.nImageLeft != 0) {
+    found->borderSide = static_cast<std::uint16_t>(paper.nImageLeft);
+    found->borderTop = static_cast<std::uint16_t>(paper.nImageTop);
+  }
+  found->twoUp = found->twoUp || paper.byTwoUpMode != 0;
+}
 
-constexpr std::uint16_t kBorderSide = 84;
-constexpr std::uint16_t kBorderTop = 74;
+std::vector<SheetSize> sheets_of_papers() {
+  std::vector<SheetSize> sheets;
+#define PAPER(name, record, ...) add_sheet(record, sheets);
+#include "job/paper_list.def"
+  return sheets;
+}
 
 }  // namespace
 
 std::span<const SheetSize> sheet_sizes() {
-  return kSheets;
-}
-
-const SheetSize* find_sheet(std::uint16_t width, std::uint16_t height) {
-  const auto* const found =
-      std::find_if(kSheets.begin(), kSheets.end(), [width, height](const SheetSize& sheet) {
-        return sheet.width == width && sheet.height == height;
-      });
-  return found == kSheets.end() ? nullptr : &*found;
-}
-
-ImagePlace full_image(const SheetSize& sheet) {
-  return {0, 0, sheet.width, sheet.height};
-}
-
-ImagePlace bordered_image(const SheetSize& sheet) {
-  return {kBorderSide, kBorderTop, static_cast<std::uint16_t>(sheet.width - 2 * kBorderSide),
-          static_cast<std::uint16_t>(sheet.height - 2 * kBorderTop)};
+  static const std::vector<SheetSize> sheets = sheets_of_papers();
+  return sheets;
 }
 
 }  // namespace decoder

@@ -9,12 +9,13 @@
 
 namespace decoder {
 
-/// One sheet size.
+/// One sheet size. The border is that of an image with a white border; 0 where there may be none.
 struct SheetSize {
   std::uint16_t width;
   std::uint16_t height;
-  bool whiteBorder;  ///< an image with a white border is allowed, too
-  bool twoUp;        ///< may carry two prints
+  std::uint16_t borderSide;  ///< left and right
+  std::uint16_t borderTop;   ///< top and bottom
+  bool twoUp;                ///< may carry two prints
 };
 
 /// The place and size of an image on its sheet.
@@ -25,17 +26,20 @@ struct ImagePlace {
   std::uint16_t height;
 };
 
-/// All sheet sizes: 13 papers, several of which share a sheet.
+/// All sheet sizes. Several papers may share a sheet.
 std::span<const SheetSize> sheet_sizes();
 
-/// The sheet of this size, or null.
-const SheetSize* find_sheet(std::uint16_t width, std::uint16_t height);
-
 /// The image that covers the whole sheet.
-ImagePlace full_image(const SheetSize& sheet);
+constexpr ImagePlace full_image(const SheetSize& sheet) {
+  return {0, 0, sheet.width, sheet.height};
+}
 
-/// The image that leaves 84 dots white at each side, and 74 lines at top and bottom.
-ImagePlace bordered_image(const SheetSize& sheet);
+/// The image that leaves the sheet's border white all around.
+constexpr ImagePlace bordered_image(const SheetSize& sheet) {
+  return {sheet.borderSide, sheet.borderTop,
+          static_cast<std::uint16_t>(sheet.width - 2 * sheet.borderSide),
+          static_cast<std::uint16_t>(sheet.height - 2 * sheet.borderTop)};
+}
 
 /// Rows that a matte plane has more than its sheet.
 inline constexpr std::uint16_t kMatteExtraRows = 12;

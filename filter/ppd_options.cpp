@@ -11,21 +11,6 @@
 
 namespace {
 
-struct PaperChoice {
-  const char* name;
-  const tagPAPERINFO* paper;
-};
-
-constexpr PaperChoice kPaperChoices[] = {
-    {"RQ_9x13", &PAPER_9x13},         {"RQ_10x15", &PAPER_10x15},
-    {"RQ_13x18", &PAPER_13x18},       {"RQ_15x20", &PAPER_15x20},
-    {"RQ_5x15x2_1", &PAPER_5x15x2_1}, {"RQ_5x15x2_2", &PAPER_5x15x2_2},
-    {"RQ_5x15", &PAPER_5x15},         {"RQ_15x15", &PAPER_15x15},
-    {"RQ_13x13", &PAPER_13x13},       {"RQ_9x13_WB", &PAPER_9x13_WB},
-    {"RQ_10x15_WB", &PAPER_10x15_WB}, {"RQ_13x18_WB", &PAPER_13x18_WB},
-    {"RQ_15x20_WB", &PAPER_15x20_WB},
-};
-
 struct NamedValue {
   const char* name;
   std::uint8_t value;
@@ -46,8 +31,8 @@ const char* marked_choice(ppd_file_s* ppd, const char* keyword) {
 
 const tagPAPERINFO& marked_paper(ppd_file_s* ppd) {
   if (const char* choice = marked_choice(ppd, "PageSize"); choice != nullptr) {
-    for (const PaperChoice& known : kPaperChoices) {
-      if (strcasecmp(choice, known.name) == 0) {
+    for (const NamedPaper& known : named_papers()) {
+      if (strcasecmp(choice, known.choice) == 0) {
         return *known.paper;
       }
     }

@@ -5,6 +5,7 @@
 #define TQR7_JOB_PAPER_TABLE_H
 
 #include <cstdint>
+#include <span>
 
 /// One paper size; fields as in tagPRINTSETTING.
 struct tagPAPERINFO {
@@ -22,18 +23,24 @@ struct tagPAPERINFO {
   std::uint8_t bHalfSheetLast;  ///< true if its lowest bit is set
 };
 
-extern const tagPAPERINFO PAPER_9x13;
-extern const tagPAPERINFO PAPER_10x15;
-extern const tagPAPERINFO PAPER_13x18;
-extern const tagPAPERINFO PAPER_15x20;
-extern const tagPAPERINFO PAPER_5x15x2_1;  ///< two prints, composed by the application
-extern const tagPAPERINFO PAPER_5x15x2_2;  ///< two prints, one a raster page
-extern const tagPAPERINFO PAPER_5x15;
-extern const tagPAPERINFO PAPER_15x15;
-extern const tagPAPERINFO PAPER_13x13;
-extern const tagPAPERINFO PAPER_9x13_WB;  ///< _WB: with a white border
-extern const tagPAPERINFO PAPER_10x15_WB;
-extern const tagPAPERINFO PAPER_13x18_WB;
-extern const tagPAPERINFO PAPER_15x20_WB;
+// PAPER_9x13, PAPER_10x15, …: a constant for each row of the list. _WB is a white border. Two
+// prints lie on the sheets PAPER_5x15x2_1, composed by the application, and PAPER_5x15x2_2, where
+// each is a raster page.
+#define PAPER(name, ...) extern const tagPAPERINFO PAPER_##name;
+#include "job/paper_list.def"
+
+/// A paper under the names that it has elsewhere. Arrays, so that the loader has no addresses to
+/// fill in when the filter starts.
+struct NamedPaper {
+  const tagPAPERINFO* paper;
+  char choice[16];   ///< the PPD's PageSize: "RQ_10x15"
+  int photo_width;   ///< millimetres of the photo that people ask for, 102 x 152
+  int photo_height;  ///< millimetres
+  char inches[8];    ///< "4x6"; empty where people have no such name
+  char words[81];    ///< "10 x 15 cm"
+};
+
+/// All papers, in the order of the PPD.
+std::span<const NamedPaper> named_papers();
 
 #endif  // TQR7_JOB_PAPER_TABLE_H

@@ -91,15 +91,15 @@ const char* to_string(photo::Scaling scaling) {
   }
 }
 
-void print_paper(const PrintSize& size) {
+void print_paper(const NamedPaper& size) {
   const tagPAPERINFO& paper = *size.paper;
   print_line(kPaper,
-             filled(_("%1$s, %2$d x %3$d dots, %4$s x %5$s mm"), size.name,
+             filled(_("%1$s, %2$d x %3$d dots, %4$s x %5$s mm"), size.choice,
                     static_cast<int>(paper.nPaperWidth), static_cast<int>(paper.nPaperHeight),
                     decimal(millimetres(static_cast<double>(paper.nPaperWidth)), 1).c_str(),
                     decimal(millimetres(static_cast<double>(paper.nPaperHeight)), 1).c_str()));
   if (paper.nImageWidth != paper.nPaperWidth || paper.nImageHeight != paper.nPaperHeight) {
-    const char* const form = size.HalfSheet()
+    const char* const form = is_half_sheet(size)
                                  ? _("%1$d x %2$d dots, one of two prints on the sheet")
                                  : _("%1$d x %2$d dots, inside a white border");
     print_line(kImageArea, filled(form, static_cast<int>(paper.nImageWidth),
@@ -195,7 +195,7 @@ Json json_of(const std::string& file, const PhotoJob& job, const PhotoCheck& che
   const tagPAPERINFO& paper = *job.size.paper;
   const photo::PhotoShape& shape = job.plan.shape;
   return {{"photo", {{"file", file}, {"width", shape.width}, {"height", shape.height}}},
-          {"size", job.size.name},
+          {"size", job.size.choice},
           {"sheet", {{"width", paper.nPaperWidth}, {"height", paper.nPaperHeight}}},
           {"image_area",
            {{"left", paper.nImageLeft},
@@ -218,14 +218,14 @@ Json json_of(const std::string& file, const PhotoJob& job, const PhotoCheck& che
 
 std::string all_sizes() {
   std::string names;
-  for (const PrintSize& size : print_sizes()) {
-    names += (names.empty() ? "" : ", ") + std::string(size.name);
+  for (const NamedPaper& size : named_papers()) {
+    names += (names.empty() ? "" : ", ") + std::string(size.choice);
   }
   return names;
 }
 
 int check(const Options& options) {
-  const PrintSize* const size = find_print_size(options.size);
+  const NamedPaper* const size = find_paper(options.size);
   if (size == nullptr) {
     return cannot(filled(_("\"%s\" is no size; there are %s"), plain_text(options.size).c_str(),
                          all_sizes().c_str()));
@@ -278,7 +278,9 @@ void add_check(CommandLine& program) {
       "check", _("say how a photo will come out on a paper size, before paper is spent"));
   const auto options = std::make_shared<Options>();
   sub.Text("PHOTO", options->photo, _("a JPEG or PNG file")).Required();
-  sub.Text("--size", options->size, _("paper size, with or without RQ_")).Called("SIZE").Required();
+  sub.Text("--size", options->size, _("paper size, such as RQ_10x15, 10x15 or 4x6"))
+      .Called("SIZE")
+      .Required();
   sub.Text("--scaling", options->scaling,
            _("print-scaling of the job: fit, the system's own choice for photos, or fill"))
       .Called("fit|fill")

@@ -135,12 +135,12 @@ std::vector<std::string> find_notes(const PhotoJob& job) {
                               "The photo takes %zu pages, column by column.", pages),
                            pages));
   }
-  if (job.size.TwoOnOnePage()) {
+  if (has_two_on_one_page(job.size)) {
     notes.push_back(filled(_("The sheet is cut into two prints below line %d; one photo on the "
                              "whole page is cut in two."),
                            static_cast<int>(job.size.paper->nTwoUpSplit)));
   }
-  if (job.size.HalfSheet()) {
+  if (is_half_sheet(job.size)) {
     notes.emplace_back(
         _("A sheet takes two such pages; the other half of a lone one stays white."));
   }

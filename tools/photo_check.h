@@ -26,7 +26,7 @@ const char* to_string(Sharpness sharpness);
 
 /// A photo and a job that prints it on a paper size.
 struct PhotoJob {
-  const PrintSize& size;
+  const NamedPaper& size;
   photo::JobWishes wishes;
   photo::PlannedPhoto plan;
   photo::PagePicture page;  ///< the last page, as phototopage makes it

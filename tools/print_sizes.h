@@ -1,33 +1,28 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The paper sizes under the names that people give them, and the page that each gives a picture.
+// The papers under the names that people give them, and how prints lie on them.
 #ifndef TQR7_TOOLS_PRINT_SIZES_H
 #define TQR7_TOOLS_PRINT_SIZES_H
 
-#include <cstdint>
-#include <span>
 #include <string_view>
 
 #include "job/paper_table.h"
 
 namespace tools {
 
-/// One PageSize of the PPD.
-struct PrintSize {
-  const char* name;  ///< "RQ_10x15"
-  const tagPAPERINFO* paper;
+/// The first paper that people call so, in any case: "RQ_10x15", "10x15", "4x6" or "102x152mm".
+/// Null when there is none.
+const NamedPaper* find_paper(std::string_view name);
 
-  /// A raster page is one of two prints on the sheet.
-  bool HalfSheet() const { return paper->nJoinPages != 0; }
-  /// Two prints lie on one page, and the printer cuts the sheet between them.
-  bool TwoOnOnePage() const { return paper->byTwoUpMode != 0 && !HalfSheet(); }
-};
+/// A raster page is one of two prints on the sheet.
+inline bool is_half_sheet(const NamedPaper& size) {
+  return size.paper->nJoinPages != 0;
+}
 
-/// All 13 sizes, in the order of the PPD.
-std::span<const PrintSize> print_sizes();
-
-/// The size of this name, with or without "RQ_", in any case; null when there is none.
-const PrintSize* find_print_size(std::string_view name);
+/// Two prints lie on one page, and the printer cuts the sheet between them.
+inline bool has_two_on_one_page(const NamedPaper& size) {
+  return size.paper->byTwoUpMode != 0 && !is_half_sheet(size);
+}
 
 }  // namespace tools
 

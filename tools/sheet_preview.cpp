@@ -27,10 +27,10 @@ struct Box {
 using Dots = Box<double>;
 using Pixels = Box<std::size_t>;
 
-Dots sheet_dots(const PrintSize& size) {
+Dots sheet_dots(const NamedPaper& size) {
   const tagPAPERINFO& paper = *size.paper;
-  return {0, 0, static_cast<double>(size.HalfSheet() ? paper.nImageWidth : paper.nPaperWidth),
-          static_cast<double>(size.HalfSheet() ? paper.nImageHeight : paper.nPaperHeight)};
+  return {0, 0, static_cast<double>(is_half_sheet(size) ? paper.nImageWidth : paper.nPaperWidth),
+          static_cast<double>(is_half_sheet(size) ? paper.nImageHeight : paper.nPaperHeight)};
 }
 
 Dots printed_dots(const tagPAPERINFO& paper, const photo::DotArea& printed) {
@@ -163,7 +163,7 @@ std::string draw_preview(std::FILE* file, const PhotoJob& job, const PhotoCheck&
   draw_line(preview, {left, bottom, right, bottom});
   draw_line(preview, {left, top, left, bottom});
   draw_line(preview, {right, top, right, bottom});
-  if (job.size.TwoOnOnePage()) {
+  if (has_two_on_one_page(job.size)) {
     const std::size_t split = frame.Down(static_cast<double>(job.size.paper->nTwoUpSplit));
     draw_line(preview, {left, split, right, split});
   }

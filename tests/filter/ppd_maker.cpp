@@ -15,8 +15,9 @@ struct Option {
 // Choices beyond what a printer's PPD would offer are here for what the filter makes of them.
 constexpr Option kOptions[] = {
     {"PageSize",
-     "RQ_9x13 RQ_10x15 RQ_13x18 RQ_15x20 RQ_5x15x2_1 RQ_5x15x2_2 RQ_5x15 RQ_15x15 RQ_13x13 "
-     "RQ_9x13_WB RQ_10x15_WB RQ_13x18_WB RQ_15x20_WB rq_5X15 Letter RQ_5x15x2_3"},
+#define PAPER(name, ...) "RQ_" #name " "
+#include "job/paper_list.def"
+     "rq_5X15 Letter RQ_5x15x2_3"},
     {"RQSharpness_Common", "Normal None Minus3 Minus2 Minus1 Plus1 Plus2 Plus3 Plus4 minus2"},
     {"RQPrintMode", "Auto Fast Slow fast"},
     {"RQPrintFinish", "Gloss Matte Silk matte"},

@@ -25,11 +25,6 @@ namespace {
 
 using fuzz::require;
 
-const std::array<const tagPAPERINFO*, 13> kPapers = {
-    &PAPER_9x13,     &PAPER_10x15,    &PAPER_13x18,   &PAPER_15x20, &PAPER_5x15x2_1,
-    &PAPER_5x15x2_2, &PAPER_5x15,     &PAPER_15x15,   &PAPER_13x13, &PAPER_9x13_WB,
-    &PAPER_10x15_WB, &PAPER_13x18_WB, &PAPER_15x20_WB};
-
 bool is_on(const tagPRINTSETTING& settings, const tagPAPERINFO& paper) {
   return settings.nPaperWidth == paper.nPaperWidth && settings.nPaperHeight == paper.nPaperHeight &&
          settings.nImageWidth == paper.nImageWidth && settings.nImageHeight == paper.nImageHeight &&
@@ -46,8 +41,10 @@ bool within(const std::int16_t (&tone)[3], int limit) {
 }
 
 void check_settings(const tagPRINTSETTING& settings) {
-  require(std::count_if(kPapers.begin(), kPapers.end(),
-                        [&](const tagPAPERINFO* paper) { return is_on(settings, *paper); }) == 1);
+  const std::span<const NamedPaper> papers = named_papers();
+  require(std::count_if(papers.begin(), papers.end(), [&](const NamedPaper& known) {
+            return is_on(settings, *known.paper);
+          }) == 1);
   require(settings.bySharpness <= 7);
   require(settings.byPrintMode == 0 || settings.byPrintMode == 5);
   require(settings.byPrintFinish == 0 || settings.byPrintFinish == kFinishMatte);

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tests/fuzz/small_papers.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace fuzz {
 namespace {
 
-constexpr std::uint16_t kBorder = 3;   // dots and lines
 constexpr std::uint32_t kSplit = 616;  // the only one that the printer knows, on small sheets too
 
 }  // namespace
@@ -40,7 +38,7 @@ namespace {
 
 std::vector<SheetSize> all_sheets() {
   std::vector<SheetSize> sheets{
-      {1550, 1082, true, false}, {1852, 1232, true, true}, {1852, 631, false, false}};
+      {1550, 1082, 84, 74, false}, {1852, 1232, 84, 74, true}, {1852, 631, 0, 0, false}};
   for (const fuzz::SmallPaper& paper : fuzz::kSmallPapers) {
     sheets.push_back(paper.sheet);
   }
@@ -52,23 +50,6 @@ std::vector<SheetSize> all_sheets() {
 std::span<const SheetSize> sheet_sizes() {
   static const std::vector<SheetSize> sheets = all_sheets();
   return sheets;
-}
-
-const SheetSize* find_sheet(std::uint16_t width, std::uint16_t height) {
-  const auto sheets = sheet_sizes();
-  const auto found = std::find_if(sheets.begin(), sheets.end(), [=](const SheetSize& sheet) {
-    return sheet.width == width && sheet.height == height;
-  });
-  return found == sheets.end() ? nullptr : &*found;
-}
-
-ImagePlace full_image(const SheetSize& sheet) {
-  return {0, 0, sheet.width, sheet.height};
-}
-
-ImagePlace bordered_image(const SheetSize& sheet) {
-  return {fuzz::kBorder, fuzz::kBorder, static_cast<std::uint16_t>(sheet.width - 2 * fuzz::kBorder),
-          static_cast<std::uint16_t>(sheet.height - 2 * fuzz::kBorder)};
 }
 
 }  // namespace decoder

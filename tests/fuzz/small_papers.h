@@ -21,11 +21,11 @@ struct SmallPaper {
 };
 
 inline constexpr std::array<SmallPaper, 5> kSmallPapers{{
-    {{6, 4, false, false}, false, false},
-    {{12, 10, true, false}, true, false},
-    {{8, 6, false, true}, false, true},
-    {{33, 9, false, true}, false, false},
-    {{201, 180, true, false}, false, false},  // more than one full buffer of pixels
+    {{6, 4, 0, 0, false}, false, false},
+    {{12, 10, 3, 3, false}, true, false},
+    {{8, 6, 0, 0, true}, false, true},
+    {{33, 9, 0, 0, true}, false, false},
+    {{201, 180, 3, 3, false}, false, false},  // more than one full buffer of pixels
 }};
 
 /// The job's settings for a paper, every option at its default.

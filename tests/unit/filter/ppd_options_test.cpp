@@ -9,8 +9,8 @@
 #include <cstdint>
 #include <cstring>
 #include <string>
-#include <vector>
 
+#include "job/paper_table.h"
 #include "tests/unit/ppd_file.h"
 
 namespace {
@@ -75,28 +75,19 @@ TEST(PpdOptions, WithoutAPpdEverythingIsAtItsDefault) {
 }
 
 TEST(PpdOptions, EveryPageSizeHasItsGeometry) {
-  struct Size {
-    const char* choice;
-    Geometry geometry;
-  };
-  const std::vector<Size> sizes = {
-      {"RQ_9x13", {1550, 1082, 1550, 1082, 0, 0, 0, 0, 0, 0, 0, 0}},
-      {"RQ_10x15", {1852, 1232, 1852, 1232, 0, 0, 0, 0, 0, 0, 0, 0}},
-      {"RQ_13x18", {1550, 2134, 1550, 2134, 0, 0, 0, 0, 0, 0, 0, 0}},
-      {"RQ_15x20", {1852, 2434, 1852, 2434, 0, 0, 0, 0, 0, 0, 0, 0}},
-      {"RQ_5x15x2_1", {1852, 1232, 1852, 1232, 0, 0, 1, 616, 1, 0, 0, 0}},
-      {"RQ_5x15x2_2", {1852, 1232, 1852, 616, 0, 0, 1, 616, 1, 1, 0, 0}},
-      {"RQ_5x15", {1852, 631, 1852, 631, 0, 0, 0, 0, 0, 0, 0, 0}},
-      {"RQ_15x15", {1852, 1833, 1852, 1833, 0, 0, 0, 0, 0, 0, 0, 0}},
-      {"RQ_13x13", {1550, 1533, 1550, 1533, 0, 0, 0, 0, 0, 0, 0, 0}},
-      {"RQ_9x13_WB", {1550, 1082, 1382, 934, 84, 74, 0, 0, 0, 0, 0, 0}},
-      {"RQ_10x15_WB", {1852, 1232, 1684, 1084, 84, 74, 0, 0, 0, 0, 0, 0}},
-      {"RQ_13x18_WB", {1550, 2134, 1382, 1986, 84, 74, 0, 0, 0, 0, 0, 0}},
-      {"RQ_15x20_WB", {1852, 2434, 1684, 2286, 84, 74, 0, 0, 0, 0, 0, 0}},
-  };
-  for (const Size& size : sizes) {
-    EXPECT_EQ(GeometryOf(SettingsWith("PageSize", size.choice)), size.geometry) << size.choice;
+  for (const NamedPaper& known : named_papers()) {
+    const tagPAPERINFO& paper = *known.paper;
+    EXPECT_EQ(
+        GeometryOf(SettingsWith("PageSize", known.choice)),
+        (Geometry{paper.nPaperWidth, paper.nPaperHeight, paper.nImageWidth, paper.nImageHeight,
+                  paper.nImageLeft, paper.nImageTop, paper.byTwoUpMode, paper.nTwoUpSplit,
+                  paper.byTwoUpOption, paper.nJoinPages, paper.nJoinGap, paper.bHalfSheetLast}))
+        << known.choice;
   }
+  EXPECT_EQ(GeometryOf(SettingsWith("PageSize", "RQ_5x15x2_2")),
+            (Geometry{1852, 1232, 1852, 616, 0, 0, 1, 616, 1, 1, 0, 0}));
+  EXPECT_EQ(GeometryOf(SettingsWith("PageSize", "RQ_15x20_WB")),
+            (Geometry{1852, 2434, 1684, 2286, 84, 74, 0, 0, 0, 0, 0, 0}));
 }
 
 TEST(PpdOptions, APageSizesLetterCaseDoesNotCount) {

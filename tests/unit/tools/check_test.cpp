@@ -328,6 +328,16 @@ TEST(Check, OfAFileThatCannotBeReadSaysWhy) {
   EXPECT_EQ(directory.status, 2);
 }
 
+TEST(Check, TakesASizeByTheNamesThatPeopleGiveIt) {
+  const std::string photo = jpeg_file(60, 40);
+  for (const char* name : {"rq_10X15", "10x15", "4x6", "102x152mm"}) {
+    EXPECT_THAT(check(photo, {name}).out,
+                HasSubstr("Paper:      RQ_10x15, 1852 x 1232 dots, 156.8 x 104.3 mm\n"))
+        << name;
+  }
+  EXPECT_EQ(check(photo, {""}).status, 2);
+}
+
 TEST(Check, OfASizeThatThereIsNotNamesThoseThatThereAre) {
   const ToolRun run = check(jpeg_file(60, 40), {"A4"});
   EXPECT_EQ(run.errors,
