@@ -17,7 +17,7 @@ lp_options=() printer_options=()
 build=${TQR7_BUILD:-}
 
 size_names() {
-  sed -n 's/^\*\{0,1\}CustomMedia "\(RQ_[^/]*\)\/.*/\1/p' "$here/ppd/tqr7.drv"
+  "$here/scripts/papers" | cut -d ' ' -f 1
 }
 
 usage() {

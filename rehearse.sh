@@ -103,7 +103,7 @@ open_shell() {
   echo "see-to-printer mends the printer, printer-log shows what it said, exit ends all."
   local settings
   settings=$(mktemp "$SCHEDULER_DIR/rc.XXXXXX") || fail "no room in $SCHEDULER_DIR"
-  printf '%s\n' "PS1='rehearsal\$ '" ". '$here/tools/completion/tqr7'" >"$settings"
+  printf '%s\n' "PS1='rehearsal\$ '" ". '$build/completion/tqr7'" >"$settings"
   bash --rcfile "$settings" -i
 }
 

@@ -94,7 +94,7 @@ function(tqr7_install)
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tools)
   install(FILES docs/tqr7.1 docs/tqr7-printer-sim.1
     DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tools)
-  install(FILES tools/completion/tqr7
+  install(FILES "${CMAKE_BINARY_DIR}/completion/tqr7"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" COMPONENT tools)
 
   install(FILES packaging/metainfo/com.corvantiel.tqr7.metainfo.xml

@@ -6,7 +6,9 @@ import subprocess
 
 from meter import BUILD, Run
 
-WIDTH, HEIGHT = 1852, 1232  # dots of a 10 x 15 sheet
+PAPERS = subprocess.check_output([pathlib.Path(__file__).parents[2] / "scripts/papers"], text=True)
+SIZES = {row.split()[0]: tuple(map(int, row.split()[1:3])) for row in PAPERS.splitlines()}
+WIDTH, HEIGHT = SIZES["RQ_10x15"]  # dots of the sheet
 IMAGE_BYTES = WIDTH * HEIGHT * 6  # as they go to the printer
 EMPTY_STREAM = b"3SaR"  # a raster stream without pages
 NO_PAGES = 1  # the filter's status for a job without pages

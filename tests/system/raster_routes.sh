@@ -23,12 +23,7 @@ export PPD=$TQR7_BUILD/tqr7.ppd LC_ALL=C PRINTER=TQR7 TMPDIR=$work HOME=$work
 export FINAL_CONTENT_TYPE=application/vnd.cups-raster
 
 # Name and image area in dots.
-sizes=(
-  'RQ_9x13 1550 1082' 'RQ_10x15 1852 1232' 'RQ_13x18 1550 2134' 'RQ_15x20 1852 2434'
-  'RQ_5x15 1852 631' 'RQ_15x15 1852 1833' 'RQ_13x13 1550 1533' 'RQ_5x15x2_1 1852 1232'
-  'RQ_5x15x2_2 1852 616' 'RQ_9x13_WB 1382 934' 'RQ_10x15_WB 1684 1084'
-  'RQ_13x18_WB 1382 1986' 'RQ_15x20_WB 1684 2286'
-)
+mapfile -t sizes < <("$here/../../scripts/papers" | cut -d ' ' -f 1,4,5)
 
 # Runs a filter of the job: PROGRAM OPTIONS [FILE].
 run() {

@@ -8,7 +8,7 @@ set -uo pipefail
 source=$1
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-ln -s "$source/status" "$work/status"
+ln -s "$source/job" "$source/scripts" "$source/status" "$work"
 failures=0
 fail() {
   echo "FAILED: $*"
@@ -106,8 +106,7 @@ msgstr "{class}/{number}!"
 #~ msgid "Fast"
 #~ msgstr "gone"
 PO
-awk -f "$source/ppd/whole-drv.awk" "$source/status/reason_list.def" "$source/ppd/tqr7.drv" \
-  >"$work/whole.drv"
+"$source/ppd/whole-drv" >"$work/whole.drv"
 got=$(awk -f "$source/ppd/po/drv-texts.awk" -f "$source/ppd/po/for-ppdc.awk" \
   "$work/whole.drv" "$work/in.po")
 [ "$(grep -c '^msgid' <<<"$got")" -eq 103 ] || fail "selected is $got"

@@ -4,15 +4,15 @@
 # rebuild.sh SOURCE-FOLDER CMAKE GENERATOR
 set -euo pipefail
 
+cd "$1"
 source=$1 cmake=$2 generator=$3
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 ppd=$work/build/tqr7.ppd
 
-# The folder by itself and the list that it reads, with one language.
-mkdir "$work/status"
+# The folder by itself and the lists that it reads, with one language.
 cp -r "$source/ppd" "$work"
-cp "$source/status/reason_list.def" "$work/status"
+cp --parents -t "$work" -- job/paper_list.def scripts/papers status/reason_list.def
 cat >"$work/CMakeLists.txt" <<'PROJECT'
 cmake_minimum_required(VERSION 3.25)
 project(printer_description NONE)
@@ -44,5 +44,6 @@ expect_rebuilt ppd/po/de.po 's|"Matt"|"Stumpf"|' '*de.RQPrintFinish Matte/Stumpf
 expect_rebuilt status/reason_list.def \
   's|^REASON(7552,.*|&\nREASON(7553, 0018, "com.corvantiel-error0018_7553", kErrorText)|' \
   '*cupsIPPReason com.corvantiel-error0018_7553/Printer error 7553 (class 0018). '
+expect_rebuilt job/paper_list.def 's|"10 x 15 cm"|"4 x 6 inches"|' '*PageSize RQ_10x15/4 x 6 inches:'
 expect_rebuilt status/reason_list.def 's|"Printer error {number} (class|"Error {number} (class|' \
   '*cupsIPPReason com.corvantiel-error0008_2665/Error 2665 (class 0008). '

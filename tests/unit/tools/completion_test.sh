@@ -50,8 +50,8 @@ expect tqr7 check --s = '--size --scaling'
 expect tqr7 check photo.jpg --scaling '' = 'fit fill'
 expect tqr7 check --size RQ_10 = 'RQ_10x15 RQ_10x15_WB'
 expect tqr7 check --size RQ_5 = 'RQ_5x15 RQ_5x15x2_1 RQ_5x15x2_2'
-expect tqr7 check --size '' = "RQ_9x13 RQ_9x13_WB RQ_10x15 RQ_10x15_WB RQ_13x18 RQ_13x18_WB \
-RQ_15x20 RQ_15x20_WB RQ_5x15 RQ_15x15 RQ_13x13 RQ_5x15x2_1 RQ_5x15x2_2"
+expect tqr7 check --size '' = "RQ_9x13 RQ_10x15 RQ_13x18 RQ_15x20 RQ_5x15 RQ_15x15 RQ_13x13 \
+RQ_5x15x2_1 RQ_5x15x2_2 RQ_9x13_WB RQ_10x15_WB RQ_13x18_WB RQ_15x20_WB"
 
 # All options that there are, and no other, in the words of the program's own help.
 options_of_help() {
