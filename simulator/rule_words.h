@@ -30,8 +30,8 @@ class RuleWords {
   /// Takes this word; any other is an error.
   bool Require(std::string_view word);
 
-  /// Takes a number, decimal or hexadecimal after 0x; anything else is an error. `otherwise` says
-  /// in the message what else could be there, such as ", \"late\" or \"silent\"".
+  /// Takes a number, decimal or hexadecimal after 0x; anything else is an error. The message lists
+  /// after the number what `otherwise` says could be there.
   std::optional<std::uint64_t> Number(std::uint64_t low, std::uint64_t high,
                                       std::string_view otherwise = {});
 

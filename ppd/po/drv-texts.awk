@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 #
-# The texts of a PPD's source, KEY/Text in quotes, in their order: drv_text[1 .. drv_texts]. What needs
-# no translation is left out: numbers, and PostScript.
+# The texts of a PPD's source, KEY/Text in quotes, in their order: drv_text[1 .. drv_texts]. Numbers and
+# PostScript are left out, because they need no translation.
 
 # Remembers the texts of one line.
 function add_drv_texts(line,    text) {
@@ -19,7 +19,7 @@ function add_drv_texts(line,    text) {
 }
 
 # The catalogue has one sentence for all printer errors of a kind: "Printer error {number} (class
-# {class}). …". Other texts stand there as they are.
+# {class}). …". All other texts are in it as they are.
 function catalogue_text(text) {
   if (text ~ /^Printer error [0-9]/ && text !~ /^Printer error 0004/) {
     sub(/error [0-9]+/, "error {number}", text)

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: Apache-2.0
 #
-# The texts of the PPD as entries of a catalogue without translations.
+# Writes the texts of the PPD as entries of a catalogue without translations.
 #
 #   awk -f drv-texts.awk -f for-pot.awk whole.drv > ppd.pot
 

@@ -1,11 +1,11 @@
 # SPDX-License-Identifier: Apache-2.0
 #
-# A catalogue as the PPD compiler can read it: the texts of the PPD alone, each by itself. The
-# compiler's reader knows neither plurals nor contexts, and takes an unsure translation for a good one.
+# Makes a catalogue that the PPD compiler can read: only the texts of the PPD, and a separate entry for
+# each error. The compiler knows neither plurals nor contexts, and would use an unsure translation.
 #
 #   awk -f drv-texts.awk -f for-ppdc.awk whole.drv de.po > reduced/de.po
 
-# What stands between the quotes of a line; quotes within stay escaped.
+# The text between the quotes of a line; quotes within it stay escaped.
 function quoted(line) {
   sub(/^[^"]*"/, "", line)
   sub(/"[ \t\r]*$/, "", line)
