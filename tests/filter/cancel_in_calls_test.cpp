@@ -14,8 +14,6 @@
 namespace filter_test {
 namespace {
 
-const Settings kSettings{};
-
 TEST(CancelInCalls, InAWriteOfTheStreamLeavesItAlone) {
   EXPECT_GE(CancelInEach(SmallPhoto(), "fwrite", "before", 2), 10);
   EXPECT_GE(CancelInEach(SmallPhoto(), "fwrite", "after", 3), 10);

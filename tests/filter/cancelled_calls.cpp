@@ -12,7 +12,6 @@
 namespace filter_test {
 namespace {
 
-const Settings kSettings{};
 const std::size_t kFirstHeaders = StatusRequest().size() + StatusRequest().size() + 512;
 
 void ExpectBeginning(const Outcome& outcome, const Example& example) {
@@ -34,9 +33,7 @@ bool Arrived(const Outcome& outcome) {
 }
 
 Example SmallPhoto() {
-  return {{.input = SmallRaster()},
-          StatusRequest() + Sheet(kSettings, SmallImage()) + PrintOut(),
-          kFirstHeaders};
+  return {{.input = SmallRaster()}, SmallStream(), kFirstHeaders};
 }
 
 Example SelfTest() {

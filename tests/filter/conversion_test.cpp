@@ -10,8 +10,6 @@
 namespace filter_test {
 namespace {
 
-const Settings kSettings{};
-
 TEST(Conversion, OfAGlossPageGetsThePageTheSettingsAndABlankImage) {
   EXPECT_EQ(Print({.input = SmallRaster()}).calls,
             "call 1\n"

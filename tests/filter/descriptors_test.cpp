@@ -10,14 +10,12 @@
 namespace filter_test {
 namespace {
 
-const Settings kSettings{};
-
 std::string PrintedStream() {
-  return StatusRequest() + Sheet(kSettings, SmallImage()) + PrintOut();
+  return SmallStream();
 }
 
 std::string PrintedLog() {
-  return GoodStart() + SmallPage() + SmallSheet(kSettings);
+  return SmallLog();
 }
 
 void ExpectNoTwoWays(const Outcome& outcome) {

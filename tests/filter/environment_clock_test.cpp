@@ -20,7 +20,7 @@ std::string DateOf(const Outcome& outcome) {
 
 void ExpectDate(const Outcome& outcome, const std::string& date) {
   EXPECT_EQ(testing::PrintToString(DateOf(outcome)), testing::PrintToString(date));
-  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + SmallSheet({})));
+  EXPECT_TRUE(SameLog(outcome.log, SmallLog()));
   EXPECT_EQ(outcome.status, 0);
 }
 

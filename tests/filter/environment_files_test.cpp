@@ -15,12 +15,6 @@
 namespace filter_test {
 namespace {
 
-void ExpectPrinted(const Outcome& outcome) {
-  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + SmallSheet({})));
-  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet({}, SmallImage()) + PrintOut()));
-  EXPECT_EQ(outcome.status, 0);
-}
-
 /// A job whose PPD cannot be used ends before anything is sent.
 void ExpectNoPpd(const std::string& path) {
   const Outcome outcome = Print({.input = SmallRaster(), .environment = {{"PPD", path}}});

@@ -13,22 +13,14 @@
 namespace filter_test {
 namespace {
 
-const Settings kGloss{};
-const Settings kMattePage{.finish = kMatte};
+const Settings kSettings{};
 constexpr std::size_t kHuge =
     std::size_t{120} * 1024;  // the system takes up to 128 KiB in one argument
-
-void ExpectPrinted(const Outcome& outcome, const Settings& settings) {
-  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + SmallSheet(settings)));
-  EXPECT_TRUE(
-      SameStream(outcome.stream, StatusRequest() + Sheet(settings, SmallImage()) + PrintOut()));
-  EXPECT_EQ(outcome.status, 0);
-}
 
 TEST(Environment, OfNothingButThePpdPrints) {
   ExpectPrinted(Print({.input = SmallRaster(),
                        .unset = {"HOME", "LC_ALL", "PATH", "TMPDIR", "TZ", "CUPS_SERVERROOT"}}),
-                kGloss);
+                kSettings);
 }
 
 TEST(Environment, OfHugeValuesPrints) {
@@ -44,7 +36,7 @@ TEST(Environment, OfHugeValuesPrints) {
                                        {"CUPS_DATADIR", huge},
                                        {"CONTENT_TYPE", huge},
                                        {"DEVICE_URI", huge}}}),
-                kGloss);
+                kSettings);
 }
 
 TEST(Environment, OfAThousandVariablesPrints) {
@@ -52,18 +44,18 @@ TEST(Environment, OfAThousandVariablesPrints) {
   for (int number = 0; number < 1000; ++number) {
     variables["VARIABLE_" + std::to_string(number)] = std::string(1000, 'v');
   }
-  ExpectPrinted(Print({.input = SmallRaster(), .environment = variables}), kGloss);
+  ExpectPrinted(Print({.input = SmallRaster(), .environment = variables}), kSettings);
 }
 
 TEST(Scheduler, ThatTakesNoConnectionHasNoDefaultDestination) {
   ExpectPrinted(Print({.input = SmallRaster(), .environment = {{"CUPS_SERVER", "127.0.0.1:1"}}}),
-                kGloss);
+                kSettings);
 }
 
 TEST(Scheduler, OfAHugeNameHasNoDefaultDestination) {
   ExpectPrinted(Print({.input = SmallRaster(),
                        .environment = {{"CUPS_SERVER", "/" + std::string(kHuge, 'x')}}}),
-                kGloss);
+                kSettings);
 }
 
 /// Listens as a server on a local socket of this name.
@@ -84,7 +76,7 @@ TEST(Scheduler, ThatNeverAnswersIsGivenUpAndHasNoDefaultDestination) {
                        .environment = {{"CUPS_SERVER", folder.Path("scheduler")},
                                        {"FILTER_TEST_MOST_WAIT", "200"},
                                        {"FILTER_TEST_WAIT_SCALE", "1"}}}),
-                kGloss);
+                kSettings);
 }
 
 TEST(OptionsText, WithAHugeValueIsReadToItsEnd) {
@@ -94,7 +86,7 @@ TEST(OptionsText, WithAHugeValueIsReadToItsEnd) {
 
 TEST(OptionsText, WithAHugeChoiceLeavesTheDefault) {
   const std::string text = "RQPrintFinish=" + std::string(kHuge, 'M');
-  ExpectPrinted(Print({.input = SmallRaster(), .options = text}), kGloss);
+  ExpectPrinted(Print({.input = SmallRaster(), .options = text}), kSettings);
 }
 
 TEST(OptionsText, OfThousandsOfOptionsIsReadToItsEnd) {
@@ -130,11 +122,11 @@ TEST(OptionsText, OfBracketsAndQuotesWithoutEndPrints) {
 TEST(Arguments, ThatAreHugePrint) {
   const std::string huge(kHuge, 'x');
   ExpectPrinted(Print({.input = SmallRaster(), .arguments = {{huge, huge, huge, huge, ""}}}),
-                kGloss);
+                kSettings);
 }
 
 TEST(Arguments, ThatAreEmptyPrint) {
-  ExpectPrinted(Print({.input = SmallRaster(), .arguments = {{"", "", "", "", ""}}}), kGloss);
+  ExpectPrinted(Print({.input = SmallRaster(), .arguments = {{"", "", "", "", ""}}}), kSettings);
 }
 
 }  // namespace

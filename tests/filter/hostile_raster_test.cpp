@@ -12,16 +12,6 @@
 namespace filter_test {
 namespace {
 
-const Settings kSettings{};
-
-void ExpectSheet(const Outcome& outcome, const Pixels& seen, const std::string& progress) {
-  EXPECT_TRUE(
-      SameStream(outcome.stream, StatusRequest() + Sheet(kSettings, ImageData(seen)) + PrintOut()));
-  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, progress) +
-                                       Conversion(33, 33, 44, 44) + SmallSheet(kSettings)));
-  EXPECT_EQ(outcome.status, 0);
-}
-
 Pixels White() {
   return Pixels::White(1550, 1082);
 }

@@ -11,14 +11,12 @@
 namespace filter_test {
 namespace {
 
-const Settings kSettings{};
-
 std::string WholeStream() {
-  return StatusRequest() + Sheet(kSettings, SmallImage()) + PrintOut();
+  return SmallStream();
 }
 
 std::string WholeLog() {
-  return GoodStart() + SmallPage() + SmallSheet(kSettings);
+  return SmallLog();
 }
 
 TEST(ShortWrite, OfAnImageThatIsStoppedAgainAndAgainLosesNothing) {

@@ -10,7 +10,6 @@
 namespace filter_test {
 namespace {
 
-const Settings kSettings{};
 const std::string kError = "ERROR: " + kAnyText + "\n";
 const std::string kConverting = "DEBUG: Params=" + kDefaultParams + "\n";
 const std::string kStagingBuffer = "196608";
@@ -46,8 +45,7 @@ TEST(MissingMemory, ForTheSecondPageEndsTheJobWithoutAPrintOut) {
   const Outcome outcome = Print(JobWithout("5031300 2", 2));
 
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet(kSettings, SmallImage())));
-  EXPECT_TRUE(SameLog(outcome.log,
-                      GoodStart() + SmallPage() + SmallSheet(kSettings) + "PAGE: 2 1\n" + kError));
+  EXPECT_TRUE(SameLog(outcome.log, SmallLog() + "PAGE: 2 1\n" + kError));
   EXPECT_EQ(outcome.status, 1);
 }
 
@@ -133,7 +131,7 @@ TEST(MissingMemory, ForTheMatteTransferLeavesTheMattePlaneOutUnnoticed) {
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + StatusRequest() + ReadinessQuery(matte) +
                                              JobHeader(matte) + ImageHeader(matte) + SmallImage() +
                                              PrintOut()));
-  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + SmallSheet(matte)));
+  EXPECT_TRUE(SameLog(outcome.log, SmallLog(matte)));
   EXPECT_EQ(outcome.status, 0);
 }
 

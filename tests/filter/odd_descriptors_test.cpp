@@ -16,7 +16,6 @@
 namespace filter_test {
 namespace {
 
-const Settings kSettings{};
 const std::string kAskedAndRefused =
     kBanner + "DEBUG: CUPS_SC_CMD_GET_BIDI=CUPS_SC_STATUS_TIMEOUT(3)\n" + kNoTwoWays;
 
@@ -28,7 +27,7 @@ Outcome PrintWith(int descriptor, const Opened& opened) {
        .given_descriptors = {{descriptor, opened.number()}}});
 }
 
-void ExpectNoTwoWays(const Outcome& outcome) {
+void ExpectAskedInVain(const Outcome& outcome) {
   EXPECT_TRUE(SameLog(outcome.log, kAskedAndRefused));
   EXPECT_TRUE(SameStream(outcome.stream, ""));
   EXPECT_EQ(outcome.status, 1);
@@ -41,44 +40,39 @@ void ExpectUnavailable(const Outcome& outcome, int result) {
   EXPECT_EQ(outcome.status, 1);
 }
 
-void ExpectPrinted(const Outcome& outcome) {
-  EXPECT_TRUE(
-      SameStream(outcome.stream, StatusRequest() + Sheet(kSettings, SmallImage()) + PrintOut()));
+void ExpectSent(const Outcome& outcome) {
+  EXPECT_TRUE(SameStream(outcome.stream, SmallStream()));
   EXPECT_EQ(outcome.status, 0);
 }
 
-std::string PrintedLog() {
-  return GoodStart() + SmallPage() + SmallSheet(kSettings);
-}
-
 TEST(SideChannel, ThatIsAFolderMeansNoTwoWays) {
-  ExpectNoTwoWays(PrintWith(4, Opened("/", O_RDONLY)));
+  ExpectAskedInVain(PrintWith(4, Opened("/", O_RDONLY)));
 }
 
 TEST(SideChannel, ThatIsAnEmptyFileMeansNoTwoWays) {
   const TemporaryFolder folder;
-  ExpectNoTwoWays(PrintWith(4, Opened(folder.Write("file", ""), O_RDWR)));
+  ExpectAskedInVain(PrintWith(4, Opened(folder.Write("file", ""), O_RDWR)));
 }
 
 TEST(SideChannel, ThatIsTheNullDeviceMeansNoTwoWays) {
-  ExpectNoTwoWays(PrintWith(4, Opened("/dev/null", O_RDWR)));
+  ExpectAskedInVain(PrintWith(4, Opened("/dev/null", O_RDWR)));
 }
 
 TEST(SideChannel, ThatIsAFileOfRightAnswersMeansNoTwoWays) {
   // The question is written over the answer, and what is behind it is read.
   const TemporaryFolder folder;
   const std::string path = folder.Write("file", "\x03\x01\x00\x01\x01"s);
-  ExpectNoTwoWays(PrintWith(4, Opened(path, O_RDWR)));
+  ExpectAskedInVain(PrintWith(4, Opened(path, O_RDWR)));
 }
 
 TEST(SideChannel, ThatGivesZerosWithoutEndMeansNoTwoWays) {
-  ExpectNoTwoWays(PrintWith(4, Opened("/dev/zero", O_RDWR)));
+  ExpectAskedInVain(PrintWith(4, Opened("/dev/zero", O_RDWR)));
 }
 
 TEST(SideChannel, ThatIsTheWriteEndOfAPipeMeansNoTwoWays) {
   const auto [read_end, write_end] = HighPipe();
   const Opened reader(read_end);
-  ExpectNoTwoWays(PrintWith(4, Opened(write_end)));
+  ExpectAskedInVain(PrintWith(4, Opened(write_end)));
 }
 
 TEST(SideChannel, WhosePeerIsGoneEndsTheFilterByTheSystemsOwnSignal) {
@@ -102,7 +96,7 @@ TEST(SideChannel, ThatIsClosedInMidAnswerMeansNoTwoWays) {
   ASSERT_EQ(write(ours.number(), "\x03\x01", 2), 2);
   ASSERT_EQ(shutdown(ours.number(), SHUT_WR), 0);
 
-  ExpectNoTwoWays(PrintWith(4, theirs));
+  ExpectAskedInVain(PrintWith(4, theirs));
 }
 
 TEST(SideChannel, ThatIsClosedAfterItsFirstAnswerLeavesThePrintersToBeRead) {
@@ -170,7 +164,7 @@ TEST(BackChannel, ThatIsAFileOfGoodAnswersEndsTheJobAtItsEnd) {
 }
 
 TEST(BackChannel, ThatGivesZerosWithoutEndCountsAsAGoodPrinter) {
-  ExpectPrinted(PrintWith(3, Opened("/dev/zero", O_RDONLY)));
+  ExpectSent(PrintWith(3, Opened("/dev/zero", O_RDONLY)));
 }
 
 TEST(StandardInput, ThatIsAFolderHasNoPages) {
@@ -188,11 +182,11 @@ TEST(StandardInput, OfZerosWithoutEndHasNoPages) {
 }
 
 TEST(StandardError, ThatIsFullDoesNotMatterToTheSheet) {
-  ExpectPrinted(PrintWith(2, Opened("/dev/full", O_WRONLY)));
+  ExpectSent(PrintWith(2, Opened("/dev/full", O_WRONLY)));
 }
 
 TEST(StandardError, ThatIsAFolderDoesNotMatterToTheSheet) {
-  ExpectPrinted(PrintWith(2, Opened("/", O_RDONLY)));
+  ExpectSent(PrintWith(2, Opened("/", O_RDONLY)));
 }
 
 TEST(StandardError, WhoseReaderIsGoneEndsTheFilterBeforeAnythingIsSent) {
@@ -213,7 +207,7 @@ TEST(StandardError, WhoseReaderIsGoneDoesNotMatterToTheSheetWhereTheSignalIsIgno
                                  .given_descriptors = {{2, Opened(write_end).number()}},
                                  .broken_pipe_is_an_error = true});
 
-  ExpectPrinted(outcome);
+  ExpectSent(outcome);
 }
 
 TEST(StandardError, ThatIsFullForAWhileHoldsTheJobUpAndLosesNoLine) {
@@ -234,10 +228,10 @@ TEST(StandardError, ThatIsFullForAWhileHoldsTheJobUpAndLosesNoLine) {
     }
   });
 
-  ExpectPrinted(filter.Finish());
+  ExpectSent(filter.Finish());
 
   scheduler.join();
-  EXPECT_TRUE(SameLog(log.substr(filling.size()), PrintedLog()));
+  EXPECT_TRUE(SameLog(log.substr(filling.size()), SmallLog()));
 }
 
 }  // namespace

@@ -10,19 +10,8 @@
 namespace filter_test {
 namespace {
 
-const Settings kSettings{};
-constexpr int kWidth = 1550;
+constexpr int kPageWidth = 1550;
 constexpr int kHeight = 1082;
-
-/// A job of one sheet that shows `seen`, having read a page with this progress.
-void ExpectSheet(const Outcome& outcome, const Pixels& seen, const std::string& progress,
-                 unsigned copies = 1) {
-  EXPECT_TRUE(
-      SameStream(outcome.stream, StatusRequest() + Sheet(kSettings, ImageData(seen)) + PrintOut()));
-  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, progress, copies) +
-                                       Conversion(33, 33, 44, 44) + SmallSheet(kSettings)));
-  EXPECT_EQ(outcome.status, 0);
-}
 
 void ExpectNoPages(const Outcome& outcome) {
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + PrintOut()));
@@ -32,9 +21,9 @@ void ExpectNoPages(const Outcome& outcome) {
 
 /// White but for the first bytes of each row, which are the lines' own.
 Pixels WithRowStarts(const std::string& lines, std::size_t bytes_per_line, std::size_t taken) {
-  Pixels page = Pixels::White(kWidth, kHeight);
+  Pixels page = Pixels::White(kPageWidth, kHeight);
   for (std::size_t row = 0; row * bytes_per_line < lines.size(); ++row) {
-    page.rgb.replace(row * kWidth * 3, taken, lines, row * bytes_per_line, taken);
+    page.rgb.replace(row * kPageWidth * 3, taken, lines, row * bytes_per_line, taken);
   }
   return page;
 }
@@ -45,29 +34,31 @@ std::string Bytes(std::size_t count) {
 
 TEST(RasterPage, NarrowerThanTheImageLeavesTheRightWhite) {
   const Pixels page = Pixels::Pattern(30, kHeight);
-  ExpectSheet(Print({.input = RasterStream({RasterPage(page)})}), page.On(kWidth, kHeight),
+  ExpectSheet(Print({.input = RasterStream({RasterPage(page)})}), page.On(kPageWidth, kHeight),
               "0 5 11 17 23 29 35 41 47");
 }
 
 TEST(RasterPage, ShorterThanTheImageLeavesTheBottomWhite) {
-  const Pixels page = Pixels::Pattern(kWidth, 3);
-  ExpectSheet(Print({.input = RasterStream({RasterPage(page)})}), page.On(kWidth, kHeight), "0");
+  const Pixels page = Pixels::Pattern(kPageWidth, 3);
+  ExpectSheet(Print({.input = RasterStream({RasterPage(page)})}), page.On(kPageWidth, kHeight),
+              "0");
 }
 
 TEST(RasterPage, WiderThanTheImageIsCutAtTheRight) {
   const Pixels page = Pixels::Pattern(1700, 5);
-  ExpectSheet(Print({.input = RasterStream({RasterPage(page)})}), page.On(kWidth, kHeight), "0");
+  ExpectSheet(Print({.input = RasterStream({RasterPage(page)})}), page.On(kPageWidth, kHeight),
+              "0");
 }
 
 TEST(RasterPage, TallerThanTheImageIsCutAtTheBottom) {
   const Pixels page = Pixels::Pattern(7, 1200);
-  ExpectSheet(Print({.input = RasterStream({RasterPage(page)})}), page.On(kWidth, kHeight),
+  ExpectSheet(Print({.input = RasterStream({RasterPage(page)})}), page.On(kPageWidth, kHeight),
               "0 5 10 16 21 26 32 37 42 48");
 }
 
 TEST(RasterPage, OfAThousandLinesTellsItsProgressEightTimes) {
   const Pixels page = Pixels::Pattern(4, 1000);
-  ExpectSheet(Print({.input = RasterStream({RasterPage(page)})}), page.On(kWidth, kHeight),
+  ExpectSheet(Print({.input = RasterStream({RasterPage(page)})}), page.On(kPageWidth, kHeight),
               "0 6 12 19 25 32 38 44");
 }
 
@@ -79,21 +70,22 @@ TEST(RasterPage, ThatIsTallerIsReadToItsEndBeforeTheNextOne) {
 
   EXPECT_TRUE(SameStream(
       outcome.stream,
-      StatusRequest() + Sheet(kSettings, ImageData(tall.On(kWidth, kHeight))) +
-          Sheet(kSettings, ImageData(next.On(kWidth, kHeight)), 1, kFirstSecond + 5) + PrintOut()));
+      StatusRequest() + Sheet(kSettings, ImageData(tall.On(kPageWidth, kHeight))) +
+          Sheet(kSettings, ImageData(next.On(kPageWidth, kHeight)), 1, kFirstSecond + 5) +
+          PrintOut()));
   EXPECT_EQ(outcome.status, 0);
 }
 
 TEST(RasterPage, IsAccountedWithItsNumberOfCopies) {
   const Pixels page = SmallPixels();
-  ExpectSheet(Print({.input = RasterStream({RasterPage(page, 3)})}), page.On(kWidth, kHeight), "0",
-              3);
+  ExpectSheet(Print({.input = RasterStream({RasterPage(page, 3)})}), page.On(kPageWidth, kHeight),
+              "0", 3);
 }
 
 TEST(RasterPage, IsAccountedWithNoCopiesWhenItSaysSo) {
   const Pixels page = SmallPixels();
-  ExpectSheet(Print({.input = UncheckedStream(RasterPage(page, 0))}), page.On(kWidth, kHeight), "0",
-              0);
+  ExpectSheet(Print({.input = UncheckedStream(RasterPage(page, 0))}), page.On(kPageWidth, kHeight),
+              "0", 0);
 }
 
 TEST(RasterPage, InGreyFillsOnlyTheBytesThatItsLinesHave) {
@@ -129,12 +121,12 @@ TEST(RasterPage, WithPaddedLinesIsCutAtItsWidth) {
 TEST(RasterStream, MayBeCompressed) {
   const Pixels page = Pixels::Pattern(300, 40);
   ExpectSheet(Print({.input = RasterStream({RasterPage(page)}, CUPS_RASTER_WRITE_COMPRESSED)}),
-              page.On(kWidth, kHeight), "0");
+              page.On(kPageWidth, kHeight), "0");
 }
 
 TEST(RasterStream, MayBeOfTheFirstVersion) {
   const Pixels page = Pixels::Pattern(300, 40);
-  ExpectSheet(Print({.input = FirstVersionStream(page)}), page.On(kWidth, kHeight), "0");
+  ExpectSheet(Print({.input = FirstVersionStream(page)}), page.On(kPageWidth, kHeight), "0");
 }
 
 TEST(RasterStream, IsReadFromTheNamedFile) {
@@ -144,7 +136,7 @@ TEST(RasterStream, IsReadFromTheNamedFile) {
   const Outcome outcome =
       Print({.input = "not a raster stream", .arguments = {{"7", "anna", "Beach", "1", "", path}}});
 
-  ExpectSheet(outcome, SmallPixels().On(kWidth, kHeight), "0");
+  ExpectSheet(outcome, SmallPixels().On(kPageWidth, kHeight), "0");
 }
 
 TEST(RasterStream, ThatIsEmptyHasNoPages) {
@@ -169,8 +161,8 @@ TEST(RasterStream, ThatEndsAfterALineLeavesTheRestWhite) {
   seen.height = 140;
   const std::string stream = RasterStream({RasterPage(page)});
 
-  ExpectSheet(Print({.input = stream.substr(0, stream.size() - 9000)}), seen.On(kWidth, kHeight),
-              "0 32");
+  ExpectSheet(Print({.input = stream.substr(0, stream.size() - 9000)}),
+              seen.On(kPageWidth, kHeight), "0 32");
 }
 
 TEST(RasterStream, ThatEndsWithinALineDropsThatLine) {
@@ -179,15 +171,15 @@ TEST(RasterStream, ThatEndsWithinALineDropsThatLine) {
   seen.height = 19;
   const std::string stream = RasterStream({RasterPage(page)});
 
-  ExpectSheet(Print({.input = stream.substr(0, stream.size() - 27070)}), seen.On(kWidth, kHeight),
-              "0");
+  ExpectSheet(Print({.input = stream.substr(0, stream.size() - 27070)}),
+              seen.On(kPageWidth, kHeight), "0");
 }
 
 TEST(RasterStream, ThatEndsWithinTheSecondHeaderPrintsTheFirstPage) {
   const std::string stream = SmallRaster(2);
 
   ExpectSheet(Print({.input = stream.substr(0, SmallRaster(1).size() + 100)}),
-              SmallPixels().On(kWidth, kHeight), "0");
+              SmallPixels().On(kPageWidth, kHeight), "0");
 }
 
 }  // namespace

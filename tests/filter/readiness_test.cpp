@@ -10,13 +10,7 @@
 namespace filter_test {
 namespace {
 
-const Settings kSettings{};
 const std::string kBusyPass = "DEBUG: CMD_GET_ENABLE[01 + 00]\n[sleep 2]\n";
-
-/// The log from the start up to the first readiness query.
-std::string UpToExamination() {
-  return GoodStart() + SmallPage() + StatusExchange() + GoodState() + kCleaned + kExamine;
-}
 
 struct Refusal {
   const char* name;

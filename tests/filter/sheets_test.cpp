@@ -10,17 +10,14 @@
 namespace filter_test {
 namespace {
 
-const Settings kGloss{};
-const Settings kMattePage{.finish = kMatte};
-
 TEST(TwoPages, AreTwoSheetsAndOnePrintOut) {
   const Outcome outcome = Print({.input = SmallRaster(2)});
 
-  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet(kGloss, SmallImage(1)) +
-                                             Sheet(kGloss, SmallImage(2), 1, kFirstSecond + 5) +
+  EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet(kSettings, SmallImage(1)) +
+                                             Sheet(kSettings, SmallImage(2), 1, kFirstSecond + 5) +
                                              PrintOut()));
-  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage(1) + SmallSheet(kGloss, 1) +
-                                       SmallPage(2) + SmallSheet(kGloss, 2)));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage(1) + SmallSheet(kSettings, 1) +
+                                       SmallPage(2) + SmallSheet(kSettings, 2)));
   EXPECT_EQ(outcome.status, 0);
 }
 
@@ -39,8 +36,8 @@ TEST(Rates, StartAfreshWithEachSheet) {
   const Outcome outcome =
       Print({.input = SmallRaster(2), .environment = {{"FILTER_TEST_RATES", "10 40 20 45"}}});
 
-  const Settings first = kGloss.WithRates(10, 40);
-  const Settings second = kGloss.WithRates(20, 45);
+  const Settings first = kSettings.WithRates(10, 40);
+  const Settings second = kSettings.WithRates(20, 45);
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + Sheet(first, SmallImage(1)) +
                                              Sheet(second, SmallImage(2), 1, kFirstSecond + 5) +
                                              PrintOut()));
@@ -56,9 +53,9 @@ TEST(PrinterInError, AtTheSecondSheetEndsTheJobWithoutAPrintOut) {
       Print({.input = SmallRaster(3),
              .printer = {.status = {Answer(kGood), Answer(kGood), Answer(reply)}}});
 
-  EXPECT_TRUE(
-      SameStream(outcome.stream, StatusRequest() + Sheet(kGloss, SmallImage(1)) + StatusRequest()));
-  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage(1) + SmallSheet(kGloss, 1) +
+  EXPECT_TRUE(SameStream(outcome.stream,
+                         StatusRequest() + Sheet(kSettings, SmallImage(1)) + StatusRequest()));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage(1) + SmallSheet(kSettings, 1) +
                                        SmallPage(2) + StatusExchange(reply) +
                                        KnownError("0x2110", "com.corvantiel-error0007_2110") +
                                        kStop));
@@ -80,7 +77,7 @@ TEST(TimeStamp, OfALeapSecondIsTheLastOrdinaryOne) {
   const Outcome outcome =
       Print({.input = SmallRaster(), .environment = {{"FILTER_TEST_CLOCK", "2026 3 4 5 6 60"}}});
 
-  const std::string sheet = Sheet(kGloss, SmallImage(), 1, 59);
+  const std::string sheet = Sheet(kSettings, SmallImage(), 1, 59);
   EXPECT_TRUE(SameStream(outcome.stream, StatusRequest() + sheet + PrintOut()));
 }
 
@@ -95,7 +92,7 @@ TEST(TimeStamp, CountsMonthsFromOne) {
 
 /// The log of a job of one sheet whose default destination makes `cleaning` be written.
 std::string LogWithCleaning(const std::string& cleaning) {
-  std::string log = GoodStart() + SmallPage() + SmallSheet(kGloss);
+  std::string log = SmallLog();
   const std::string lines =
       "clean_printer_state() START\n" + cleaning + "clean_printer_state() END\n";
   for (std::size_t at = 0; (at = log.find(kCleaned, at)) != std::string::npos;) {

@@ -5,14 +5,22 @@
 #ifndef TQR7_TESTS_FILTER_SMALL_JOB_H
 #define TQR7_TESTS_FILTER_SMALL_JOB_H
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
 
+#include "tests/filter/comparison.h"
 #include "tests/filter/expected_log.h"
 #include "tests/filter/expected_stream.h"
+#include "tests/filter/filter_process.h"
 #include "tests/filter/raster_maker.h"
 
 namespace filter_test {
+
+/// A job without options, and one in matte.
+inline const Settings kSettings{};
+inline const Settings kMattePage{.finish = kMatte};
 
 inline Pixels SmallPixels(int number = 1) {
   return Pixels::Pattern(10, 4, number);
@@ -40,6 +48,35 @@ inline std::string SmallPage(int page = 1) {
 /// The log of a small page's sheet on a ready printer.
 inline std::string SmallSheet(const Settings& settings, int page = 1) {
   return SheetLog(settings, page, settings.paper->page_width, settings.paper->page_height);
+}
+
+/// The log of such a job up to the first readiness query.
+inline std::string UpToExamination() {
+  return GoodStart() + SmallPage() + StatusExchange() + GoodState() + kCleaned + kExamine;
+}
+
+/// All of a job of one small page: its log, and what goes to the printer.
+inline std::string SmallLog(const Settings& settings = kSettings) {
+  return GoodStart() + SmallPage() + SmallSheet(settings);
+}
+inline std::string SmallStream(const Settings& settings = kSettings) {
+  return StatusRequest() + Sheet(settings, SmallImage()) + PrintOut();
+}
+
+inline void ExpectPrinted(const Outcome& outcome, const Settings& settings = kSettings) {
+  EXPECT_TRUE(SameLog(outcome.log, SmallLog(settings)));
+  EXPECT_TRUE(SameStream(outcome.stream, SmallStream(settings)));
+  EXPECT_EQ(outcome.status, 0);
+}
+
+/// A job of one sheet that shows `seen`, having read a page with this progress.
+inline void ExpectSheet(const Outcome& outcome, const Pixels& seen, const std::string& progress,
+                        unsigned copies = 1) {
+  EXPECT_TRUE(
+      SameStream(outcome.stream, StatusRequest() + Sheet(kSettings, ImageData(seen)) + PrintOut()));
+  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + PageRead(1, progress, copies) +
+                                       Conversion(33, 33, 44, 44) + SmallSheet(kSettings)));
+  EXPECT_EQ(outcome.status, 0);
 }
 
 }  // namespace filter_test

@@ -11,7 +11,7 @@
 namespace filter_test {
 namespace {
 
-constexpr int kGood = 0;
+constexpr int kNoErrors = 0;
 constexpr int kErrorsFound = 1;
 
 /// The exit status of `tqr7 inspect`, whose listing is left in a file.
@@ -68,7 +68,7 @@ testing::AssertionResult PassesInspection(const std::string& stream, StreamEnd e
   }
   const int status = Inspect(folder.Write("stream", stream), folder.Path("listing"));
   const std::string errors = ErrorLines(folder.Read("listing"));
-  const bool clean = status == kGood && errors.empty();
+  const bool clean = status == kNoErrors && errors.empty();
   const bool cut = status == kErrorsFound && TellsTheCutOnly(errors, stream.size());
   const bool undated = status == kErrorsFound && TellsOfDatesOnly(errors);
   if ((clean && (end == StreamEnd::Whole || end == StreamEnd::Anywhere)) ||

@@ -10,7 +10,6 @@
 namespace filter_test {
 namespace {
 
-const Settings kSettings{};
 const std::string kStatusCommand =
     "DEBUG: [CMD] size=8\n"
     "DEBUG: [CMD] 0000: 1b 47 44 30 00 00 01 16\n";
@@ -25,10 +24,6 @@ std::string QueryLog() {
   return "DEBUG: buf cmd{0x1B, 'G', 'D', '3'}\n"
          "DEBUG: buf wr_esc_enable() START\n" +
          Dump("[CMD]", ReadinessQuery(kSettings));
-}
-
-std::string UpToExamination() {
-  return GoodStart() + SmallPage() + StatusExchange() + GoodState() + kCleaned + kExamine;
 }
 
 TEST(FullOutput, AtTheFirstStatusRequestMeansAnUnavailablePrinter) {
@@ -125,7 +120,7 @@ TEST(BrokenStream, WithinTheMattePlaneGoesUnnoticed) {
                                  .stream_end = StreamEnd::Cut});
 
   EXPECT_TRUE(SameStream(outcome.stream.substr(0, up_to_there.size()), up_to_there));
-  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + SmallSheet(matte)));
+  EXPECT_TRUE(SameLog(outcome.log, SmallLog(matte)));
   EXPECT_EQ(outcome.status, 0);
 }
 
@@ -137,7 +132,7 @@ TEST(BrokenStream, AtThePrintOutGoesUnnoticed) {
                                  .broken_pipe_is_an_error = true});
 
   EXPECT_TRUE(SameStream(outcome.stream, sheet));
-  EXPECT_TRUE(SameLog(outcome.log, GoodStart() + SmallPage() + SmallSheet(kSettings)));
+  EXPECT_TRUE(SameLog(outcome.log, SmallLog()));
   EXPECT_EQ(outcome.status, 0);
 }
 

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "tests/fuzz/seeds.h"
-#include "tests/unit/conversion/profile_maker.h"
-#include "tests/unit/tools/photo_files.h"
+#include "tests/unit/photo_files.h"
+#include "tests/unit/profile_maker.h"
 
 namespace fuzz {
 namespace {

@@ -3,7 +3,7 @@
 // Profiles of each kind that an owner may have.
 #include "model/printer_model.h"
 #include "tests/fuzz/seeds.h"
-#include "tests/unit/conversion/profile_maker.h"
+#include "tests/unit/profile_maker.h"
 
 namespace fuzz {
 namespace {

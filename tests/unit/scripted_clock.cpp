@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tests/unit/scripted_clock.h"
 
+#include "tests/unit/stand_in.h"
+
 namespace {
 
 constexpr std::time_t kMoment = 1'706'745'599;  // any moment; the local time is set apart from it
@@ -8,6 +10,8 @@ constexpr std::time_t kMoment = 1'706'745'599;  // any moment; the local time is
 std::tm local_time = {};
 bool local_time_known = false;
 bool clock_scripted = false;
+
+const bool clock_restored = AfterEachTest([] { clock_scripted = false; });
 
 }  // namespace
 
@@ -29,21 +33,18 @@ void LoseLocalTime() {
 }
 
 extern "C" std::time_t time(std::time_t* result) noexcept {
-  std::time_t moment = kMoment;
   if (!clock_scripted) {
-    std::timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
-    moment = now.tv_sec;
+    return RealFunction<decltype(time)>("time")(result);
   }
   if (result != nullptr) {
-    *result = moment;
+    *result = kMoment;
   }
-  return moment;
+  return kMoment;
 }
 
 extern "C" std::tm* localtime(const std::time_t* moment) noexcept {
   if (!clock_scripted) {
-    return localtime_r(moment, &local_time);
+    return RealFunction<decltype(localtime)>("localtime")(moment);
   }
   return local_time_known && *moment == kMoment ? &local_time : nullptr;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The clock as a test sets it: takes the place of the C library's time() and localtime().
+// The clock as a test sets it: takes the place of the C library's time() and localtime()
+// for the tests that set it.
 #ifndef TQR7_TESTS_UNIT_SCRIPTED_CLOCK_H
 #define TQR7_TESTS_UNIT_SCRIPTED_CLOCK_H
 

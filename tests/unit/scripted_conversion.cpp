@@ -5,12 +5,16 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "tests/unit/stand_in.h"
+
 namespace {
 
 std::vector<ConversionCall>& Calls() {
   static std::vector<ConversionCall> calls;
   return calls;
 }
+
+const bool conversion_restored = AfterEachTest(ResetConversions);
 
 /// Bytes of a band's buffer.
 std::size_t BufferSize(const tagMVBandImageParams& band) {

@@ -4,17 +4,20 @@
 #ifndef TQR7_TESTS_UNIT_TEMP_FILE_H
 #define TQR7_TESTS_UNIT_TEMP_FILE_H
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 /// The whole content of a file; empty for a file that cannot be read.
 inline std::string ReadFile(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  std::ostringstream content;
+  content << std::ifstream(path, std::ios::binary).rdbuf();
+  return content.str();
 }
 
 /// A new empty folder, removed with all that is in it.
@@ -38,6 +41,16 @@ class TempFolder {
   std::string operator/(const std::string& name) const { return (path_ / name).string(); }
 
   const std::filesystem::path& path() const { return path_; }
+
+  /// The names of what is in it, hidden files too, in order.
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(path_)) {
+      names.push_back(entry.path().filename().string());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+  }
 
  private:
   std::filesystem::path path_;

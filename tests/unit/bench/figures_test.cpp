@@ -13,7 +13,7 @@
 
 #include "bench/colour/page_conversion.h"
 #include "bench/colour/test_pictures.h"
-#include "tests/unit/conversion/profile_maker.h"
+#include "tests/unit/profile_maker.h"
 
 namespace bench {
 

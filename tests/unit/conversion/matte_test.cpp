@@ -14,8 +14,8 @@
 namespace {
 
 constexpr std::size_t kTile = 256;
-constexpr std::size_t kWidth = 600;
-constexpr std::size_t kHeight = 520;
+constexpr std::size_t kPlaneWidth = 600;
+constexpr std::size_t kPlaneHeight = 520;
 
 using Plane = std::vector<unsigned char>;
 
@@ -28,18 +28,18 @@ Plane make_plane(std::size_t width, std::size_t height) {
 }
 
 const Plane& plane() {
-  static const Plane made = make_plane(kWidth, kHeight);
+  static const Plane made = make_plane(kPlaneWidth, kPlaneHeight);
   return made;
 }
 
 int dot(std::size_t x, std::size_t y) {
-  return plane()[y * kWidth + x];
+  return plane()[y * kPlaneWidth + x];
 }
 
 Plane column_of(std::size_t x) {
   Plane column;
-  for (std::size_t y = 0; y < kHeight; ++y) {
-    column.push_back(plane()[y * kWidth + x]);
+  for (std::size_t y = 0; y < kPlaneHeight; ++y) {
+    column.push_back(plane()[y * kPlaneWidth + x]);
   }
   return column;
 }
@@ -100,17 +100,18 @@ TEST(Matte, TheWholeTileIsFixed) {
 }
 
 TEST(Matte, RowsOfEachWidthBeginAlikeAndLeaveWhatIsBesideThemAlone) {
-  for (std::size_t width = 0; width <= kWidth; ++width) {
+  for (std::size_t width = 0; width <= kPlaneWidth; ++width) {
     Plane row(width + 2, 1);
     lay_matte_row(3, &row[1], width);
     EXPECT_EQ(row.front(), 1) << "width " << width;
     EXPECT_EQ(row.back(), 1) << "width " << width;
-    ASSERT_TRUE(std::equal(&row[1], &row[1] + width, &plane()[3 * kWidth])) << "width " << width;
+    ASSERT_TRUE(std::equal(&row[1], &row[1] + width, &plane()[3 * kPlaneWidth]))
+        << "width " << width;
   }
 }
 
 TEST(Matte, ARowGivesTheSumOfItsBytes) {
-  for (std::size_t width = 0; width <= kWidth; ++width) {
+  for (std::size_t width = 0; width <= kPlaneWidth; ++width) {
     Plane row(width);
     const std::uint64_t sum = lay_matte_row(width, row.data(), width);
     ASSERT_EQ(sum, std::accumulate(row.begin(), row.end(), std::uint64_t{0})) << "width " << width;
@@ -127,9 +128,9 @@ TEST(Matte, TheTextureComesBackAfter256ColumnsAndAfter256Rows) {
 }
 
 TEST(Matte, TheFarthestRowThatCanBeCountedIsALastRowOfTheTile) {
-  Plane row(kWidth);
-  lay_matte_row(static_cast<std::size_t>(-1), row.data(), kWidth);
-  EXPECT_TRUE(std::equal(row.begin(), row.end(), &plane()[255 * kWidth]));
+  Plane row(kPlaneWidth);
+  lay_matte_row(static_cast<std::size_t>(-1), row.data(), kPlaneWidth);
+  EXPECT_TRUE(std::equal(row.begin(), row.end(), &plane()[255 * kPlaneWidth]));
 }
 
 TEST(Matte, EachLevelFrom63To255ComesEquallyOftenAndNoOther) {
@@ -153,11 +154,13 @@ TEST(Matte, TheOvercoatSwingsAroundItsMiddle) {
 }
 
 TEST(Matte, EveryRowAndEveryColumnHasGrain) {
-  for (std::size_t y = 0; y < kHeight; ++y) {
-    EXPECT_GT(deviation_of(Plane(&plane()[y * kWidth], &plane()[y * kWidth] + kWidth)), 50.0)
+  for (std::size_t y = 0; y < kPlaneHeight; ++y) {
+    EXPECT_GT(
+        deviation_of(Plane(&plane()[y * kPlaneWidth], &plane()[y * kPlaneWidth] + kPlaneWidth)),
+        50.0)
         << "row " << y;
   }
-  for (std::size_t x = 0; x < kWidth; ++x) {
+  for (std::size_t x = 0; x < kPlaneWidth; ++x) {
     EXPECT_GT(deviation_of(column_of(x)), 50.0) << "column " << x;
   }
 }

@@ -1,40 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// A computer without memory: this program's own allocator refuses at a chosen request.
+// Pages on a computer without memory.
 #include <gtest/gtest.h>
 
-#include <new>
-
 #include "conversion/change_codes.h"
+#include "tests/unit/conversion/refused_memory.h"
 #include "tests/unit/conversion/test_page.h"
-
-namespace {
-
-/// Requests still to be granted before one is refused; negative: all are granted.
-int grantsLeft = -1;
-
-/// Bytes asked for so far.
-std::size_t bytesAsked = 0;
-
-bool refuse_next() {
-  return grantsLeft >= 0 && grantsLeft-- == 0;
-}
-
-}  // namespace
-
-// The library asks in this form only. What is granted comes from the array-new that array-delete
-// belongs to.
-void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
-  bytesAsked += size;
-  if (refuse_next()) {
-    return nullptr;
-  }
-  try {
-    return ::operator new[](size);
-  } catch (const std::bad_alloc&) {
-    return nullptr;
-  }
-}
 
 namespace {
 
@@ -44,10 +15,10 @@ constexpr int kRequests = 5;
 class NoMemory : public testing::Test {
  protected:
   long callWithGrants(int grants) {
-    grantsLeft = grants;
+    memory_script().grantsLeft = grants;
     const long code = MVChangeImage(&source.record, &params, &destination.record, &matte.record,
                                     &rates[0], &rates[1]);
-    grantsLeft = -1;
+    memory_script().grantsLeft = -1;
     return code;
   }
 
@@ -89,12 +60,12 @@ TEST_F(NoMemory, TheLargestSheetTakesAQuarterOfAMegabyteBesideItsBands) {
   TestBand overcoat(1852, 2446, 1);
   params.dwFlags |= kChangeFlagColorConversion;
   params.nTone[0] = 1;
-  bytesAsked = 0;
+  memory_script().bytesAsked = 0;
   ASSERT_EQ(
       MVChangeImage(&sheet.record, &params, &engine.record, &overcoat.record, &rates[0], &rates[1]),
       0);
-  EXPECT_GT(bytesAsked, 3U * 2 * 1852);
-  EXPECT_LT(bytesAsked, 250000U);
+  EXPECT_GT(memory_script().bytesAsked, 3U * 2 * 1852);
+  EXPECT_LT(memory_script().bytesAsked, 250000U);
 }
 
 }  // namespace

@@ -14,15 +14,15 @@
 
 namespace {
 
-constexpr std::size_t kWidth = 67;
-constexpr std::size_t kHeight = 11;
+constexpr std::size_t kPageWidth = 67;
+constexpr std::size_t kPageHeight = 11;
 
 /// The page's rows as planes of numbers from 0 to `white`: sharpened, or as the photo has them.
 std::vector<plain::Planes> plain_lines(bool sharpened, int strength) {
-  std::vector<plain::Bytes> page(kHeight);
-  std::vector<plain::Planes> lines(kHeight);
-  for (std::size_t y = 0; y < kHeight; ++y) {
-    for (std::size_t x = 0; x < kWidth; ++x) {
+  std::vector<plain::Bytes> page(kPageHeight);
+  std::vector<plain::Planes> lines(kPageHeight);
+  for (std::size_t y = 0; y < kPageHeight; ++y) {
+    for (std::size_t x = 0; x < kPageWidth; ++x) {
       const auto pixel = busy_picture(x, y);
       for (std::size_t channel = 0; channel < 3; ++channel) {
         page[y].push_back(pixel[channel]);
@@ -40,7 +40,7 @@ std::vector<std::uint16_t> plain_page(const tagMVChangeParams& params, int stren
   const double white = sharpened ? 4080 : 255;
   std::vector<std::uint16_t> samples;
   for (const plain::Planes& line : plain_lines(sharpened, strength)) {
-    for (std::size_t x = 0; x < kWidth; ++x) {
+    for (std::size_t x = 0; x < kPageWidth; ++x) {
       std::array<std::uint16_t, 3> pixel{};
       for (std::size_t channel = 0; channel < 3; ++channel) {
         const double level = tone_level(tone_of_channel(params, channel), line[channel][x] / white);
@@ -70,32 +70,32 @@ tagMVChangeParams toned(tagMVChangeParams params) {
 
 TEST(PageConverter, SharpensAndConvertsColours) {
   const tagMVChangeParams params = params_with(5);
-  EXPECT_EQ(convert(kWidth, kHeight, params, busy_picture).samples, plain_page(params, 5));
+  EXPECT_EQ(convert(kPageWidth, kPageHeight, params, busy_picture).samples, plain_page(params, 5));
 }
 
 TEST(PageConverter, ConvertsColoursOfAnUnsharpenedPhoto) {
   const tagMVChangeParams params = params_with(1);
-  EXPECT_EQ(convert(kWidth, kHeight, params, busy_picture).samples, plain_page(params, 5));
+  EXPECT_EQ(convert(kPageWidth, kPageHeight, params, busy_picture).samples, plain_page(params, 5));
 }
 
 TEST(PageConverter, SharpensDeviceValues) {
   const tagMVChangeParams params = params_with(4);
-  EXPECT_EQ(convert(kWidth, kHeight, params, busy_picture).samples, plain_page(params, 5));
+  EXPECT_EQ(convert(kPageWidth, kPageHeight, params, busy_picture).samples, plain_page(params, 5));
 }
 
 TEST(PageConverter, SharpensSetsTonesAndConvertsColoursInThatOrder) {
   const tagMVChangeParams params = toned(params_with(5));
-  EXPECT_EQ(convert(kWidth, kHeight, params, busy_picture).samples, plain_page(params, 5));
+  EXPECT_EQ(convert(kPageWidth, kPageHeight, params, busy_picture).samples, plain_page(params, 5));
 }
 
 TEST(PageConverter, SetsTonesAheadOfTheColours) {
   const tagMVChangeParams params = toned(params_with(1));
-  EXPECT_EQ(convert(kWidth, kHeight, params, busy_picture).samples, plain_page(params, 5));
+  EXPECT_EQ(convert(kPageWidth, kPageHeight, params, busy_picture).samples, plain_page(params, 5));
 }
 
 TEST(PageConverter, SetsTheTonesOfSharpenedDeviceValues) {
   const tagMVChangeParams params = toned(params_with(4));
-  EXPECT_EQ(convert(kWidth, kHeight, params, busy_picture).samples, plain_page(params, 5));
+  EXPECT_EQ(convert(kPageWidth, kPageHeight, params, busy_picture).samples, plain_page(params, 5));
 }
 
 TEST(PageConverter, WhiteStaysThePapersOwnWhateverGammaIsSet) {
@@ -111,17 +111,17 @@ TEST(PageConverter, WhiteStaysThePapersOwnWhateverGammaIsSet) {
 
 TEST(PageConverter, TheSumIsThatOfAllSamplesAndTheCountTheirNumber) {
   for (const std::uint64_t flags : {std::uint64_t{0}, std::uint64_t{1}}) {
-    TestBand source(kWidth, kHeight, 3);
-    TestBand destination(kWidth, kHeight, 6);
-    for (std::size_t x = 0; x < kWidth; ++x) {
+    TestBand source(kPageWidth, kPageHeight, 3);
+    TestBand destination(kPageWidth, kPageHeight, 6);
+    for (std::size_t x = 0; x < kPageWidth; ++x) {
       source.setRgb(x, 3, busy_picture(x, 3));
     }
     PageConverter converter;
-    ASSERT_TRUE(converter.prepare(params_with(flags), kWidth));
+    ASSERT_TRUE(converter.prepare(params_with(flags), kPageWidth));
     const RateSum sum = converter.convert(rows_of(source.record), rows_of(destination.record));
     std::uint64_t total = 0;
-    for (std::size_t y = 0; y < kHeight; ++y) {
-      for (std::size_t x = 0; x < kWidth; ++x) {
+    for (std::size_t y = 0; y < kPageHeight; ++y) {
+      for (std::size_t x = 0; x < kPageWidth; ++x) {
         total += std::uint64_t{destination.sample(x, y, 0)} + destination.sample(x, y, 1) +
                  destination.sample(x, y, 2);
       }

@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr std::size_t kWidth = 7;
-constexpr std::size_t kHeight = 9;
+constexpr std::size_t kSmallWidth = 7;
+constexpr std::size_t kSmallHeight = 9;
 constexpr std::size_t kMatteWidth = 11;
 constexpr std::size_t kMatteHeight = 21;
 
@@ -21,11 +21,11 @@ struct Page {
 
 Page convert_laid_out(const BandLayout& sourceLayout, const BandLayout& destinationLayout,
                       const BandLayout& matteLayout, bool sharpen) {
-  TestBand source(kWidth, kHeight, 3, sourceLayout);
-  TestBand destination(kWidth, kHeight, 6, destinationLayout);
+  TestBand source(kSmallWidth, kSmallHeight, 3, sourceLayout);
+  TestBand destination(kSmallWidth, kSmallHeight, 6, destinationLayout);
   TestBand matte(kMatteWidth, kMatteHeight, 1, matteLayout);
-  for (std::size_t y = 0; y < kHeight; ++y) {
-    for (std::size_t x = 0; x < kWidth; ++x) {
+  for (std::size_t y = 0; y < kSmallHeight; ++y) {
+    for (std::size_t x = 0; x < kSmallWidth; ++x) {
       source.setRgb(x, y, busy_picture(x, y));
     }
   }

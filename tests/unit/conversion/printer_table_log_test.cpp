@@ -11,8 +11,7 @@
 #include <string>
 
 #include "conversion/printer_table.h"
-#include "model/printer_model.h"
-#include "tests/unit/conversion/profile_maker.h"
+#include "tests/unit/profile_maker.h"
 #include "tests/unit/temp_file.h"
 
 namespace {
@@ -92,8 +91,7 @@ TEST_F(PrinterTableLog, ABrokenProfileIsToldOnceAProcess) {
 TEST_F(PrinterTableLog, NothingIsToldOfAProfileThatIsUsed) {
   put(matrix_profile({}));
   EXPECT_EQ(log_of_loading(path), "");
-  const auto bytes = printer_model_profile();
-  put({bytes.begin(), bytes.end()});
+  put(model_bytes());
   EXPECT_EQ(log_of_loading(path), "");
 }
 

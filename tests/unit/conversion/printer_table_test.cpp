@@ -9,38 +9,13 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
-#include <new>
 #include <string>
 #include <thread>
 
 #include "conversion/table_from_profile.h"
-#include "model/printer_model.h"
-#include "tests/unit/conversion/profile_maker.h"
+#include "tests/unit/conversion/refused_memory.h"
+#include "tests/unit/profile_maker.h"
 #include "tests/unit/temp_file.h"
-
-namespace {
-
-/// While true, this program has no memory for tables, or for files.
-bool noTables = false;
-bool noFiles = false;
-
-}  // namespace
-
-// What is granted comes from the forms that delete and array-delete belong to.
-void* operator new(std::size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept {
-  try {
-    return noTables ? nullptr : ::operator new(size, alignment);
-  } catch (const std::bad_alloc&) {
-    return nullptr;
-  }
-}
-void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
-  try {
-    return noFiles ? nullptr : ::operator new[](size);
-  } catch (const std::bad_alloc&) {
-    return nullptr;
-  }
-}
 
 namespace {
 
@@ -53,11 +28,6 @@ std::string owners_profile(double gamma) {
   MatrixDevice device;
   device.gamma = gamma;
   return text_of(matrix_profile(device));
-}
-
-std::string shipped_profile() {
-  const auto bytes = printer_model_profile();
-  return {bytes.begin(), bytes.end()};
 }
 
 /// The red of the middle grey, and the light of sRGB's 16/32 to the power of 1 / gamma.
@@ -85,7 +55,7 @@ TEST_F(PrinterTableTest, BeforeAnythingIsLoadedTheTableIsTheModels) {
 }
 
 TEST_F(PrinterTableTest, TheProfileThatComesWithTheFilterGivesTheCompiledInTable) {
-  put(shipped_profile());
+  put(text_of(model_bytes()));
   load();
   EXPECT_TRUE(isModels());
 }
@@ -133,7 +103,7 @@ TEST_F(PrinterTableTest, OtherContentOfTheSameSizeAndTimeIsSeen) {
 TEST_F(PrinterTableTest, TheModelComesBackWithItsFile) {
   put(owners_profile(1));
   load();
-  put(shipped_profile());
+  put(text_of(model_bytes()));
   load();
   EXPECT_TRUE(isModels());
 }
@@ -190,9 +160,9 @@ TEST_F(PrinterTableTest, APipeGivesTheModelAtOnce) {
 
 TEST_F(PrinterTableTest, WithoutMemoryForTheFileTheModelServesAndLaterTheOwners) {
   put(owners_profile(4));
-  noFiles = true;
+  memory_script().grantsLeft = 0;
   load();
-  noFiles = false;
+  memory_script().grantsLeft = -1;
   EXPECT_TRUE(isModels());
   put(owners_profile(1));
   load();
@@ -201,9 +171,9 @@ TEST_F(PrinterTableTest, WithoutMemoryForTheFileTheModelServesAndLaterTheOwners)
 
 TEST_F(PrinterTableTest, WithoutMemoryForTheTableTheModelServesAndLaterTheOwners) {
   put(owners_profile(1));
-  noTables = true;
+  memory_script().tablesRefused = true;
   load();
-  noTables = false;
+  memory_script().tablesRefused = false;
   EXPECT_TRUE(isModels());
   load();
   EXPECT_EQ(middle(printer), kMiddleOfGamma1);

@@ -11,8 +11,7 @@
 #include <string>
 
 #include "conversion/table_from_profile.h"
-#include "model/printer_model.h"
-#include "tests/unit/conversion/profile_maker.h"
+#include "tests/unit/profile_maker.h"
 
 namespace {
 
@@ -27,11 +26,6 @@ std::string fault_of(const ProfileBytes& bytes, std::size_t workingMemory = kPro
   static ColourTable table;
   const char* fault = make_colour_table({exact.get(), bytes.size()}, table, workingMemory);
   return fault == nullptr ? "made" : fault;
-}
-
-ProfileBytes model_bytes() {
-  const auto bytes = printer_model_profile();
-  return {bytes.begin(), bytes.end()};
 }
 
 DyeDevice small_dyes() {

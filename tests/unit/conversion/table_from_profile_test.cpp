@@ -12,17 +12,11 @@
 #include <cstdlib>
 
 #include "conversion/builtin_table.h"
-#include "model/printer_model.h"
-#include "tests/unit/conversion/profile_maker.h"
+#include "tests/unit/profile_maker.h"
 
 namespace {
 
 constexpr cmsUInt32Number kExact = cmsFLAGS_NOOPTIMIZE | cmsFLAGS_NOCACHE;
-
-ProfileBytes model_bytes() {
-  const auto bytes = printer_model_profile();
-  return {bytes.begin(), bytes.end()};
-}
 
 const ColourNode& node(const ColourTable& table, std::size_t r, std::size_t g, std::size_t b) {
   return table.nodes[(r * 33 + g) * 33 + b];

@@ -4,15 +4,9 @@
 #include <gtest/gtest.h>
 
 #include "conversion/tone.h"
+#include "tests/unit/conversion/fine_levels.h"
 
 namespace {
-
-/// A sixteenth of an 8-bit value apart: the sharpened picture's values lie in between.
-constexpr int kFineLevels = 4080;
-
-double fine_level(int i) {
-  return static_cast<double>(i) / kFineLevels;
-}
 
 TEST(ToneFormula, ZeroLeavesEveryLevelExactlyAsItIs) {
   for (int i = 0; i <= kFineLevels; ++i) {

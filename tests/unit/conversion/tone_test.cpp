@@ -13,6 +13,7 @@
 #include <set>
 
 #include "conversion/engine_sample.h"
+#include "tests/unit/conversion/fine_levels.h"
 
 namespace {
 
@@ -45,13 +46,6 @@ ChannelTone contrast(int value) {
 }
 ChannelTone brightness(int value) {
   return {0, 0, value};
-}
-
-/// A sixteenth of an 8-bit value apart: the sharpened picture's values lie in between.
-constexpr int kFineLevels = 4080;
-
-double fine_level(int i) {
-  return static_cast<double>(i) / kFineLevels;
 }
 
 void expect_never_falling_within_range(const ChannelTone& tone) {

@@ -14,6 +14,7 @@
 #include "image/page_memory.h"
 #include "job/job_state.h"
 #include "job/paper_table.h"
+#include "tests/unit/stand_in.h"
 
 namespace {
 
@@ -45,7 +46,7 @@ bool told(int advice, const unsigned char* buffer, std::size_t size) {
 
 extern "C" int madvise(void* bytes, std::size_t size, int advice) noexcept {
   hints().push_back({static_cast<const unsigned char*>(bytes), size, advice});
-  return 0;
+  return RealFunction<decltype(madvise)>("madvise")(bytes, size, advice);
 }
 
 TEST(PageHints, AreGivenForABand) {

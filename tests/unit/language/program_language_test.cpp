@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/unit/tools/tool_process.h"
+#include "tests/unit/tool_process.h"
 
 using testing::HasSubstr;
 using testing::StartsWith;

@@ -6,17 +6,16 @@
 #include <string>
 #include <vector>
 
-#include "tests/unit/photo/raster_bytes.h"
+#include "tests/unit/photo_files.h"
+#include "tests/unit/raster_bytes.h"
 #include "tests/unit/temp_file.h"
-#include "tests/unit/tools/photo_files.h"
-#include "tests/unit/tools/tool_process.h"
+#include "tests/unit/tool_process.h"
 
 namespace {
 
 using testing::HasSubstr;
 using testing::SizeIs;
 
-constexpr Rgb kWhite = {255, 255, 255};
 constexpr Rgb kRed = {200, 90, 80};
 constexpr Rgb kGreen = {80, 150, 90};
 constexpr Rgb kBlue = {70, 90, 150};

@@ -6,25 +6,24 @@
 #include <string>
 #include <vector>
 
-#include "tests/unit/photo/raster_bytes.h"
-#include "tests/unit/tools/tool_process.h"
+#include "tests/unit/raster_bytes.h"
+#include "tests/unit/tool_process.h"
 
 namespace {
 
 using testing::HasSubstr;
 using testing::SizeIs;
 
-constexpr Rgb kWhite = {255, 255, 255};
 constexpr Rgb kGrey = {100, 110, 120};
 
-ToolRun run_on(const std::string& stream, const std::string& options) {
+ToolRun run_rastertopage(const std::string& stream, const std::string& options) {
   return run_program({"env", std::string("PPD=") + TQR7_PPD, "LC_ALL=C", RASTERTOPAGE, "7", "anna",
                       "Beach", "1", options},
                      stream);
 }
 
 std::vector<RasterPage> pages_after(const std::string& stream, const std::string& options) {
-  const ToolRun run = run_on(stream, options);
+  const ToolRun run = run_rastertopage(stream, options);
   EXPECT_EQ(run.status, 0) << run.errors;
   EXPECT_EQ(run.errors, "");
   return pages_of(run.out);
@@ -104,7 +103,7 @@ TEST(Rastertopage, PrintsBlackAndWhiteAsGreysThatLookAsBright) {
 }
 
 void expect_refused(const std::string& stream, const std::string& why) {
-  const ToolRun run = run_on(stream, "PageSize=RQ_10x15");
+  const ToolRun run = run_rastertopage(stream, "PageSize=RQ_10x15");
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.errors, "ERROR: The pages " + why + ".\n");
   EXPECT_EQ(run.out, "");

@@ -6,7 +6,7 @@
 #include <gmock/gmock.h>
 #include <lcms2.h>
 
-#include "tests/unit/simulator/test_profiles.h"
+#include "tests/unit/test_profiles.h"
 
 namespace photo {
 namespace {

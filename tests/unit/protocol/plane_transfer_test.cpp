@@ -21,18 +21,18 @@ using testing::ElementsAre;
 
 namespace {
 
-struct Outcome {
+struct Transfer {
   bool result;
   std::string err;
 };
 
-Outcome SendImage(SingleWrites& out, const tagMVBandImageParams& band) {
+Transfer SendImage(SingleWrites& out, const tagMVBandImageParams& band) {
   Capture err(stderr);
   const bool result = send_image_data(out.stream(), &band);
   return {result, err.Text()};
 }
 
-Outcome SendMatte(SingleWrites& out, const tagMVBandImageParams& band) {
+Transfer SendMatte(SingleWrites& out, const tagMVBandImageParams& band) {
   Capture err(stderr);
   const bool result = send_matte_data(out.stream(), &band);
   return {result, err.Text()};
@@ -82,7 +82,7 @@ TEST_F(ImageTransfer, LeavesOutThePaddingOfALine) {
 TEST_F(ImageTransfer, AFullBufferThatEndsTheImageIsTheLastWrite) {
   std::vector<unsigned char> bits(196608, 'x');
   SingleWrites out;
-  const Outcome outcome = SendImage(out, Over(bits, 512, 64, 6));
+  const Transfer outcome = SendImage(out, Over(bits, 512, 64, 6));
   EXPECT_TRUE(outcome.result);
   EXPECT_THAT(out.sizes(), ElementsAre(196608U));
   EXPECT_EQ(outcome.err, "INFO: Printing page 7, 99% complete...\n");
@@ -91,7 +91,7 @@ TEST_F(ImageTransfer, AFullBufferThatEndsTheImageIsTheLastWrite) {
 TEST_F(ImageTransfer, TheRestBehindAFullBufferIsAWriteOfItsOwn) {
   std::vector<unsigned char> bits(196608 + 6 * 512, 'x');
   SingleWrites out;
-  const Outcome outcome = SendImage(out, Over(bits, 512, 65, 6));
+  const Transfer outcome = SendImage(out, Over(bits, 512, 65, 6));
   EXPECT_TRUE(outcome.result);
   EXPECT_THAT(out.sizes(), ElementsAre(196608U, 3072U));
   EXPECT_EQ(outcome.err,
@@ -105,7 +105,7 @@ TEST_F(ImageTransfer, WithoutWidthOrHeightNothingIsSent) {
        {MV_TYPEDEF::tagRECT{5, 0, 5, 9}, MV_TYPEDEF::tagRECT{0, 5, 9, 5},
         MV_TYPEDEF::tagRECT{9, 0, 0, 1}, MV_TYPEDEF::tagRECT{0, 1, 1, 0}}) {
     SingleWrites out;
-    const Outcome outcome = SendImage(out, {bits.data(), -6, rect});
+    const Transfer outcome = SendImage(out, {bits.data(), -6, rect});
     EXPECT_TRUE(outcome.result);
     EXPECT_TRUE(out.sizes().empty());
     EXPECT_EQ(outcome.err, "");

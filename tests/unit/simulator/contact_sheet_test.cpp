@@ -10,7 +10,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "tests/unit/simulator/printer_process.h"
+#include "tests/unit/temp_file.h"
 
 namespace {
 
@@ -22,14 +22,14 @@ using testing::Not;
 
 class ContactPage : public testing::Test {
  protected:
-  std::filesystem::path Index() const { return folder_.Path() / "index.html"; }
+  std::filesystem::path Index() const { return folder_.path() / "index.html"; }
 
   std::string Page() const {
     std::ifstream file(Index());
     return {std::istreambuf_iterator<char>(file), {}};
   }
 
-  TemporaryFolder folder_;
+  TempFolder folder_;
   ContactSheet sheet_;
 };
 
@@ -39,14 +39,14 @@ TEST(ContactSheetText, ShowsMarkupAsText) {
 }
 
 TEST_F(ContactPage, ShowsAnErrorsMarkupAsText) {
-  ASSERT_EQ(sheet_.Begin(folder_.Path()), "");
+  ASSERT_EQ(sheet_.Begin(folder_.path()), "");
   sheet_.AddError("prints <b>&co</b>: No space left");
   ASSERT_EQ(sheet_.Write(), "");
   EXPECT_THAT(Page(), HasSubstr("<li>prints &lt;b&gt;&amp;co&lt;/b&gt;: No space left</li>"));
 }
 
 TEST_F(ContactPage, ShowsAThousandErrorsAndCountsTheOthers) {
-  ASSERT_EQ(sheet_.Begin(folder_.Path()), "");
+  ASSERT_EQ(sheet_.Begin(folder_.path()), "");
   for (int i = 1; i <= 1002; ++i) {
     sheet_.AddError("wrong byte " + std::to_string(i));
   }
@@ -58,7 +58,7 @@ TEST_F(ContactPage, ShowsAThousandErrorsAndCountsTheOthers) {
 }
 
 TEST_F(ContactPage, IsNotWrittenWhenThereIsNothingNew) {
-  ASSERT_EQ(sheet_.Begin(folder_.Path()), "");
+  ASSERT_EQ(sheet_.Begin(folder_.path()), "");
   std::filesystem::remove(Index());
   EXPECT_EQ(sheet_.Write(), "");
   EXPECT_THAT(folder_.Names(), IsEmpty());
@@ -66,13 +66,13 @@ TEST_F(ContactPage, IsNotWrittenWhenThereIsNothingNew) {
 
 TEST_F(ContactPage, LeavesNothingBehindWhenItCannotBeWritten) {
   std::filesystem::create_directory(Index());
-  EXPECT_EQ(sheet_.Begin(folder_.Path()), "Is a directory");
+  EXPECT_EQ(sheet_.Begin(folder_.path()), "Is a directory");
   EXPECT_THAT(folder_.Names(), ElementsAre("index.html"));
 }
 
 TEST_F(ContactPage, IsTriedAgainWhenItCouldNotBeWritten) {
   std::filesystem::create_directory(Index());
-  ASSERT_EQ(sheet_.Begin(folder_.Path()), "Is a directory");
+  ASSERT_EQ(sheet_.Begin(folder_.path()), "Is a directory");
   std::filesystem::remove(Index());
   EXPECT_EQ(sheet_.Write(), "");
   EXPECT_THAT(Page(), HasSubstr("<h1>0 sheets, 0 errors</h1>"));

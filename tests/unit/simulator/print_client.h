@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "tests/unit/simulator/stream_bytes.h"
+#include "tests/unit/stream_bytes.h"
 
 /// A connection to a port of 127.0.0.1. Waits give up after half a minute.
 class PrintClient {

@@ -90,25 +90,6 @@ int exit_status(int status) {
 
 }  // namespace
 
-TemporaryFolder::TemporaryFolder() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "tqr7-test-XXXXXX").string();
-  path_ = ::mkdtemp(pattern.data());
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
-}
-
-std::vector<std::string> TemporaryFolder::Names() const {
-  std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(path_)) {
-    names.push_back(entry.path().filename().string());
-  }
-  std::sort(names.begin(), names.end());
-  return names;
-}
-
 PrinterProcess::PrinterProcess(const std::vector<std::string>& options, std::uint64_t fileSizeLimit,
                                Sink sink) {
   std::vector<std::string> all = options;

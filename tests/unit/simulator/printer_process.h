@@ -7,26 +7,8 @@
 #include <sys/types.h>
 
 #include <cstdint>
-#include <filesystem>
 #include <string>
 #include <vector>
-
-/// A folder that is removed with everything in it.
-class TemporaryFolder {
- public:
-  TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  ~TemporaryFolder();
-
-  const std::filesystem::path& Path() const { return path_; }
-
-  /// The names of what is in it, hidden files too, in order.
-  std::vector<std::string> Names() const;
-
- private:
-  std::filesystem::path path_;
-};
 
 /// A running printer. Waits give up after half a minute, and the test then fails at what it expects
 /// of their results. A printer that still runs at the end is killed.

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-#include "tests/unit/simulator/test_profiles.h"
+#include "tests/unit/test_profiles.h"
 
 namespace {
 

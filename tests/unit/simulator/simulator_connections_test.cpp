@@ -6,10 +6,11 @@
 
 #include <csignal>
 
-#include "tests/unit/simulator/png_file.h"
+#include "tests/unit/png_file.h"
 #include "tests/unit/simulator/print_client.h"
 #include "tests/unit/simulator/printer_process.h"
-#include "tests/unit/simulator/stream_bytes.h"
+#include "tests/unit/stream_bytes.h"
+#include "tests/unit/temp_file.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ constexpr std::size_t kTenRowsAndABit = 1552 + 10 * 11112 + 100;
 
 class Connections : public testing::Test {
  protected:
-  std::string InFolder(const std::string& name) const { return (folder_.Path() / name).string(); }
+  std::string InFolder(const std::string& name) const { return (folder_.path() / name).string(); }
 
   // How often the printer said it.
   int CountOf(const std::string& words) const {
@@ -35,9 +36,9 @@ class Connections : public testing::Test {
     return count;
   }
 
-  TemporaryFolder folder_;
+  TempFolder folder_;
   // Pixels are held against what was sent.
-  PrinterProcess printer_{{"--output", folder_.Path().string(), "--device-values"}};
+  PrinterProcess printer_{{"--output", folder_.path().string(), "--device-values"}};
 };
 
 Bytes cut_job(std::size_t length) {
@@ -175,8 +176,8 @@ TEST_F(Connections, FullOfGarbageAreNotToldWithoutEnd) {
 }
 
 TEST(BrokenConnections, LoseTheirAnswersWithOneLine) {
-  const TemporaryFolder folder;
-  PrinterProcess printer({"--output", folder.Path().string(), "--fault", "status late 0.2 s once"});
+  const TempFolder folder;
+  PrinterProcess printer({"--output", folder.path().string(), "--fault", "status late 0.2 s once"});
   PrintClient client(printer.Port());
   ASSERT_TRUE(client.Send(stream::join(
       {stream::status_request(), stream::status_request(), stream::status_request()})));

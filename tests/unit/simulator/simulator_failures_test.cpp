@@ -9,20 +9,21 @@
 
 #include "tests/unit/simulator/print_client.h"
 #include "tests/unit/simulator/printer_process.h"
-#include "tests/unit/simulator/stream_bytes.h"
+#include "tests/unit/stream_bytes.h"
+#include "tests/unit/temp_file.h"
 
 namespace {
 
 using testing::IsEmpty;
 
 TEST(Failures, OfAFullDiskAreALineAndStatus1) {
-  const TemporaryFolder folder;
+  const TempFolder folder;
   constexpr std::uint64_t kBytesMost = 1000;
-  PrinterProcess printer({"--output", folder.Path().string()}, kBytesMost);
+  PrinterProcess printer({"--output", folder.path().string()}, kBytesMost);
   ASSERT_TRUE(print(printer.Port(), stream::small_job()));
   EXPECT_EQ(printer.WaitForLine("failure"),
             "connection 1: failure: sheet 1 could not be written to " +
-                (folder.Path() / "sheet-0001.png").string() + ": File too large");
+                (folder.path() / "sheet-0001.png").string() + ": File too large");
   EXPECT_EQ(printer.WaitForLine("closed"),
             "connection 1: closed, 7013230 bytes, 0 sheets, 0 errors");
   EXPECT_EQ(printer.Stop(), 1);
@@ -30,8 +31,8 @@ TEST(Failures, OfAFullDiskAreALineAndStatus1) {
 }
 
 TEST(Failures, OfAFolderThatWentAwayAreALineAndThePrinterGoesOn) {
-  const TemporaryFolder folder;
-  const std::filesystem::path output = folder.Path() / "sheets";
+  const TempFolder folder;
+  const std::filesystem::path output = folder.path() / "sheets";
   PrinterProcess printer({"--output", output.string()});
   ASSERT_NE(printer.Port(), 0);
   std::filesystem::remove_all(output);
@@ -46,18 +47,18 @@ TEST(Failures, OfAFolderThatWentAwayAreALineAndThePrinterGoesOn) {
 }
 
 TEST(Failures, OfTheListOfSheetsAreNamed) {
-  const TemporaryFolder folder;
-  std::filesystem::create_directory(folder.Path() / "sheets.txt");
-  PrinterProcess printer({"--output", folder.Path().string()});
+  const TempFolder folder;
+  std::filesystem::create_directory(folder.path() / "sheets.txt");
+  PrinterProcess printer({"--output", folder.path().string()});
   ASSERT_TRUE(print(printer.Port(), stream::small_job()));
   EXPECT_EQ(printer.WaitForLine("failure"), "connection 1: failure: sheets.txt: Is a directory");
   EXPECT_EQ(printer.Stop(), 1);
 }
 
 TEST(Failures, OfAListOfSheetsOnAFullDiskAreNamedForEachSheet) {
-  const TemporaryFolder folder;
-  std::filesystem::create_symlink("/dev/full", folder.Path() / "sheets.txt");
-  PrinterProcess printer({"--output", folder.Path().string()});
+  const TempFolder folder;
+  std::filesystem::create_symlink("/dev/full", folder.path() / "sheets.txt");
+  PrinterProcess printer({"--output", folder.path().string()});
   ASSERT_TRUE(print(printer.Port(), stream::small_job()));
   EXPECT_EQ(printer.WaitForLine("failure"),
             "connection 1: failure: sheets.txt: No space left on device");
@@ -65,7 +66,7 @@ TEST(Failures, OfAListOfSheetsOnAFullDiskAreNamedForEachSheet) {
   EXPECT_EQ(printer.WaitForLine("failure"),
             "connection 2: failure: sheets.txt: No space left on device");
   EXPECT_EQ(printer.Stop(), 1);
-  EXPECT_TRUE(std::filesystem::exists(folder.Path() / "sheet-0002.png"));
+  EXPECT_TRUE(std::filesystem::exists(folder.path() / "sheet-0002.png"));
 }
 
 TEST(Failures, OfAFolderThatCannotBeMadeKeepThePrinterFromStarting) {
@@ -75,18 +76,18 @@ TEST(Failures, OfAFolderThatCannotBeMadeKeepThePrinterFromStarting) {
 }
 
 TEST(Failures, OfTheRecordEndTheRecording) {
-  const TemporaryFolder folder;
-  PrinterProcess printer({"--output", folder.Path().string(), "--record", "/dev/full"});
+  const TempFolder folder;
+  PrinterProcess printer({"--output", folder.path().string(), "--record", "/dev/full"});
   ASSERT_TRUE(print(printer.Port(), stream::small_job()));
   EXPECT_EQ(printer.WaitForLine("failure"),
             "connection 1: failure: recording ends: No space left on device");
   EXPECT_EQ(printer.Stop(), 1);
-  EXPECT_TRUE(std::filesystem::exists(folder.Path() / "sheet-0001.png"));
+  EXPECT_TRUE(std::filesystem::exists(folder.path() / "sheet-0001.png"));
 }
 
 TEST(Failures, OfAReaderThatReadsNothingEndWithASecondSignal) {
-  const TemporaryFolder folder;
-  PrinterProcess printer({"--output", folder.Path().string()});
+  const TempFolder folder;
+  PrinterProcess printer({"--output", folder.path().string()});
   const PrintClient client(printer.Port());
   ASSERT_TRUE(client.Send(stream::repeated(stream::status_request(), 8000)));
   ASSERT_TRUE(printer.OutputIsFull());
@@ -94,13 +95,13 @@ TEST(Failures, OfAReaderThatReadsNothingEndWithASecondSignal) {
 }
 
 TEST(Failures, OfStandardOutputDoNotStopThePrinter) {
-  const TemporaryFolder folder;
-  PrinterProcess printer({"--output", folder.Path().string()});
+  const TempFolder folder;
+  PrinterProcess printer({"--output", folder.path().string()});
   const std::uint16_t port = printer.Port();
   printer.CloseOutput();
   ASSERT_TRUE(print(port, stream::small_job()));
   EXPECT_EQ(printer.Stop(), 0);
-  EXPECT_TRUE(std::filesystem::exists(folder.Path() / "sheet-0001.png"));
+  EXPECT_TRUE(std::filesystem::exists(folder.path() / "sheet-0001.png"));
 }
 
 }  // namespace

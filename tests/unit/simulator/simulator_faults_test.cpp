@@ -6,7 +6,8 @@
 
 #include "tests/unit/simulator/print_client.h"
 #include "tests/unit/simulator/printer_process.h"
-#include "tests/unit/simulator/stream_bytes.h"
+#include "tests/unit/stream_bytes.h"
+#include "tests/unit/temp_file.h"
 
 namespace {
 
@@ -18,14 +19,14 @@ using testing::IsEmpty;
 class Faults : public testing::Test {
  protected:
   std::vector<std::string> By(const std::vector<std::string>& rules) const {
-    std::vector<std::string> options{"--output", folder_.Path().string()};
+    std::vector<std::string> options{"--output", folder_.path().string()};
     for (const std::string& rule : rules) {
       options.insert(options.end(), {"--fault", rule});
     }
     return options;
   }
 
-  TemporaryFolder folder_;
+  TempFolder folder_;
 };
 
 const Bytes kGoodStatus(15, 0);

@@ -10,7 +10,8 @@
 
 #include "tests/unit/simulator/print_client.h"
 #include "tests/unit/simulator/printer_process.h"
-#include "tests/unit/simulator/stream_bytes.h"
+#include "tests/unit/stream_bytes.h"
+#include "tests/unit/temp_file.h"
 
 namespace {
 
@@ -84,8 +85,8 @@ TEST(Options, ShowHelpWithStatus0) {
 }
 
 TEST(Options, RefuseAPortThatIsTaken) {
-  const TemporaryFolder folder;
-  PrinterProcess printer({"--output", folder.Path().string()});
+  const TempFolder folder;
+  PrinterProcess printer({"--output", folder.path().string()});
   const std::string port = std::to_string(printer.Port());
   const FinishedRun second = run_to_its_end({"--port", port});
   EXPECT_THAT(second.errors, HasSubstr("127.0.0.1 port " + port + ": Address already in use"));
@@ -93,8 +94,8 @@ TEST(Options, RefuseAPortThatIsTaken) {
 }
 
 TEST(Options, TakeAPortAgainThatAPrinterHasJustLeft) {
-  const TemporaryFolder folder;
-  PrinterProcess first({"--output", folder.Path().string()});
+  const TempFolder folder;
+  PrinterProcess first({"--output", folder.path().string()});
   const std::string port = std::to_string(first.Port());
   // The printer closes this connection first, and so its end lingers on the port.
   const PrintClient client(first.Port());
@@ -102,29 +103,29 @@ TEST(Options, TakeAPortAgainThatAPrinterHasJustLeft) {
   ASSERT_EQ(client.Read(15).size(), 15U);
   ASSERT_EQ(first.Stop(), 0);
   ASSERT_TRUE(client.Finish());
-  PrinterProcess second({"--port", port, "--output", folder.Path().string()});
+  PrinterProcess second({"--port", port, "--output", folder.path().string()});
   EXPECT_EQ(std::to_string(second.Port()), port);
 }
 
 TEST(Options, MakeTheOutputFolder) {
-  const TemporaryFolder folder;
-  PrinterProcess printer({"--output", (folder.Path() / "a" / "b").string()});
+  const TempFolder folder;
+  PrinterProcess printer({"--output", (folder.path() / "a" / "b").string()});
   ASSERT_TRUE(print(printer.Port(), stream::small_job()));
   EXPECT_EQ(printer.Stop(), 0);
-  EXPECT_TRUE(std::filesystem::exists(folder.Path() / "a" / "b" / "sheet-0001.png"));
+  EXPECT_TRUE(std::filesystem::exists(folder.path() / "a" / "b" / "sheet-0001.png"));
 }
 
 TEST(Options, SayThePortFirst) {
-  const TemporaryFolder folder;
-  PrinterProcess printer({"--output", folder.Path().string()});
+  const TempFolder folder;
+  PrinterProcess printer({"--output", folder.path().string()});
   const std::string port = std::to_string(printer.Port());
   EXPECT_EQ(printer.Output(), "listening on 127.0.0.1 port " + port + "\n");
 }
 
 TEST(Options, WriteThePortToAFile) {
-  const TemporaryFolder folder;
-  const std::filesystem::path file = folder.Path() / "port";
-  PrinterProcess printer({"--output", folder.Path().string(), "--port-file", file.string()});
+  const TempFolder folder;
+  const std::filesystem::path file = folder.path() / "port";
+  PrinterProcess printer({"--output", folder.path().string(), "--port-file", file.string()});
   const std::string port = std::to_string(printer.Port());
   std::ifstream stream(file);
   const std::string text{std::istreambuf_iterator<char>(stream), {}};
@@ -132,9 +133,9 @@ TEST(Options, WriteThePortToAFile) {
 }
 
 TEST(Options, RecordEveryByteOfEveryConnection) {
-  const TemporaryFolder folder;
-  const std::filesystem::path file = folder.Path() / "stream";
-  PrinterProcess printer({"--output", folder.Path().string(), "--record", file.string()});
+  const TempFolder folder;
+  const std::filesystem::path file = folder.path() / "stream";
+  PrinterProcess printer({"--output", folder.path().string(), "--record", file.string()});
   ASSERT_TRUE(print(printer.Port(), stream::small_job()));
   ASSERT_TRUE(print(printer.Port(), {0x00, 0xFF, 0x1B}));
   EXPECT_EQ(printer.Stop(), 1);
@@ -144,35 +145,35 @@ TEST(Options, RecordEveryByteOfEveryConnection) {
 }
 
 TEST(Options, EndAfterOneConnection) {
-  const TemporaryFolder folder;
-  PrinterProcess printer({"--output", folder.Path().string(), "--once"});
+  const TempFolder folder;
+  PrinterProcess printer({"--output", folder.path().string(), "--once"});
   ASSERT_TRUE(print(printer.Port(), stream::status_request()));
   EXPECT_EQ(printer.Wait(), 0);
 }
 
 TEST(Options, EndAfterTheConnectionsAskedFor) {
-  const TemporaryFolder folder;
-  PrinterProcess printer({"--output", folder.Path().string(), "--jobs", "2"});
+  const TempFolder folder;
+  PrinterProcess printer({"--output", folder.path().string(), "--jobs", "2"});
   ASSERT_TRUE(print(printer.Port(), stream::status_request()));
   ASSERT_TRUE(print(printer.Port(), stream::status_request()));
   EXPECT_EQ(printer.Wait(), 0);
 }
 
 TEST(Options, NumberNothingBehindANumberThatIsTooHigh) {
-  const TemporaryFolder folder;
-  std::ofstream(folder.Path() / "sheet-1000000000.png") << "an earlier print";
-  PrinterProcess printer({"--output", folder.Path().string()});
+  const TempFolder folder;
+  std::ofstream(folder.path() / "sheet-1000000000.png") << "an earlier print";
+  PrinterProcess printer({"--output", folder.path().string()});
   ASSERT_TRUE(print(printer.Port(), stream::small_job()));
   EXPECT_EQ(printer.Stop(), 0);
   EXPECT_THAT(folder.Names(), ElementsAre("sheet-0001.png", "sheet-1000000000.png", "sheets.txt"));
 }
 
 TEST(Options, GoOnNumberingBehindTheSheetsThatAreThere) {
-  const TemporaryFolder folder;
-  std::ofstream(folder.Path() / "sheet-0007.png") << "an earlier print";
-  std::ofstream(folder.Path() / "incomplete-0009.png") << "an earlier try";
-  std::ofstream(folder.Path() / "sheet-12x.png") << "something else";
-  PrinterProcess printer({"--output", folder.Path().string()});
+  const TempFolder folder;
+  std::ofstream(folder.path() / "sheet-0007.png") << "an earlier print";
+  std::ofstream(folder.path() / "incomplete-0009.png") << "an earlier try";
+  std::ofstream(folder.path() / "sheet-12x.png") << "something else";
+  PrinterProcess printer({"--output", folder.path().string()});
   ASSERT_TRUE(print(printer.Port(), stream::small_job()));
   EXPECT_EQ(printer.Stop(), 0);
   EXPECT_THAT(folder.Names(), ElementsAre("incomplete-0009.png", "sheet-0007.png", "sheet-0010.png",

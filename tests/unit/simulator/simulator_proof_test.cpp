@@ -8,11 +8,12 @@
 #include <fstream>
 
 #include "decoder/soft_proof.h"
-#include "tests/unit/simulator/png_file.h"
+#include "tests/unit/png_file.h"
 #include "tests/unit/simulator/print_client.h"
 #include "tests/unit/simulator/printer_process.h"
-#include "tests/unit/simulator/stream_bytes.h"
-#include "tests/unit/simulator/test_profiles.h"
+#include "tests/unit/stream_bytes.h"
+#include "tests/unit/temp_file.h"
+#include "tests/unit/test_profiles.h"
 
 namespace {
 
@@ -25,7 +26,7 @@ constexpr std::array<std::uint8_t, 6> kPixel = {0xB8, 0x0B, 0x10, 0x27, 0x00, 0x
 
 class Proofs : public testing::Test {
  protected:
-  std::string InFolder(const std::string& name) const { return (folder_.Path() / name).string(); }
+  std::string InFolder(const std::string& name) const { return (folder_.path() / name).string(); }
 
   std::string Keep(const profiles::Profile& profile) const {
     std::ofstream file(InFolder("own.icc"), std::ios::binary);
@@ -36,7 +37,7 @@ class Proofs : public testing::Test {
 
   // The sheet of this paper, one colour all over, as a printer with these options shows it.
   PngFile Print(const Bytes& sheet, std::vector<std::string> options) const {
-    options.insert(options.end(), {"--output", folder_.Path().string()});
+    options.insert(options.end(), {"--output", folder_.path().string()});
     PrinterProcess printer(options);
     EXPECT_TRUE(print(printer.Port(),
                       stream::join({stream::status_request(), sheet, stream::print_out()})));
@@ -44,7 +45,7 @@ class Proofs : public testing::Test {
     return read_png(InFolder("sheet-0001.png"));
   }
 
-  TemporaryFolder folder_;
+  TempFolder folder_;
 };
 
 TEST_F(Proofs, GoThroughTheProfileThatIsNamed) {

@@ -9,7 +9,8 @@
 
 #include "tests/unit/simulator/print_client.h"
 #include "tests/unit/simulator/printer_process.h"
-#include "tests/unit/simulator/stream_bytes.h"
+#include "tests/unit/stream_bytes.h"
+#include "tests/unit/temp_file.h"
 
 namespace {
 
@@ -21,20 +22,20 @@ using testing::IsEmpty;
 class Replies : public testing::Test {
  protected:
   std::vector<std::string> With(std::vector<std::string> options) const {
-    options.insert(options.end(), {"--output", folder_.Path().string()});
+    options.insert(options.end(), {"--output", folder_.path().string()});
     return options;
   }
 
-  TemporaryFolder folder_;
+  TempFolder folder_;
 };
 
-Bytes query() {
+Bytes query_10x15() {
   return stream::readiness_query(stream::paper_10x15(), Finish::Gloss);
 }
 
 // A file's questions up to its first sheet.
 Bytes questions() {
-  return stream::join({stream::status_request(), stream::status_request(), query()});
+  return stream::join({stream::status_request(), stream::status_request(), query_10x15()});
 }
 
 TEST_F(Replies, ToAStatusRequestSayThatAllIsWell) {
@@ -73,7 +74,7 @@ TEST_F(Replies, ToAReadinessQuerySayReady) {
   const PrintClient client(printer.Port());
   ASSERT_TRUE(client.Send(stream::status_request()));
   ASSERT_EQ(client.Read(15).size(), 15U);
-  Bytes bytes = query();
+  Bytes bytes = query_10x15();
   bytes.pop_back();
   ASSERT_TRUE(client.Send(bytes));
   EXPECT_FALSE(client.AnswerComes());
@@ -85,7 +86,7 @@ TEST_F(Replies, ToAReadinessQuerySayReady) {
 TEST_F(Replies, CarryTheEnableCode) {
   PrinterProcess printer(With({"--enable", "0x0201"}));
   const PrintClient client(printer.Port());
-  ASSERT_TRUE(client.Send(stream::join({stream::status_request(), query()})));
+  ASSERT_TRUE(client.Send(stream::join({stream::status_request(), query_10x15()})));
   ASSERT_EQ(client.Read(15).size(), 15U);
   EXPECT_THAT(client.Read(6), ElementsAre(0, 0, 0, 0, 2, 1));
 }
@@ -94,13 +95,13 @@ TEST_F(Replies, AreBusyForTheFirstQueriesOfTheRun) {
   PrinterProcess printer(With({"--busy", "2", "--enable", "1"}));
   {
     const PrintClient client(printer.Port());
-    ASSERT_TRUE(client.Send(stream::join({stream::status_request(), query()})));
+    ASSERT_TRUE(client.Send(stream::join({stream::status_request(), query_10x15()})));
     ASSERT_EQ(client.Read(15).size(), 15U);
     EXPECT_THAT(client.Read(6), ElementsAre(0, 0, 0, 0, 1, 0));
     ASSERT_TRUE(client.Finish());
   }
   const PrintClient client(printer.Port());
-  ASSERT_TRUE(client.Send(stream::join({stream::status_request(), query(), query()})));
+  ASSERT_TRUE(client.Send(stream::join({stream::status_request(), query_10x15(), query_10x15()})));
   ASSERT_EQ(client.Read(15).size(), 15U);
   EXPECT_THAT(client.Read(6), ElementsAre(0, 0, 0, 0, 1, 0));
   EXPECT_THAT(client.Read(6), ElementsAre(0, 0, 0, 0, 0, 1));
@@ -131,14 +132,14 @@ TEST_F(Replies, OfABusyPrinterLetTheClientAskAgainAfterTwoSeconds) {
   ASSERT_TRUE(client.Send(questions()));
   ASSERT_EQ(client.Read(36).size(), 36U);
   std::this_thread::sleep_for(std::chrono::seconds(2));
-  ASSERT_TRUE(client.Send(query()));
+  ASSERT_TRUE(client.Send(query_10x15()));
   ASSERT_TRUE(client.Finish());
   EXPECT_EQ(printer.Stop(), 0);
 }
 
 TEST_F(Replies, OfABusyPrinterForbidToAskAgainAtOnce) {
   PrinterProcess printer(With({"--busy", "1"}));
-  ASSERT_TRUE(print(printer.Port(), stream::join({questions(), query()})));
+  ASSERT_TRUE(print(printer.Port(), stream::join({questions(), query_10x15()})));
   EXPECT_THAT(printer.WaitForLine("error"),
               testing::StartsWith("connection 1: error: offset 528: readiness query, pace: came "));
   EXPECT_EQ(printer.Stop(), 1);
@@ -146,7 +147,7 @@ TEST_F(Replies, OfABusyPrinterForbidToAskAgainAtOnce) {
 
 TEST_F(Replies, OfABusyPrinterLetAClientWithAClockOfItsOwnAskAgainAtOnce) {
   PrinterProcess printer(With({"--busy", "2", "--simulated-clock"}));
-  ASSERT_TRUE(print(printer.Port(), stream::join({questions(), query(), query()})));
+  ASSERT_TRUE(print(printer.Port(), stream::join({questions(), query_10x15(), query_10x15()})));
   EXPECT_EQ(printer.Stop(), 0);
 }
 
@@ -174,7 +175,7 @@ TEST_F(Replies, ThatAreGoodForbidAThirdStatusRequest) {
 
 TEST_F(Replies, OfAReadyPrinterForbidToAskAgain) {
   PrinterProcess printer(With({}));
-  ASSERT_TRUE(print(printer.Port(), stream::join({questions(), query()})));
+  ASSERT_TRUE(print(printer.Port(), stream::join({questions(), query_10x15()})));
   EXPECT_EQ(printer.WaitForLine("error"),
             "connection 1: error: offset 528: readiness query, answer to the readiness query: came "
             "a repeated query after 0x0000, allowed a repeated query after 0x0100");

@@ -9,7 +9,8 @@
 
 #include "tests/unit/simulator/print_client.h"
 #include "tests/unit/simulator/printer_process.h"
-#include "tests/unit/simulator/stream_bytes.h"
+#include "tests/unit/stream_bytes.h"
+#include "tests/unit/temp_file.h"
 
 namespace {
 
@@ -27,9 +28,9 @@ class Scripts : public testing::Test {
     return answer.size() == 15 ? answer[5] : -1;
   }
 
-  TemporaryFolder folder_;
-  std::string script_ = (folder_.Path() / "script").string();
-  std::vector<std::string> options_{"--output", folder_.Path().string(), "--script", script_};
+  TempFolder folder_;
+  std::string script_ = (folder_.path() / "script").string();
+  std::vector<std::string> options_{"--output", folder_.path().string(), "--script", script_};
 };
 
 TEST_F(Scripts, SayWhatGoesWrong) {
@@ -92,7 +93,7 @@ TEST_F(Scripts, StayOnSighupWhenTheNewOneIsWrong) {
 }
 
 TEST_F(Scripts, ThatWereNotGivenAreNotReadAgain) {
-  PrinterProcess printer({"--output", folder_.Path().string()});
+  PrinterProcess printer({"--output", folder_.path().string()});
   ASSERT_NE(printer.Port(), 0);
   printer.Signal(SIGHUP);
   EXPECT_EQ(printer.WaitForLine("script"), "there is no script to read again");

@@ -7,10 +7,11 @@
 #include <fstream>
 #include <sstream>
 
-#include "tests/unit/simulator/png_file.h"
+#include "tests/unit/png_file.h"
 #include "tests/unit/simulator/print_client.h"
 #include "tests/unit/simulator/printer_process.h"
-#include "tests/unit/simulator/stream_bytes.h"
+#include "tests/unit/stream_bytes.h"
+#include "tests/unit/temp_file.h"
 
 namespace {
 
@@ -23,18 +24,18 @@ constexpr std::size_t kPixels = 1552;  // of a job of one sheet
 
 class Sheets : public testing::Test {
  protected:
-  std::string InFolder(const std::string& name) const { return (folder_.Path() / name).string(); }
+  std::string InFolder(const std::string& name) const { return (folder_.path() / name).string(); }
 
   std::string Text(const std::string& name) const {
-    std::ifstream file(folder_.Path() / name);
+    std::ifstream file(folder_.path() / name);
     std::stringstream text;
     text << file.rdbuf();
     return text.str();
   }
 
-  TemporaryFolder folder_;
+  TempFolder folder_;
   // Pixels are held against what was sent.
-  PrinterProcess printer_{{"--output", folder_.Path().string(), "--device-values"}};
+  PrinterProcess printer_{{"--output", folder_.path().string(), "--device-values"}};
 };
 
 Bytes job_of(const Bytes& sheet) {

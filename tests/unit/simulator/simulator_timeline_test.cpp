@@ -10,7 +10,8 @@
 
 #include "tests/unit/simulator/print_client.h"
 #include "tests/unit/simulator/printer_process.h"
-#include "tests/unit/simulator/stream_bytes.h"
+#include "tests/unit/stream_bytes.h"
+#include "tests/unit/temp_file.h"
 
 namespace {
 
@@ -24,12 +25,12 @@ struct Line {
 class TimelineFile : public testing::Test {
  protected:
   std::vector<std::string> Options(const std::vector<std::string>& more = {}) const {
-    std::vector<std::string> options{"--output", folder_.Path().string(), "--timeline", Path()};
+    std::vector<std::string> options{"--output", folder_.path().string(), "--timeline", Path()};
     options.insert(options.end(), more.begin(), more.end());
     return options;
   }
 
-  std::string Path() const { return (folder_.Path() / "timeline").string(); }
+  std::string Path() const { return (folder_.path() / "timeline").string(); }
 
   std::vector<Line> Lines() const {
     std::vector<Line> lines;
@@ -53,7 +54,7 @@ class TimelineFile : public testing::Test {
     return text.str();
   }
 
-  TemporaryFolder folder_;
+  TempFolder folder_;
 };
 
 TEST_F(TimelineFile, HasEveryCommandWithTheBytesThatHadComeByThen) {
@@ -172,8 +173,8 @@ TEST_F(TimelineFile, BeginsAnewWithEachRun) {
 }
 
 TEST(TimelineOnAFullDisk, EndsWithALineAndStatus1) {
-  const TemporaryFolder folder;
-  PrinterProcess printer({"--output", folder.Path().string(), "--timeline", "/dev/full"});
+  const TempFolder folder;
+  PrinterProcess printer({"--output", folder.path().string(), "--timeline", "/dev/full"});
   ASSERT_TRUE(print(printer.Port(), stream::small_job()));
   EXPECT_EQ(printer.WaitForLine("failure"),
             "connection 1: failure: the timeline ends: No space left on device");
@@ -182,7 +183,7 @@ TEST(TimelineOnAFullDisk, EndsWithALineAndStatus1) {
             "connection 2: closed, 8 bytes, 0 sheets, 0 errors");
   EXPECT_THAT(printer.Lines(), testing::Not(testing::HasSubstr("connection 2: failure")));
   EXPECT_EQ(printer.Stop(), 1);
-  EXPECT_TRUE(std::filesystem::exists(folder.Path() / "sheet-0001.png"));
+  EXPECT_TRUE(std::filesystem::exists(folder.path() / "sheet-0001.png"));
 }
 
 }  // namespace

@@ -12,10 +12,11 @@
 #include <regex>
 #include <sstream>
 
-#include "tests/unit/simulator/png_file.h"
+#include "tests/unit/png_file.h"
 #include "tests/unit/simulator/print_client.h"
 #include "tests/unit/simulator/printer_process.h"
-#include "tests/unit/simulator/stream_bytes.h"
+#include "tests/unit/stream_bytes.h"
+#include "tests/unit/temp_file.h"
 
 namespace {
 
@@ -28,18 +29,18 @@ using testing::Not;
 class Views : public testing::Test {
  protected:
   std::vector<std::string> With(std::vector<std::string> options) const {
-    options.insert(options.end(), {"--output", folder_.Path().string()});
+    options.insert(options.end(), {"--output", folder_.path().string()});
     return options;
   }
 
-  PngFile Sheet() const { return read_png((folder_.Path() / "sheet-0001.png").string()); }
+  PngFile Sheet() const { return read_png((folder_.path() / "sheet-0001.png").string()); }
 
   std::string Index() const {
-    std::ifstream file(folder_.Path() / "index.html");
+    std::ifstream file(folder_.path() / "index.html");
     return {std::istreambuf_iterator<char>(file), {}};
   }
 
-  TemporaryFolder folder_;
+  TempFolder folder_;
 };
 
 std::string hour_and_minute() {
@@ -206,7 +207,7 @@ TEST_F(Views, KeepAContactSheetWithThumbnailsAndFields) {
   ASSERT_EQ(printer.Stop(), 0);
   EXPECT_THAT(folder_.Names(),
               ElementsAre("index.html", "sheet-0001.png", "sheets.txt", "thumbnails"));
-  const PngFile thumbnail = read_png((folder_.Path() / "thumbnails/sheet-0001.png").string());
+  const PngFile thumbnail = read_png((folder_.path() / "thumbnails/sheet-0001.png").string());
   EXPECT_EQ(thumbnail.width, 309U);
   EXPECT_EQ(thumbnail.height, 106U);
   EXPECT_THAT(thumbnail.At(308, 105), ElementsAre(128, 128, 128));
@@ -245,7 +246,7 @@ TEST_F(Views, RewriteTheContactSheetAfterEachSheet) {
 TEST_F(Views, TellOfAThumbnailThatCannotBeWritten) {
   PrinterProcess printer(With({"--contact-sheet"}));
   ASSERT_NE(printer.Port(), 0);
-  std::filesystem::remove(folder_.Path() / "thumbnails");
+  std::filesystem::remove(folder_.path() / "thumbnails");
   ASSERT_TRUE(print(printer.Port(), stream::small_job()));
   EXPECT_EQ(printer.WaitForLine("failure"),
             "connection 1: failure: sheet 1 has no thumbnail: No such file or directory");
@@ -256,8 +257,8 @@ TEST_F(Views, TellOfAThumbnailThatCannotBeWritten) {
 TEST_F(Views, TellOfAContactSheetThatCannotBeWritten) {
   PrinterProcess printer(With({"--contact-sheet"}));
   ASSERT_NE(printer.Port(), 0);
-  std::filesystem::remove(folder_.Path() / "index.html");
-  std::filesystem::create_directory(folder_.Path() / "index.html");
+  std::filesystem::remove(folder_.path() / "index.html");
+  std::filesystem::create_directory(folder_.path() / "index.html");
   ASSERT_TRUE(print(printer.Port(), stream::small_job()));
   EXPECT_EQ(printer.WaitForLine("failure"), "connection 1: failure: index.html: Is a directory");
   EXPECT_EQ(printer.Stop(), 1);

@@ -12,9 +12,8 @@
 #include <string>
 #include <vector>
 
-#include "status/state_reasons.h"
 #include "tests/reason_keywords.h"
-#include "tests/unit/capture.h"
+#include "tests/unit/status/report.h"
 
 namespace {
 
@@ -25,12 +24,6 @@ std::vector<ReasonKeyword> InTableOrder() {
               return one.error_number < other.error_number;
             });
   return reasons;
-}
-
-std::string Report(const PrinterState& state) {
-  Capture err(stderr);
-  update_printer_state(state);
-  return err.Text();
 }
 
 std::string Raised(const std::string& keyword, const std::string& state) {

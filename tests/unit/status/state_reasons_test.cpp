@@ -12,6 +12,7 @@
 
 #include "tests/reason_keywords.h"
 #include "tests/unit/capture.h"
+#include "tests/unit/status/report.h"
 #include "tests/unit/stderr_calls.h"
 
 using testing::EndsWith;
@@ -19,12 +20,6 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 namespace {
-
-std::string Report(const PrinterState& state) {
-  Capture err(stderr);
-  update_printer_state(state);
-  return err.Text();
-}
 
 /// What a state reports that no row knows.
 std::string Unmatched(const std::string& state) {

@@ -6,11 +6,11 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-#include "tests/unit/simulator/png_file.h"
-#include "tests/unit/simulator/test_profiles.h"
+#include "tests/unit/photo_files.h"
+#include "tests/unit/png_file.h"
 #include "tests/unit/temp_file.h"
-#include "tests/unit/tools/photo_files.h"
-#include "tests/unit/tools/tool_process.h"
+#include "tests/unit/test_profiles.h"
+#include "tests/unit/tool_process.h"
 
 namespace {
 

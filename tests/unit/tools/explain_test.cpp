@@ -6,7 +6,7 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-#include "tests/unit/tools/tool_process.h"
+#include "tests/unit/tool_process.h"
 
 namespace {
 

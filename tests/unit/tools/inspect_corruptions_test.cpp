@@ -6,8 +6,8 @@
 #include <ostream>
 #include <string>
 
-#include "tests/unit/simulator/stream_bytes.h"
-#include "tests/unit/tools/tool_process.h"
+#include "tests/unit/stream_bytes.h"
+#include "tests/unit/tool_process.h"
 
 // The five codes that a command may begin with.
 #define CODES "1B 47 44 30, 1B 47 44 33, 1B 53 50 30, 1B 5A 54 01, 1B 42 51 31"

@@ -7,9 +7,9 @@
 #include <random>
 #include <string>
 
-#include "tests/unit/simulator/stream_bytes.h"
+#include "tests/unit/stream_bytes.h"
 #include "tests/unit/temp_file.h"
-#include "tests/unit/tools/tool_process.h"
+#include "tests/unit/tool_process.h"
 
 namespace {
 
@@ -18,19 +18,15 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-std::string text_of(const stream::Bytes& bytes) {
-  return {bytes.begin(), bytes.end()};
-}
-
 std::string job() {
-  return text_of(stream::small_job());
+  return stream::text_of(stream::small_job());
 }
 
 // A half that the printer did not take: no pixels, no error.
 std::string questions() {
-  return text_of(stream::join({stream::status_request(), stream::status_request(),
-                               stream::readiness_query(stream::paper_5x15x2(), Finish::Matte),
-                               stream::print_out()}));
+  return stream::text_of(stream::join(
+      {stream::status_request(), stream::status_request(),
+       stream::readiness_query(stream::paper_5x15x2(), Finish::Matte), stream::print_out()}));
 }
 
 TEST(Inspect, ListsTheCommandsWithTheirFieldsByName) {
@@ -58,7 +54,7 @@ TEST(Inspect, ListsTheCommandsWithTheirFieldsByName) {
 }
 
 TEST(Inspect, ListsAWholeSheetWithTheSizesOfItsPlanes) {
-  const std::string bytes = text_of(
+  const std::string bytes = stream::text_of(
       stream::join({stream::status_request(),
                     stream::sheet(stream::paper_5x15(), Finish::Matte, {}), stream::print_out()}));
   EXPECT_EQ(run_tool({"inspect", "--brief", "-"}, bytes).out,
@@ -109,7 +105,7 @@ TEST(Inspect, SaysWhatItPassedOver) {
 }
 
 TEST(Inspect, NotesSamplesAbove14BitsWhichAreNoError) {
-  const std::string bytes = text_of(
+  const std::string bytes = stream::text_of(
       stream::join({stream::status_request(),
                     stream::sheet(stream::paper_5x15(), Finish::Gloss, {0xFF, 0x7F, 0, 0, 0, 0})}));
   const ToolRun run = run_tool({"inspect", "--brief", "-"}, bytes);
@@ -159,7 +155,7 @@ TEST(Inspect, WritesOneJsonDocument) {
 }
 
 TEST(Inspect, NamesThePlanesInJson) {
-  const std::string bytes = text_of(stream::join(
+  const std::string bytes = stream::text_of(stream::join(
       {stream::status_request(), stream::sheet(stream::paper_5x15(), Finish::Gloss, {})}));
   const ToolRun run = run_tool({"inspect", "--json", "-"}, bytes);
   EXPECT_EQ(nlohmann::json::parse(run.out)["commands"][5], nlohmann::json::parse(R"(

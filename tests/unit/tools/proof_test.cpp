@@ -6,10 +6,10 @@
 #include <algorithm>
 #include <string>
 
-#include "tests/unit/simulator/png_file.h"
-#include "tests/unit/simulator/stream_bytes.h"
+#include "tests/unit/png_file.h"
+#include "tests/unit/stream_bytes.h"
 #include "tests/unit/temp_file.h"
-#include "tests/unit/tools/tool_process.h"
+#include "tests/unit/tool_process.h"
 
 namespace {
 
@@ -17,16 +17,12 @@ using Rgb = PngFile::Rgb;
 using stream::Finish;
 using testing::HasSubstr;
 
-std::string text_of(const stream::Bytes& bytes) {
-  return {bytes.begin(), bytes.end()};
-}
-
 constexpr char kSheet[] =
     "1852 x 631, gloss, image 1852 x 631 at 0, 0, one print, mode auto, 2026-03-15 10:20:30";
 
 TEST(Proof, WritesEachSheetAsAPngAndSaysSo) {
   const TempFolder folder;
-  const std::string job = text_of(stream::small_job());
+  const std::string job = stream::text_of(stream::small_job());
   const ToolRun run = run_tool({"proof", "-", "-o", folder / "proofs"}, job + job);
   EXPECT_EQ(run.out, folder / "proofs/sheet-0001.png: " + kSheet + "\n" +
                          (folder / "proofs/sheet-0002.png: ") + kSheet + "\n2 sheets, 0 errors\n");
@@ -42,7 +38,7 @@ TEST(Proof, ShowsTheDeviceValuesWhenAsked) {
   const TempFolder folder;
   const ToolRun run =
       run_tool({"proof", "-", "--output", folder.path().string(), "--device-values"},
-               text_of(stream::small_job()));
+               stream::text_of(stream::small_job()));
   EXPECT_EQ(run.status, 0);
   const PngFile png = read_png(folder / "sheet-0001.png");
   EXPECT_FALSE(png.sRgb);
@@ -52,7 +48,7 @@ TEST(Proof, ShowsTheDeviceValuesWhenAsked) {
 TEST(Proof, DrawsTheEdgeOfAWhiteBorderWhenAsked) {
   const TempFolder plain;
   const TempFolder marked;
-  const std::string bytes = text_of(stream::join(
+  const std::string bytes = stream::text_of(stream::join(
       {stream::status_request(),
        stream::sheet(stream::paper_9x13_wb(), Finish::Gloss, {0xFF, 0x3F, 0xFF, 0x3F, 0xFF, 0x3F}),
        stream::print_out()}));
@@ -69,7 +65,7 @@ TEST(Proof, DrawsTheEdgeOfAWhiteBorderWhenAsked) {
 
 TEST(Proof, ProofsWhatItCanOfAStreamWithErrors) {
   const TempFolder folder;
-  std::string bytes = text_of(stream::small_job());
+  std::string bytes = stream::text_of(stream::small_job());
   bytes[5] = 2;
   const ToolRun run = run_tool({"proof", "-", "-o", folder.path().string()}, bytes);
   EXPECT_EQ(run.out, folder / "sheet-0001.png: " + kSheet + "\n1 sheet, 1 error\n");
@@ -80,7 +76,7 @@ TEST(Proof, ProofsWhatItCanOfAStreamWithErrors) {
 
 TEST(Proof, KeepsWhatCameOfASheetThatIsCutOff) {
   const TempFolder folder;
-  const std::string bytes = text_of(stream::small_job()).substr(0, 1552 + 1852 * 6 * 100);
+  const std::string bytes = stream::text_of(stream::small_job()).substr(0, 1552 + 1852 * 6 * 100);
   const ToolRun run =
       run_tool({"proof", "-", "-o", folder.path().string(), "--device-values"}, bytes);
   EXPECT_EQ(run.out, folder / "incomplete-0001.png: cut off, " + kSheet + "\n0 sheets, 1 error\n");
@@ -94,7 +90,7 @@ TEST(Proof, OfAJobWithoutSheetsIsFine) {
   const TempFolder folder;
   const ToolRun run =
       run_tool({"proof", "-", "-o", folder.path().string()},
-               text_of(stream::join({stream::status_request(), stream::print_out()})));
+               stream::text_of(stream::join({stream::status_request(), stream::print_out()})));
   EXPECT_EQ(run.out, "0 sheets, 0 errors\n");
   EXPECT_EQ(run.status, 0);
 }
@@ -108,7 +104,7 @@ TEST(Proof, NeverReplacesAnEarlierSheet) {
   const TempFolder folder;
   std::ofstream(folder / "sheet-0041.png") << "a print of last week";
   const ToolRun run =
-      run_tool({"proof", "-", "-o", folder.path().string()}, text_of(stream::small_job()));
+      run_tool({"proof", "-", "-o", folder.path().string()}, stream::text_of(stream::small_job()));
   EXPECT_THAT(run.out, HasSubstr("sheet-0042.png"));
   EXPECT_EQ(ReadFile(folder / "sheet-0041.png"), "a print of last week");
 }
@@ -155,7 +151,7 @@ TEST(Proof, OfASheetThatCannotBeWrittenHasNoAnswer) {
   const ToolRun run =
       run_program({"sh", "-c", "trap '' XFSZ; ulimit -f 1; exec \"$0\" proof - -o \"$1\"",
                    TQR7_TOOL, folder.path().string()},
-                  text_of(stream::small_job()));
+                  stream::text_of(stream::small_job()));
   EXPECT_THAT(run.errors, HasSubstr("tqr7 proof: "));
   EXPECT_EQ(run.status, 2);
 }
