@@ -14,6 +14,7 @@
 #include "bench/colour/page_conversion.h"
 #include "bench/colour/test_pictures.h"
 #include "tests/unit/profile_maker.h"
+#include "tests/unit/temp_file.h"
 
 namespace bench {
 
@@ -92,14 +93,14 @@ TEST_F(ColourFigures, AllColoursArePrintedAsTheProfileAsks) {
 class OwnersProfile : public testing::Test {
  protected:
   OwnersProfile() {
-    std::ofstream(folder_ + "tqr7.icc", std::ios::binary)
+    std::ofstream(owners_ / "tqr7.icc", std::ios::binary)
         .write(reinterpret_cast<const char*>(profile_.data()),
                static_cast<std::streamsize>(profile_.size()));
   }
-  ~OwnersProfile() override { std::remove((folder_ + "tqr7.icc").c_str()); }
 
   const ProfileBytes profile_ = dye_profile({.grid = 33});
-  const std::string folder_ = testing::TempDir();
+  const TempFolder owners_;
+  const std::string folder_ = owners_ / "";
 };
 
 TEST_F(OwnersProfile, IsFollowed) {
