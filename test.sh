@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: Apache-2.0
-# Builds and runs all tests, then each fuzz target for 20 seconds. ./test.sh
+# Builds and runs all tests, then each fuzz target for 5 seconds, or for FUZZ_SECONDS. ./test.sh
 # Only some of the tests, or with the sanitizers, and no fuzz targets: ./test.sh [--asan] [what ctest
 # takes, such as -L unit or -R Ppd]. Only the fuzz targets: ./test.sh --fuzz [seconds for each]
 set -euo pipefail
@@ -22,7 +22,7 @@ run_tests() {
 run_fuzz_targets() {
   install_packages "${TQR7_PACKAGES[@]}" "${TQR7_FUZZ_PACKAGES[@]}"
   build_preset fuzz "$here" fuzz_targets
-  "$here/tests/fuzz/run" --seconds "${1:-20}"
+  "$here/tests/fuzz/run" --seconds "$1"
 }
 
 case ${1:-} in
@@ -30,7 +30,7 @@ case ${1:-} in
     sed -n '3,5s/^# //p' "${BASH_SOURCE[0]}"
     ;;
   --fuzz)
-    run_fuzz_targets "${2:-20}"
+    run_fuzz_targets "${2:-${FUZZ_SECONDS:-5}}"
     ;;
   --asan)
     shift
@@ -38,7 +38,7 @@ case ${1:-} in
     ;;
   '')
     run_tests release
-    run_fuzz_targets
+    run_fuzz_targets "${FUZZ_SECONDS:-5}"
     ;;
   *)
     run_tests release "$@"

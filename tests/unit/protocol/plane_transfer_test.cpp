@@ -112,6 +112,14 @@ TEST_F(ImageTransfer, WithoutWidthOrHeightNothingIsSent) {
   }
 }
 
+TEST_F(ImageTransfer, ALastWriteThatFailsIsAFailureWithoutAMessage) {
+  std::vector<unsigned char> bits(60, 'x');
+  SingleWrites out(1);
+  const Transfer transfer = SendImage(out, Over(bits, 10, 1, 6));
+  EXPECT_FALSE(transfer.result);
+  EXPECT_EQ(transfer.err, "");
+}
+
 TEST_F(ImageTransfer, LeavesTheFlushToItsCaller) {
   Capture out(stdout);
   Capture err(stderr);
