@@ -27,7 +27,7 @@ expect_hardened phototopage program libcups.so libcupsimage.so libjpeg.so libpng
 expect_hardened rastertopage program libcups.so libcupsimage.so
 expect_hardened libTQR7mervale.so.1 library liblcms2.so
 expect_hardened tqr7-printer-sim program liblcms2.so libpng16.so
-expect_hardened tqr7 program libcups.so libjpeg.so libpng16.so liblcms2.so libarchive.so
+expect_hardened tqr7 program libcups.so libjpeg.so libpng16.so liblcms2.so libzimg.so libarchive.so
 
 # tqr7_core is the tests' own copy, whose calls of the C library a test takes over; what is installed
 # links tqr7_core_installed. Floors and what is measured beside them are installed nowhere.
