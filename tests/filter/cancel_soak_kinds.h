@@ -10,7 +10,7 @@
 #include <string>
 
 #include "tests/filter/filter_process.h"
-#include "tests/filter/papers.h"
+#include "tests/papers.h"
 
 namespace cancel_soak {
 

@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "tests/filter/papers.h"
 #include "tests/filter/raster_maker.h"
+#include "tests/papers.h"
 
 namespace filter_test {
 

@@ -2,7 +2,10 @@
 #include "tests/unit/stream_bytes.h"
 
 #include <algorithm>
+#include <iterator>
 #include <ostream>
+
+#include "tests/papers.h"
 
 namespace stream {
 namespace {
@@ -29,101 +32,27 @@ Bytes settings_block(const Paper& paper, Finish finish) {
   return block;
 }
 
+constexpr Paper paper_of(const filter_test::Paper& from) {
+  constexpr std::size_t kPrefix = 3;  // "RQ_"
+  Paper paper{from.choice + kPrefix, from.sheet, from.two_up, {}, from.matte, 0, 0};
+  std::copy(from.place.begin(), from.place.end(), paper.place.begin());
+  std::copy(from.image.begin(), from.image.end(), paper.place.begin() + 4);
+  paper.imageBytes =
+      (from.image[0] * 256U + from.image[1]) * (from.image[2] * 256U + from.image[3]) * 6U;
+  paper.matteBytes =
+      static_cast<std::size_t>(from.matte_width) * static_cast<std::size_t>(from.matte_height);
+  return paper;
+}
+
 }  // namespace
 
-const std::array<Paper, kPapers> papers{{
-    {"9x13",
-     {0x06, 0x0E, 0x04, 0x3A},
-     {0, 0, 0, 0},
-     {0, 0, 0, 0, 0x06, 0x0E, 0x04, 0x3A},
-     {0x06, 0x0E, 0x04, 0x46},
-     10062600,
-     1695700},
-    {"10x15",
-     {0x07, 0x3C, 0x04, 0xD0},
-     {0, 0, 0, 0},
-     {0, 0, 0, 0, 0x07, 0x3C, 0x04, 0xD0},
-     {0x07, 0x3C, 0x04, 0xDC},
-     13689984,
-     2303888},
-    {"13x18",
-     {0x06, 0x0E, 0x08, 0x56},
-     {0, 0, 0, 0},
-     {0, 0, 0, 0, 0x06, 0x0E, 0x08, 0x56},
-     {0x06, 0x0E, 0x08, 0x62},
-     19846200,
-     3326300},
-    {"15x20",
-     {0x07, 0x3C, 0x09, 0x82},
-     {0, 0, 0, 0},
-     {0, 0, 0, 0, 0x07, 0x3C, 0x09, 0x82},
-     {0x07, 0x3C, 0x09, 0x8E},
-     27046608,
-     4529992},
-    {"5x15x2_1",
-     {0x07, 0x3C, 0x04, 0xD0},
-     {1, 0x02, 0x68, 1},
-     {0, 0, 0, 0, 0x07, 0x3C, 0x04, 0xD0},
-     {0x07, 0x3C, 0x04, 0xDC},
-     13689984,
-     2303888},
-    {"5x15x2_2",
-     {0x07, 0x3C, 0x04, 0xD0},
-     {1, 0x02, 0x68, 1},
-     {0, 0, 0, 0, 0x07, 0x3C, 0x04, 0xD0},
-     {0x07, 0x3C, 0x04, 0xDC},
-     13689984,
-     2303888},
-    {"5x15",
-     {0x07, 0x3C, 0x02, 0x77},
-     {0, 0, 0, 0},
-     {0, 0, 0, 0, 0x07, 0x3C, 0x02, 0x77},
-     {0x07, 0x3C, 0x02, 0x83},
-     7011672,
-     1190836},
-    {"15x15",
-     {0x07, 0x3C, 0x07, 0x29},
-     {0, 0, 0, 0},
-     {0, 0, 0, 0, 0x07, 0x3C, 0x07, 0x29},
-     {0x07, 0x3C, 0x07, 0x35},
-     20368296,
-     3416940},
-    {"13x13",
-     {0x06, 0x0E, 0x05, 0xFD},
-     {0, 0, 0, 0},
-     {0, 0, 0, 0, 0x06, 0x0E, 0x05, 0xFD},
-     {0x06, 0x0E, 0x06, 0x09},
-     14256900,
-     2394750},
-    {"9x13_WB",
-     {0x06, 0x0E, 0x04, 0x3A},
-     {0, 0, 0, 0},
-     {0, 0x54, 0, 0x4A, 0x05, 0x66, 0x03, 0xA6},
-     {0x06, 0x0E, 0x04, 0x46},
-     7744728,
-     1695700},
-    {"10x15_WB",
-     {0x07, 0x3C, 0x04, 0xD0},
-     {0, 0, 0, 0},
-     {0, 0x54, 0, 0x4A, 0x06, 0x94, 0x04, 0x3C},
-     {0x07, 0x3C, 0x04, 0xDC},
-     10952736,
-     2303888},
-    {"13x18_WB",
-     {0x06, 0x0E, 0x08, 0x56},
-     {0, 0, 0, 0},
-     {0, 0x54, 0, 0x4A, 0x05, 0x66, 0x07, 0xC2},
-     {0x06, 0x0E, 0x08, 0x62},
-     16467912,
-     3326300},
-    {"15x20_WB",
-     {0x07, 0x3C, 0x09, 0x82},
-     {0, 0, 0, 0},
-     {0, 0x54, 0, 0x4A, 0x06, 0x94, 0x08, 0xEE},
-     {0x07, 0x3C, 0x09, 0x8E},
-     23097744,
-     4529992},
-}};
+// Other files use it before main begins.
+constinit const std::array<Paper, kPapers> papers = [] {
+  std::array<Paper, kPapers> all{};
+  std::transform(std::begin(filter_test::kPapers), std::end(filter_test::kPapers), all.begin(),
+                 paper_of);
+  return all;
+}();
 
 void PrintTo(const Paper& paper, std::ostream* out) {
   *out << paper.name;

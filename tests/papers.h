@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // The 13 paper sizes as the printer is told of them: dots for the pages, bytes for the headers.
-#ifndef TQR7_TESTS_FILTER_PAPERS_H
-#define TQR7_TESTS_FILTER_PAPERS_H
+#ifndef TQR7_TESTS_PAPERS_H
+#define TQR7_TESTS_PAPERS_H
 
 #include <array>
 
@@ -81,4 +81,4 @@ inline constexpr const Paper& k9x13WhiteBorder = kPapers[9];
 
 }  // namespace filter_test
 
-#endif  // TQR7_TESTS_FILTER_PAPERS_H
+#endif  // TQR7_TESTS_PAPERS_H
