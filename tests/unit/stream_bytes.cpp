@@ -37,8 +37,9 @@ constexpr Paper paper_of(const filter_test::Paper& from) {
   Paper paper{from.choice + kPrefix, from.sheet, from.two_up, {}, from.matte, 0, 0};
   std::copy(from.place.begin(), from.place.end(), paper.place.begin());
   std::copy(from.image.begin(), from.image.end(), paper.place.begin() + 4);
-  paper.imageBytes =
-      (from.image[0] * 256U + from.image[1]) * (from.image[2] * 256U + from.image[3]) * 6U;
+  const std::size_t width = from.image[0] * 256U + from.image[1];
+  const std::size_t height = from.image[2] * 256U + from.image[3];
+  paper.imageBytes = width * height * 6;
   paper.matteBytes =
       static_cast<std::size_t>(from.matte_width) * static_cast<std::size_t>(from.matte_height);
   return paper;
