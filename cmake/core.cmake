@@ -3,8 +3,8 @@
 # The filter's folders but for its main. MVChangeImage stays undefined here: whoever links them
 # brings a conversion library, or a test's stand-in.
 #
-# There are two builds of them: what is installed has the C library's checked calls, and in the library
-# for tests and tools each call can be replaced.
+# An optimized build has them twice: what is installed has the C library's checked calls, and in the
+# library for tests and tools each call can be replaced. Other builds have no checked calls.
 set(TQR7_CORE_SOURCES
   diag/csv_values.cpp
   diag/dump.cpp
@@ -38,7 +38,11 @@ set(TQR7_CORE_SOURCES
   status/state_reasons.cpp
   status/status_query.cpp)
 
-foreach(library tqr7_core tqr7_core_installed)
+set(libraries tqr7_core)
+if(NOT TQR7_SANITIZE AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
+  list(APPEND libraries tqr7_core_installed)
+endif()
+foreach(library IN LISTS libraries)
   add_library(${library} STATIC ${TQR7_CORE_SOURCES})
   target_include_directories(${library} PUBLIC "${PROJECT_SOURCE_DIR}")
   target_link_libraries(${library} PUBLIC Cups::Cups "${CUPSIMAGE_LIBRARY}")
@@ -47,14 +51,20 @@ foreach(library tqr7_core tqr7_core_installed)
   target_compile_options(${library} PRIVATE -Wno-deprecated-declarations ${TQR7_OVER_PIXELS})
 endforeach()
 set_target_properties(tqr7_core PROPERTIES TQR7_REPLACEABLE_CALLS ON)
+if(NOT TARGET tqr7_core_installed)
+  add_library(tqr7_core_installed ALIAS tqr7_core)
+endif()
 
+# tqr7_counted(TARGET...): which lines and branches of these run is counted, where TQR7_COVERAGE is on.
 # The tests are not counted, only what they reach. A process that ends by _exit has to write its
 # counts itself: tests/filter/interposed_calls.cpp calls __gcov_dump for it, where it finds one.
-if(TQR7_COVERAGE)
-  set(TQR7_COUNTING --coverage -fprofile-abs-path)
-  foreach(library tqr7_core tqr7_core_installed)
-    target_compile_options(${library} PRIVATE ${TQR7_COUNTING})
-    target_link_options(${library} PUBLIC --coverage
-      "LINKER:--undefined=__gcov_dump,--export-dynamic-symbol=__gcov_dump")
-  endforeach()
-endif()
+function(tqr7_counted)
+  if(TQR7_COVERAGE)
+    foreach(target IN LISTS ARGN)
+      target_compile_options(${target} PRIVATE --coverage -fprofile-abs-path)
+      target_link_options(${target} PUBLIC --coverage
+        "LINKER:--undefined=__gcov_dump,--export-dynamic-symbol=__gcov_dump")
+    endforeach()
+  endif()
+endfunction()
+tqr7_counted(tqr7_core)

@@ -49,7 +49,7 @@ int expand_time(char* out, std::size_t room) {
   if (const std::tm* local = std::localtime(&now); local != nullptr) {
     text[0] = '\0';
     if (std::strftime(text, sizeof text, "%Y%m%d_%H%M%S", local) == 0) {
-      text[0] = '\0';
+      text[0] = '\0';  // GCOVR_EXCL_LINE: no time needs the 64 bytes
     }
   }
   return std::snprintf(out, room, "%s", text);

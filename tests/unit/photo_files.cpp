@@ -139,9 +139,26 @@ std::vector<std::uint8_t> exif_data(std::uint8_t orientation) {
           3,   0,   0, 0,  1, 0, orientation, 0, 0, 0, 0,    0,    0};
 }
 
-std::string png_claim(std::uint32_t width, std::uint32_t height, bool inSteps) {
+namespace {
+
+std::string png_header(std::uint32_t width, std::uint32_t height, bool inSteps) {
   const std::string rest(std::string("\x08\x02\x00\x00", 4) +
                          (inSteps ? '\1' : '\0'));  // 8-bit RGB
-  return "\x89PNG\r\n\x1A\n" + chunk("IHDR" + big_endian(width) + big_endian(height) + rest) +
-         chunk("IDAT") + chunk("IEND");
+  return "\x89PNG\r\n\x1A\n" + chunk("IHDR" + big_endian(width) + big_endian(height) + rest);
+}
+
+}  // namespace
+
+std::string png_claim(std::uint32_t width, std::uint32_t height, bool inSteps) {
+  return png_header(width, height, inSteps) + chunk("IDAT") + chunk("IEND");
+}
+
+std::string png_dot(const std::string& rgb, const std::string& marks) {
+  const std::string row = std::string(1, '\0') + rgb;  // as it is, without a filter
+  std::string packed(64, '\0');
+  uLongf length = packed.size();
+  compress(reinterpret_cast<Bytef*>(packed.data()), &length,
+           reinterpret_cast<const Bytef*>(row.data()), row.size());
+  return png_header(1, 1, true) + chunk(marks) + chunk("IDAT" + packed.substr(0, length)) +
+         chunk("IEND");
 }

@@ -37,4 +37,7 @@ std::string jpeg_claim(std::uint16_t width, std::uint16_t height, bool inSteps =
 /// A PNG that claims a size, to be shown in steps or from top to bottom, and has no pixels.
 std::string png_claim(std::uint32_t width, std::uint32_t height, bool inSteps = false);
 
+/// A PNG of one dot, to be shown in steps. `marks` is a chunk that comes before it: type and data.
+std::string png_dot(const std::string& rgb, const std::string& marks);
+
 #endif  // TQR7_TESTS_UNIT_PHOTO_FILES_H

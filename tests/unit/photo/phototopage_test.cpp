@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "tests/unit/photo/filter_run.h"
 #include "tests/unit/photo_files.h"
 #include "tests/unit/raster_bytes.h"
 #include "tests/unit/temp_file.h"
-#include "tests/unit/tool_process.h"
 
 namespace {
 
@@ -23,8 +23,7 @@ constexpr Rgb kYellow = {210, 180, 90};
 
 ToolRun run_on(const std::string& file, const std::string& options,
                const std::string& copies = "1") {
-  return run_program({"env", std::string("PPD=") + TQR7_PPD, "LC_ALL=C", PHOTOTOPAGE, "7", "anna",
-                      "Beach", copies, options, file});
+  return run_filter(PHOTOTOPAGE, {copies, options, file});
 }
 
 // A photo of four quarters, as make-photo leaves it.
@@ -195,9 +194,8 @@ TEST_F(Phototopage, ChangesTonesAsTheJobSays) {
 }
 
 TEST_F(Phototopage, ReadsStandardInputWithoutAFile) {
-  const ToolRun run = run_program({"env", std::string("PPD=") + TQR7_PPD, PHOTOTOPAGE, "7", "anna",
-                                   "Beach", "1", "PageSize=RQ_10x15 print-scaling=fill"},
-                                  ReadFile(Make("photo.jpg", 926, 616)));
+  const ToolRun run = run_filter(PHOTOTOPAGE, {"1", "PageSize=RQ_10x15 print-scaling=fill"},
+                                 ReadFile(Make("photo.jpg", 926, 616)));
   EXPECT_EQ(run.status, 0) << run.errors;
   expect_quarters(pages_of(run.out).at(0), {kRed, kGreen, kBlue, kYellow});
 }
@@ -285,6 +283,19 @@ TEST_F(Phototopage, SaysThatThereIsNoPpd) {
                                    "1", "", Make("photo.png", 30, 20)});
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.errors, "ERROR: The photo was not printed: the queue's PPD file cannot be read.\n");
+}
+
+TEST_F(Phototopage, SaysThatItCannotWrite) {
+  const std::string command =
+      "trap '' PIPE; '" PHOTOTOPAGE "' 7 anna Beach 1 '' '" + Make("photo.png", 926, 616);
+  const std::string said = "INFO: Reading the photo.\n";
+  const std::string notPrinted = "ERROR: The photo was not printed: ";
+  const auto run = [&](const std::string& output) {
+    return run_program({"env", "PPD=" TQR7_PPD, "LC_ALL=C", "sh", "-c", command + output}).errors;
+  };
+  EXPECT_EQ(run("' >/dev/full"), said + notPrinted + "no page can be written.\n");
+  EXPECT_THAT(run("' | head -c 4"),
+              HasSubstr(notPrinted + "the printer's filter takes no more.\n"));
 }
 
 // The scheduler forgets what it has not read when it sees the end of the program.

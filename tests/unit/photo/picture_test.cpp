@@ -7,6 +7,9 @@
 
 #include <string>
 
+#include "tests/unit/png_file.h"
+#include "tests/unit/temp_file.h"
+
 namespace photo {
 namespace {
 
@@ -87,6 +90,19 @@ TEST(PictureTurn, MirrorsRowsOfAnyLength) {
   Picture odd = picture_of("abc", 3);
   mirror(odd);
   EXPECT_EQ(letters_of(odd), "cba");
+}
+
+TEST(WrittenPicture, IsAPngOfTheSamePixels) {
+  const TempFolder folder;
+  ASSERT_EQ(write_picture(folder / "p.png", picture_of("abc/def", 3)), "");
+  const PngFile read = read_png(folder / "p.png");
+  EXPECT_EQ(read.width, 3U);
+  EXPECT_EQ(read.height, 2U);
+  EXPECT_EQ(read.At(2, 1), (PngFile::Rgb{'f', 255, 'f'}));
+}
+
+TEST(WrittenPicture, SaysWhyThereIsNone) {
+  EXPECT_EQ(write_picture("/nonexistent/p.png", picture_of("a", 1)), "No such file or directory");
 }
 
 }  // namespace

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/unit/photo/filter_run.h"
 #include "tests/unit/raster_bytes.h"
-#include "tests/unit/tool_process.h"
 
 namespace {
 
@@ -17,9 +17,7 @@ using testing::SizeIs;
 constexpr Rgb kGrey = {100, 110, 120};
 
 ToolRun run_rastertopage(const std::string& stream, const std::string& options) {
-  return run_program({"env", std::string("PPD=") + TQR7_PPD, "LC_ALL=C", RASTERTOPAGE, "7", "anna",
-                      "Beach", "1", options},
-                     stream);
+  return run_filter(RASTERTOPAGE, {"1", options}, stream);
 }
 
 std::vector<RasterPage> pages_after(const std::string& stream, const std::string& options) {
@@ -127,6 +125,24 @@ TEST(Rastertopage, RefusesALineThatIsShorterThanItsDots) {
   RasterPage page = flat_page(10, 10, kGrey);
   page.header.cupsWidth = 60000;
   expect_refused(stream_of({page}), "cannot be printed: their raster is not 8-bit RGB");
+}
+
+TEST(Rastertopage, SaysThatItCannotWrite) {
+  const std::string notPrinted = "ERROR: The pages were not printed: ";
+  const auto run = [](const std::string& output) {
+    const std::string command = "trap '' PIPE; '" RASTERTOPAGE "' 7 anna Beach 1 '' ";
+    return run_program({"env", "PPD=" TQR7_PPD, "LC_ALL=C", "sh", "-c", command + output},
+                       stream_of({flat_page(1852, 1232, kGrey)}))
+        .errors;
+  };
+  EXPECT_EQ(run(">/dev/full"), notPrinted + "no page can be written.\n");
+  EXPECT_EQ(run("| head -c 4"), notPrinted + "the printer's filter takes no more.\n");
+}
+
+TEST(Rastertopage, SaysThatThereIsNoFile) {
+  const ToolRun run = run_filter(RASTERTOPAGE, {"1", "", "/nonexistent"});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.errors, "ERROR: The pages were not printed: their file cannot be read.\n");
 }
 
 }  // namespace
