@@ -142,6 +142,8 @@ void Resampling::Unpack(std::size_t row) {
     for (std::size_t x = 0; x < width_; ++x, from += kPlanes) {
       to[x] = tables_.toSample[*from];
     }
+    // zimg reads whole vectors, and weighs what lies beyond the row with 0.
+    std::fill(to + width_, to + from_.StrideBytes() / sizeof(std::uint16_t), std::uint16_t{0});
   }
 }
 
