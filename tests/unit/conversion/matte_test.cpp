@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 //
-// The matte texture's rows: their bytes, their sums, and how evenly the overcoat is spread.
+// The matte texture's rows: their bytes, their sums and their levels. How even the texture looks is
+// tested on a whole sheet (page_matte_test.cpp).
 #include "conversion/matte.h"
 
 #include <gtest/gtest.h>
@@ -36,14 +37,6 @@ int dot(std::size_t x, std::size_t y) {
   return plane()[y * kPlaneWidth + x];
 }
 
-Plane column_of(std::size_t x) {
-  Plane column;
-  for (std::size_t y = 0; y < kPlaneHeight; ++y) {
-    column.push_back(plane()[y * kPlaneWidth + x]);
-  }
-  return column;
-}
-
 double mean_of(const Plane& values) {
   return std::accumulate(values.begin(), values.end(), 0.0) / static_cast<double>(values.size());
 }
@@ -55,34 +48,6 @@ double deviation_of(const Plane& values) {
     squares += (value - mean) * (value - mean);
   }
   return std::sqrt(squares / static_cast<double>(values.size()));
-}
-
-/// The root mean square of the differences between column x of the tile and the next.
-double step_to_the_next_column(std::size_t x) {
-  double squares = 0;
-  for (std::size_t y = 0; y < kTile; ++y) {
-    squares += (dot(x + 1, y) - dot(x, y)) * (dot(x + 1, y) - dot(x, y));
-  }
-  return std::sqrt(squares / static_cast<double>(kTile));
-}
-
-double step_to_the_next_row(std::size_t y) {
-  double squares = 0;
-  for (std::size_t x = 0; x < kTile; ++x) {
-    squares += (dot(x, y + 1) - dot(x, y)) * (dot(x, y + 1) - dot(x, y));
-  }
-  return std::sqrt(squares / static_cast<double>(kTile));
-}
-
-/// How far the mean of a square of 16 × 16 dots lies from the middle.
-double cloud_at(std::size_t left, std::size_t top) {
-  double sum = 0;
-  for (std::size_t y = top; y < top + 16; ++y) {
-    for (std::size_t x = left; x < left + 16; ++x) {
-      sum += dot(x, y) - kMatteMiddle;
-    }
-  }
-  return sum / 256.0;
 }
 
 TEST(Matte, TheTextureIsFixedDownToItsBytes) {
@@ -151,50 +116,6 @@ TEST(Matte, EachLevelFrom63To255ComesEquallyOftenAndNoOther) {
 TEST(Matte, TheOvercoatSwingsAroundItsMiddle) {
   EXPECT_NEAR(mean_of(plane()), 159.0, 0.1);
   EXPECT_NEAR(deviation_of(plane()), 55.7, 0.1);
-}
-
-TEST(Matte, EveryRowAndEveryColumnHasGrain) {
-  for (std::size_t y = 0; y < kPlaneHeight; ++y) {
-    EXPECT_GT(
-        deviation_of(Plane(&plane()[y * kPlaneWidth], &plane()[y * kPlaneWidth] + kPlaneWidth)),
-        50.0)
-        << "row " << y;
-  }
-  for (std::size_t x = 0; x < kPlaneWidth; ++x) {
-    EXPECT_GT(deviation_of(column_of(x)), 50.0) << "column " << x;
-  }
-}
-
-TEST(Matte, SquaresOfSixteenDotsAreAllAlikeToAnEyeAtArmsLength) {
-  // 16 dots are 1.4 mm. Plain noise of this strength would differ by 3.5 from square to square.
-  double squares = 0;
-  for (std::size_t top = 0; top < 512; top += 16) {
-    for (std::size_t left = 0; left < 592; left += 16) {
-      squares += cloud_at(left, top) * cloud_at(left, top);
-    }
-  }
-  EXPECT_LT(std::sqrt(squares / (32.0 * 37.0)), 0.8);
-}
-
-TEST(Matte, SquaresAcrossASeamAreNoDarkerAndNoLighterThanOthers) {
-  double acrossColumns = 0;
-  double acrossRows = 0;
-  for (std::size_t at = 0; at < kTile; at += 2) {
-    acrossColumns += cloud_at(kTile - 8, at) * cloud_at(kTile - 8, at);
-    acrossRows += cloud_at(at, kTile - 8) * cloud_at(at, kTile - 8);
-  }
-  EXPECT_LT(std::sqrt(acrossColumns / 128), 0.85);
-  EXPECT_LT(std::sqrt(acrossRows / 128), 0.85);
-}
-
-TEST(Matte, TheStepAcrossASeamIsAsLargeAsAnyOther) {
-  // Dots that know nothing of each other would differ by 78.8; here neighbours are contrary.
-  for (std::size_t at = 0; at < kTile - 1; ++at) {
-    EXPECT_NEAR(step_to_the_next_column(at), 88.9, 9.5) << "column " << at;
-    EXPECT_NEAR(step_to_the_next_row(at), 88.9, 9.5) << "row " << at;
-  }
-  EXPECT_NEAR(step_to_the_next_column(kTile - 1), 88.9, 3.0);
-  EXPECT_NEAR(step_to_the_next_row(kTile - 1), 88.9, 3.0);
 }
 
 }  // namespace
