@@ -3,24 +3,24 @@
 // Finds out whether the driver or a person stopped a queue.
 //
 // The scheduler does not record who stopped a queue. So it counts as stopped by the driver only if
-// there is a trace that a person never leaves. The traces that the scheduler shows (CUPS 2.4):
+// there is a trace that a person never leaves. The traces that the scheduler shows (CUPS 2.4) are
+// these.
 //
-// - The driver pauses the queue for a refused sheet. The job is stopped, and has the reason
-// "paused" and
-//   the driver's word ("driver-setting-unmuch 0x0200"), or a later complaint of another program. It
-//   keeps the word even when it is cancelled afterwards. When a person stops a queue that prints,
-//   the job is pending, even if that happens in the driver's last second. After a change of the
-//   queue's settings the job is pending as well, but then the driver's word is also the queue's
-//   message.
-// - The error policy "stop-printer" stops the queue because the backend failed. The job is pending
-// with
-//   the reason "printer-stopped", and has the backend's words, or the driver's reason and a later
-//   complaint of another program.
-// - When a person stops an idle queue, even one that the driver has paused, the queue's message
-// becomes
-//   "Paused" or the person's own words. When a person stops a queue that prints, the message
-//   becomes empty. So the message must be one that a program of a print job writes, in any
-//   language. A person who uses the same words is mistaken for the driver.
+// After a refused sheet the driver pauses the queue. The job is stopped, and has the reason
+// "paused" and the driver's word ("driver-setting-unmuch 0x0200"), or a later complaint of another
+// program. It keeps the word even when it is cancelled afterwards. When a person stops a queue that
+// prints, the job is pending, even if that happens in the driver's last second. After a change of
+// the queue's settings the job is pending as well, but then the driver's word is also the queue's
+// message.
+//
+// The error policy "stop-printer" stops the queue because the backend failed. The job is pending
+// with the reason "printer-stopped", and has the backend's words, or the driver's reason and a
+// later complaint of another program.
+//
+// When a person stops an idle queue, even one that the driver has paused, the queue's message
+// becomes "Paused" or the person's own words. When a person stops a queue that prints, the message
+// becomes empty. So the message must be one that a program of a print job writes, in any language.
+// A person who uses the same words is mistaken for the driver.
 #ifndef TQR7_TOOLS_STANDSTILL_H
 #define TQR7_TOOLS_STANDSTILL_H
 
